@@ -1,0 +1,10 @@
+#pragma once
+// The subdirectory marker at the end of a path entry ("/**", string 15723).
+#include <string>
+
+// True when `path` ends in the marker.
+bool TestSub(const std::string& path);
+// `path` with the marker, added once.
+std::string WithSub(const std::string& path);
+// `path` without its trailing marker.
+std::string WoutSub(const std::string& path);

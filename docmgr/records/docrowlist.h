@@ -1,0 +1,63 @@
+#pragma once
+// The rows of the document list: collecting them through the per-directory index
+// files, filtering, sorting, and walking the selected ones.
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "docmgr/records/docinfo.h"
+#include "docmgr/records/docsource.h"
+
+class ImplDocConfig;
+class KxFileStream;
+
+class DocRowList {
+public:
+    explicit DocRowList(DocSource& source);
+    ~DocRowList();
+
+    void SetConfig(const ImplDocConfig* config) { config_ = config; }
+    void SetDirFileName(const std::string& name) { dirFileName_ = name; }
+    const std::string& GetDirFileName() const { return dirFileName_; }
+
+    // Empties the list, reads every ";"-separated token of `pathList` (a token ending in
+    // the subdirectory marker with its subtree), filters and sorts. Clears NeedsCollect.
+    void CollectFiles(const std::string& pathList);
+    // Reads and maintains the index of `dir`, appends its documents; with `withSubdirs`
+    // the subdirectories follow, depth first (never twice round a link cycle).
+    void ReadWriteDocInfos(const std::string& dir, bool withSubdirs);
+    // Writes the 728-byte record of `info` at the stream's position.
+    static bool WriteDirFileEntry(KxFileStream& stream, const DocInfo* info);
+    // Sorts by the working group's sort column (no sort for 65535).
+    void SortFiles();
+    // Removes every row of `path`; returns the removed row positions, highest first.
+    std::vector<long> RowRemoved(const std::string& path);
+    // Removes the rows the working group's filter rejects.
+    void ApplyFilter();
+
+    bool NeedsCollect() const { return needsCollect_; }
+    long GetRowCount() const { return long(rows_.size()); }
+    const DocInfo& Row(long row) const { return *rows_[size_t(row)]; }
+    const std::vector<std::unique_ptr<DocInfo>>& Rows() const { return rows_; }
+    // Replaces the DocInfo of `row` (after its document was edited).
+    void ReplaceRow(long row, std::unique_ptr<DocInfo> info);
+    void Clear();
+
+    // Path of the first / next selected row, or null; valid until the next call.
+    const std::string* GetFirstDoc(const DocSelection& selection);
+    const std::string* GetNextDoc(const DocSelection& selection);
+
+private:
+    struct DirVisit;
+    void ReadDir(const std::string& dir, bool withSubdirs, DirVisit& visit);
+
+    DocSource& source_;
+    const ImplDocConfig* config_ = nullptr;
+    std::string dirFileName_ = ".docindex";
+    std::vector<std::unique_ptr<DocInfo>> rows_;
+    bool needsCollect_ = true;
+    std::string currentDoc_;
+    long currentRow_ = -1;
+    size_t dirsRead_ = 0;
+};

@@ -1,0 +1,27 @@
+#pragma once
+// What the row list needs from its owner: document information for a file, and which
+// rows are selected.
+#include <cstddef>
+#include <memory>
+#include <string>
+
+#include "docmgr/records/docinfo.h"
+
+class DocSource {
+public:
+    virtual ~DocSource() = default;
+    // A new DocInfo for the file at `path`, or null when it is not a document.
+    virtual std::unique_ptr<DocInfo> CreateDocInfo(const std::string& path) = 0;
+    // Called now and then while a collection runs (directories and documents so far).
+    virtual void CollectProgress(size_t /*dirs*/, size_t /*docs*/) {}
+};
+
+// The selected rows, in ascending order, as the list view reports them.
+class DocSelection {
+public:
+    virtual ~DocSelection() = default;
+    // First selected row, or -1.
+    virtual long FirstSelected() const = 0;
+    // Next selected row after `row`, or -1.
+    virtual long NextSelected(long row) const = 0;
+};

@@ -1,0 +1,61 @@
+#pragma once
+// File system helpers over std::filesystem, with error codes instead of exceptions.
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace fsutil {
+
+// One entry of a directory listing.
+struct DirItem {
+    std::string name;      // last component, UTF-8
+    uint64_t size = 0;     // bytes (files only)
+    int64_t mtimeNs = 0;   // modification time, ns since the epoch
+};
+
+enum class Kind { Files, Dirs };
+
+// Entries of `dir` of the given kind whose names match `pattern` (";"-separated
+// alternatives, case-insensitive), in the order the file system gives them.
+// An unreadable or missing directory yields an empty list.
+std::vector<DirItem> List(const std::string& dir, std::string_view pattern, Kind kind);
+
+bool IsDirectory(const std::string& path);
+bool IsFile(const std::string& path);
+bool Exists(const std::string& path);
+// Size and modification time; false when the file cannot be stat'ed.
+bool Stat(const std::string& path, uint64_t& size, int64_t& mtimeNs);
+uint64_t FileSize(const std::string& path);
+
+// Absolute, lexically normal form without a trailing delimiter (except the root).
+std::string Absolute(const std::string& path);
+std::string FileName(const std::string& path);
+// Directory part, absolute, without trailing delimiter.
+std::string DirName(const std::string& path);
+std::string Join(const std::string& dir, const std::string& name);
+// Device and inode of a directory, to recognise link cycles.
+bool Identity(const std::string& path, uint64_t& dev, uint64_t& ino);
+
+// Changes the process's current directory and restores it when it goes out of scope.
+class CurrentDirGuard {
+public:
+    explicit CurrentDirGuard(const std::string& dir);
+    ~CurrentDirGuard();
+    CurrentDirGuard(const CurrentDirGuard&) = delete;
+    CurrentDirGuard& operator=(const CurrentDirGuard&) = delete;
+    bool Entered() const { return entered_; }
+
+private:
+    std::filesystem::path saved_;
+    bool entered_ = false;
+};
+
+// File operations that never overwrite: each fails when the target exists.
+// They return 0 on success, else an errno value.
+int CopyFile(const std::string& source, const std::string& target);
+int MoveFile(const std::string& source, const std::string& target);  // rename, no replace
+int Remove(const std::string& path);
+int MakeDir(const std::string& path);
+
+}  // namespace fsutil
