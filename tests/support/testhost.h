@@ -1,0 +1,52 @@
+#pragma once
+// A host for widget tests: its CreateDocInfo returns known information derived from
+// the file name, counts its calls, and its ChangeDocInfo answers as the test says.
+#include <map>
+#include <string>
+
+#include "docmgr/manager/docmanager.h"
+#include "docmgr/tools/fsutil.h"
+
+class TestHost : public DocManager {
+public:
+    using DocManager::DocManager;
+
+    // Information returned for a file name; files not listed get a title equal to their
+    // name, created 2020-01-02 10:00:00 and never printed.
+    std::map<std::string, DocInfo> known;
+    // File names that are not documents.
+    std::map<std::string, bool> notDocuments;
+    int createCalls = 0;
+    int changeCalls = 0;
+    bool changeResult = false;
+
+    std::unique_ptr<DocInfo> CreateDocInfo(const std::string& file) override
+    {
+        ++createCalls;
+        const std::string name = fsutil::FileName(file);
+        if (notDocuments.count(name))
+            return nullptr;
+        auto info = std::make_unique<DocInfo>();
+        if (auto it = known.find(name); it != known.end()) {
+            *info = it->second;
+        } else {
+            info->title = name;
+            info->author = "Tester";
+            info->createdDate = Date(2, 1, 2020);
+            info->createdTime = Time(10, 0, 0);
+            info->modifiedDate = info->createdDate;
+            info->modifiedTime = info->createdTime;
+            info->printedDate = info->createdDate;
+            info->printedTime = info->createdTime;
+            info->printedBy = info->author;
+        }
+        info->entry = file;
+        return info;
+    }
+
+    bool ChangeDocInfo(QWidget*, const std::string&) override
+    {
+        ++changeCalls;
+        return changeResult;
+    }
+};
