@@ -69,7 +69,12 @@ public:
     uint16_t CurrentPosition() const { return uint16_t(actualGroup - 1); }
 
 private:
+    // Writes the section of user group `group` (no flush).
     void WriteGroup(uint16_t group);
+    // Writes the 20 column widths of the group addressed by `group` (no flush).
+    void WriteColumnWidths(uint16_t group);
+    // Makes the first group of a configuration that had none, and saves it.
+    void MakeFirstGroup(const std::string& defaultFilter, const Inform& inform);
 
     std::vector<std::shared_ptr<DocGroupConfig>> groups_;  // element 0: working group
     Config* config_ = nullptr;

@@ -1,0 +1,41 @@
+// Construction and copying of one group's settings.
+#include "docmgr/config/docgroupconfig.h"
+
+#include "docmgr/tools/datetime.h"
+
+DocGroupConfig::DocGroupConfig()
+    : filterFiles("*")
+{
+    const uint32_t today = Date::Today().GetDate();
+    const uint32_t now = uint32_t(Time::Now().GetTime());
+    filterField = {NO_COLUMN, 1, 1};
+    filterDate.fill(today);
+    filterTime.fill(now);
+    for (unsigned i = 0; i < COLUMN_SLOTS; ++i) {
+        columnId[i] = uint16_t(i + 1);
+        columnWidth[i] = NO_COLUMN;
+    }
+    for (unsigned i = 0; i < infoLabel.size(); ++i)
+        infoLabel[i] = "Info " + std::to_string(i);
+}
+
+// A new group takes the look of its template, never its identity, text filters or
+// directories: those start empty.
+DocGroupConfig::DocGroupConfig(const DocGroupConfig& pattern)
+    : filterFiles(pattern.filterFiles),
+      filterSensitive(pattern.filterSensitive),
+      filterField(pattern.filterField),
+      filterCondition(pattern.filterCondition),
+      filterDate(pattern.filterDate),
+      filterTime(pattern.filterTime),
+      filterLink(pattern.filterLink),
+      sortColumnId(pattern.sortColumnId),
+      sortAscending(pattern.sortAscending),
+      columnId(pattern.columnId),
+      columnWidth(pattern.columnWidth),
+      frozenColumns(pattern.frozenColumns),
+      infoLabel(pattern.infoLabel)
+{
+}
+
+DocGroupConfig& DocGroupConfig::operator=(const DocGroupConfig& other) = default;
