@@ -30,7 +30,11 @@ public:
     uint64_t Tell() const { return position_; }
     uint64_t Size() const;
 
+    // Cuts or extends the file to `size` bytes.
+    bool Truncate(uint64_t size);
     // Exclusive lock on the whole file, waiting at most `waitMs`; false if not had.
+    // It is an open-file-description lock: it conflicts with every other opener, in this
+    // process too, and lasts until Unlock or Close of this stream.
     bool LockExclusive(int waitMs);
     void Unlock();
 

@@ -1,0 +1,153 @@
+#include "docmgr/tools/filestream.h"
+
+#include <cerrno>
+#include <chrono>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+
+KxFileStream::~KxFileStream()
+{
+    Close();
+}
+
+bool KxFileStream::Open(const std::string& path, Mode mode)
+{
+    Close();
+    int flags = O_CLOEXEC;
+    switch (mode) {
+    case Mode::Read: flags |= O_RDONLY; break;
+    case Mode::ReadWrite: flags |= O_RDWR; break;
+    case Mode::ReadWriteCreate: flags |= O_RDWR | O_CREAT; break;
+    case Mode::WriteTruncate: flags |= O_WRONLY | O_CREAT | O_TRUNC; break;
+    }
+    fd_ = open(path.c_str(), flags, 0666);
+    position_ = 0;
+    return fd_ >= 0;
+}
+
+void KxFileStream::Close()
+{
+    if (fd_ < 0)
+        return;
+    Unlock();
+    close(fd_);
+    fd_ = -1;
+    position_ = 0;
+}
+
+size_t KxFileStream::Read(void* buffer, size_t n)
+{
+    size_t done = 0;
+    while (fd_ >= 0 && done < n) {
+        const ssize_t got = pread(fd_, static_cast<char*>(buffer) + done, n - done, off_t(position_ + done));
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got <= 0)
+            break;
+        done += size_t(got);
+    }
+    position_ += done;
+    return done;
+}
+
+size_t KxFileStream::Write(const void* buffer, size_t n)
+{
+    size_t done = 0;
+    while (fd_ >= 0 && done < n) {
+        const ssize_t put = pwrite(fd_, static_cast<const char*>(buffer) + done, n - done, off_t(position_ + done));
+        if (put < 0 && errno == EINTR)
+            continue;
+        if (put <= 0)
+            break;
+        done += size_t(put);
+    }
+    position_ += done;
+    return done;
+}
+
+bool KxFileStream::ReadAll(std::string& out)
+{
+    out.clear();
+    if (fd_ < 0)
+        return false;
+    out.resize(size_t(Size()));
+    position_ = 0;
+    const size_t got = Read(out.data(), out.size());
+    out.resize(got);
+    // A file that grew meanwhile: take the rest too.
+    char chunk[4096];
+    for (size_t more; (more = Read(chunk, sizeof chunk)) > 0;)
+        out.append(chunk, more);
+    return true;
+}
+
+void KxFileStream::Seek(uint64_t position)
+{
+    position_ = position;
+}
+
+void KxFileStream::SeekRel(int64_t delta)
+{
+    position_ = delta < 0 && uint64_t(-delta) > position_ ? 0 : uint64_t(int64_t(position_) + delta);
+}
+
+void KxFileStream::SeekToEnd()
+{
+    position_ = Size();
+}
+
+uint64_t KxFileStream::Size() const
+{
+    struct stat st {};
+    return fd_ >= 0 && fstat(fd_, &st) == 0 ? uint64_t(st.st_size) : 0;
+}
+
+bool KxFileStream::Truncate(uint64_t size)
+{
+    return fd_ >= 0 && ftruncate(fd_, off_t(size)) == 0;
+}
+
+bool KxFileStream::LockExclusive(int waitMs)
+{
+    if (fd_ < 0)
+        return false;
+    if (locked_)
+        return true;
+    struct flock lock {};
+    lock.l_type = F_WRLCK;
+    lock.l_whence = SEEK_SET;
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(waitMs);
+    for (;;) {
+        if (fcntl(fd_, F_OFD_SETLK, &lock) == 0) {
+            locked_ = true;
+            return true;
+        }
+        // A read-only descriptor cannot hold a write lock; take a shared one instead.
+        if (errno == EBADF && lock.l_type == F_WRLCK) {
+            lock.l_type = F_RDLCK;
+            continue;
+        }
+        if ((errno != EAGAIN && errno != EACCES && errno != EINTR) ||
+            std::chrono::steady_clock::now() >= deadline)
+            return false;
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+}
+
+void KxFileStream::Unlock()
+{
+    if (!locked_ || fd_ < 0)
+        return;
+    struct flock lock {};
+    lock.l_type = F_UNLCK;
+    lock.l_whence = SEEK_SET;
+    fcntl(fd_, F_OFD_SETLK, &lock);
+    locked_ = false;
+}
+
+uint32_t GetSystemCharSet()
+{
+    return 106;
+}

@@ -1,0 +1,145 @@
+#include "docmgr/tools/fsutil.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "docmgr/tools/textcase.h"
+#include "docmgr/tools/wildcard.h"
+
+namespace fs = std::filesystem;
+
+namespace fsutil {
+namespace {
+
+int64_t MtimeNs(const struct stat& st)
+{
+    return int64_t(st.st_mtim.tv_sec) * 1000000000 + st.st_mtim.tv_nsec;
+}
+
+}  // namespace
+
+std::vector<DirItem> List(const std::string& dir, std::string_view pattern, Kind kind)
+{
+    std::vector<DirItem> items;
+    DIR* handle = opendir(dir.c_str());
+    if (!handle)
+        return items;
+    const int dirFd = dirfd(handle);
+    const bool matchAll = pattern == "*";
+    const std::string upperPattern = textcase::ToUpper(pattern);
+    while (const dirent* entry = readdir(handle)) {
+        const std::string_view name = entry->d_name;
+        if (name == "." || name == "..")
+            continue;
+        if (!matchAll && !wildcard::MatchList(upperPattern, textcase::ToUpper(name), ';'))
+            continue;
+        struct stat st {};
+        if (fstatat(dirFd, entry->d_name, &st, 0) != 0)
+            continue;  // vanished meanwhile, or a dangling link
+        const bool isDir = S_ISDIR(st.st_mode);
+        if (kind == Kind::Dirs ? !isDir : !S_ISREG(st.st_mode))
+            continue;
+        items.push_back({std::string(name), uint64_t(st.st_size), MtimeNs(st)});
+    }
+    closedir(handle);
+    return items;
+}
+
+bool IsDirectory(const std::string& path)
+{
+    struct stat st {};
+    return !path.empty() && stat(path.c_str(), &st) == 0 && S_ISDIR(st.st_mode);
+}
+
+bool IsFile(const std::string& path)
+{
+    struct stat st {};
+    return !path.empty() && stat(path.c_str(), &st) == 0 && S_ISREG(st.st_mode);
+}
+
+bool Exists(const std::string& path)
+{
+    struct stat st {};
+    return !path.empty() && lstat(path.c_str(), &st) == 0;
+}
+
+bool Stat(const std::string& path, uint64_t& size, int64_t& mtimeNs)
+{
+    struct stat st {};
+    if (path.empty() || stat(path.c_str(), &st) != 0)
+        return false;
+    size = uint64_t(st.st_size);
+    mtimeNs = MtimeNs(st);
+    return true;
+}
+
+uint64_t FileSize(const std::string& path)
+{
+    uint64_t size = 0;
+    int64_t mtime = 0;
+    return Stat(path, size, mtime) ? size : 0;
+}
+
+std::string Absolute(const std::string& path)
+{
+    std::error_code error;
+    fs::path absolute = fs::absolute(fs::path(path), error);
+    if (error)
+        absolute = fs::path(path);
+    std::string text = absolute.lexically_normal().string();
+    while (text.size() > 1 && text.back() == '/')
+        text.pop_back();
+    return text;
+}
+
+std::string FileName(const std::string& path)
+{
+    const size_t slash = path.find_last_of('/');
+    return slash == std::string::npos ? path : path.substr(slash + 1);
+}
+
+std::string DirName(const std::string& path)
+{
+    const std::string absolute = Absolute(path);
+    const size_t slash = absolute.find_last_of('/');
+    if (slash == std::string::npos)
+        return {};
+    return slash == 0 ? std::string("/") : absolute.substr(0, slash);
+}
+
+std::string Join(const std::string& dir, const std::string& name)
+{
+    if (dir.empty())
+        return name;
+    return dir.back() == '/' ? dir + name : dir + "/" + name;
+}
+
+bool Identity(const std::string& path, uint64_t& dev, uint64_t& ino)
+{
+    struct stat st {};
+    if (stat(path.c_str(), &st) != 0)
+        return false;
+    dev = uint64_t(st.st_dev);
+    ino = uint64_t(st.st_ino);
+    return true;
+}
+
+CurrentDirGuard::CurrentDirGuard(const std::string& dir)
+{
+    std::error_code error;
+    saved_ = fs::current_path(error);
+    if (!error)
+        entered_ = chdir(dir.c_str()) == 0;
+}
+
+CurrentDirGuard::~CurrentDirGuard()
+{
+    if (entered_ && chdir(saved_.c_str()) != 0)
+        perror("docmgr: cannot restore the current directory");
+}
+
+}  // namespace fsutil
