@@ -1,0 +1,135 @@
+#include "docmgr/records/docrecord.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "docmgr/tools/fsutil.h"
+
+namespace {
+
+constexpr char BLANK = 0x20;
+
+bool IsContinuationByte(char c)
+{
+    return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
+}
+
+// Bytes 1..31 of a comment (line breaks, tabs...) would break the one-line views.
+void BlankControlBytes(char* field, size_t width)
+{
+    for (size_t i = 0; i < width; ++i) {
+        const auto c = static_cast<unsigned char>(field[i]);
+        if (c >= 1 && c <= 31)
+            field[i] = BLANK;
+    }
+}
+
+}  // namespace
+
+DocRecord::DocRecord(const DocInfo& info)
+{
+    WriteString(name, sizeof name, fsutil::FileName(info.entry));
+    WriteString(title, sizeof title, info.title);
+    WriteString(topic, sizeof topic, info.topic);
+    hasInfo = info.HasInfo() ? 1 : 0;
+    WriteDate(createdDate, info.createdDate);
+    WriteTime(createdTime, info.createdTime);
+    WriteString(author, sizeof author, info.author);
+    WriteDate(modifiedDate, info.modifiedDate);
+    WriteTime(modifiedTime, info.modifiedTime);
+    WriteString(modifiedBy, sizeof modifiedBy, info.modifiedBy);
+    WriteDate(printedDate, info.printedDate);
+    WriteTime(printedTime, info.printedTime);
+    WriteString(printedBy, sizeof printedBy, info.printedBy);
+    WriteString(comment, sizeof comment, info.comment);
+    WriteString(keywords, sizeof keywords, info.keywords);
+    for (size_t i = 0; i < info.info.size(); ++i)
+        WriteString(this->info[i], sizeof this->info[i], info.info[i]);
+}
+
+// The struct has no padding (every member is a byte or a run of bytes), so its memory
+// is the file layout.
+void DocRecord::ToBytes(char* out) const
+{
+    std::memcpy(out, this, SIZE);
+}
+
+DocRecord DocRecord::FromBytes(const char* in)
+{
+    DocRecord record;
+    std::memcpy(&record, in, SIZE);
+    BlankControlBytes(record.comment, sizeof record.comment);
+    return record;
+}
+
+void DocRecord::FillDocInfo(DocInfo& out) const
+{
+    out.title = ReadString(title, sizeof title);
+    out.topic = ReadString(topic, sizeof topic);
+    out.createdDate = ReadDate(createdDate);
+    out.createdTime = ReadTime(createdTime);
+    out.author = ReadString(author, sizeof author);
+    out.modifiedDate = ReadDate(modifiedDate);
+    out.modifiedTime = ReadTime(modifiedTime);
+    out.modifiedBy = ReadString(modifiedBy, sizeof modifiedBy);
+    out.printedDate = ReadDate(printedDate);
+    out.printedTime = ReadTime(printedTime);
+    out.printedBy = ReadString(printedBy, sizeof printedBy);
+    out.comment = ReadString(comment, sizeof comment);
+    out.keywords = ReadString(keywords, sizeof keywords);
+    for (size_t i = 0; i < out.info.size(); ++i)
+        out.info[i] = ReadString(info[i], sizeof info[i]);
+}
+
+void DocRecord::WriteString(char* field, unsigned long width, const std::string& s)
+{
+    uint16_t count = static_cast<uint16_t>(std::min<unsigned long>(s.size(), width));
+    // A field that ends inside a multi-byte character ends before it instead; a UTF-8
+    // character has at most three continuation bytes.
+    if (count < s.size()) {
+        const uint16_t limit = count > 3 ? uint16_t(count - 3) : uint16_t(0);
+        uint16_t cut = count;
+        while (cut > limit && IsContinuationByte(s[cut]))
+            --cut;
+        if (!IsContinuationByte(s[cut]))
+            count = cut;
+    }
+    std::memcpy(field, s.data(), count);
+    if (count < width)
+        std::memset(field + count, BLANK, width - count);
+}
+
+void DocRecord::WriteDate(DocDate& out, const Date& date)
+{
+    const uint32_t number = date.GetDate();
+    out.day = static_cast<uint8_t>(number % 100);
+    out.month = static_cast<uint8_t>((number / 100) % 100);
+    out.year = static_cast<uint8_t>(number / 10000 + 148);
+}
+
+void DocRecord::WriteTime(DocTime& out, const Time& time)
+{
+    const int64_t t = time.GetTime();
+    const uint64_t a = static_cast<uint64_t>(t < 0 ? -t : t);
+    out.hours = static_cast<uint8_t>(a / 1000000);
+    out.minutes = static_cast<uint8_t>((a / 10000) % 100);
+    out.seconds = static_cast<uint8_t>((a / 100) % 100);
+}
+
+std::string DocRecord::ReadString(const char* field, unsigned short width) const
+{
+    size_t length = width;
+    while (length > 0 && field[length - 1] == BLANK)
+        --length;
+    return std::string(field, length);
+}
+
+Date DocRecord::ReadDate(const DocDate& date) const
+{
+    return Date(date.day, date.month, date.year + 1900u);
+}
+
+Time DocRecord::ReadTime(const DocTime& time) const
+{
+    return Time(time.hours, time.minutes, time.seconds, 0);
+}
