@@ -14,6 +14,10 @@ class KxFileStream;
 
 class DocRowList {
 public:
+    // How long a collection waits for another process's lock on an index before it
+    // reads that directory without writing its index.
+    static constexpr int INDEX_LOCK_WAIT_MS = 200;
+
     explicit DocRowList(DocSource& source);
     ~DocRowList();
 
@@ -50,7 +54,16 @@ public:
 
 private:
     struct DirVisit;
+    struct DirPass;
     void ReadDir(const std::string& dir, bool withSubdirs, DirVisit& visit);
+    void ReadOneDir(const std::string& absDir);
+    void ReadSubdirs(const std::string& absDir, DirVisit& visit);
+    void ReadIndex(DirPass& pass);
+    void ReadRecords(DirPass& pass, const std::string& data, int64_t indexMtimeNs);
+    void RewriteIndex(DirPass& pass);
+    void ProbeAll(DirPass& pass);
+    std::unique_ptr<DocInfo> Probe(const DirPass& pass, size_t file);
+    const std::string* WalkTo(long row);
 
     DocSource& source_;
     const ImplDocConfig* config_ = nullptr;

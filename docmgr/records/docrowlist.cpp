@@ -1,0 +1,96 @@
+// The row list: collecting the path list, filtering, sorting, and walking the selection.
+#include "docmgr/records/docrowlist.h"
+
+#include "docmgr/config/impldocconfig.h"
+#include "docmgr/config/pathrules.h"
+#include "docmgr/records/docsort.h"
+#include "docmgr/records/matches.h"
+#include "docmgr/tools/fsutil.h"
+#include "docmgr/tools/tokens.h"
+
+DocRowList::DocRowList(DocSource& source) : source_(source) {}
+
+DocRowList::~DocRowList() = default;
+
+void DocRowList::CollectFiles(const std::string& pathList)
+{
+    Clear();
+    dirsRead_ = 0;
+    for (const std::string& token : tokens::Split(pathList, ';')) {
+        const std::string dir = WoutSub(token);
+        // A file or a vanished directory among the paths is no error.
+        if (!dir.empty() && fsutil::IsDirectory(dir))
+            ReadWriteDocInfos(dir, TestSub(token));
+    }
+    needsCollect_ = false;
+    if (config_ && FilterInForce(config_->WorkingGroup()))
+        ApplyFilter();
+    SortFiles();
+}
+
+void DocRowList::ApplyFilter()
+{
+    if (!config_)
+        return;
+    std::erase_if(rows_, [this](const std::unique_ptr<DocInfo>& row) {
+        return !Matches(*row, *config_);
+    });
+}
+
+void DocRowList::SortFiles()
+{
+    if (!config_)
+        return;
+    const DocGroupConfig& group = config_->WorkingGroup();
+    if (group.sortColumnId == NO_COLUMN)
+        return;
+    SortRows(rows_, group.sortColumnId, group.sortAscending);
+}
+
+std::vector<long> DocRowList::RowRemoved(const std::string& path)
+{
+    const std::string full = fsutil::Absolute(path);
+    std::vector<long> removed;
+    for (size_t row = rows_.size(); row-- > 0;) {
+        if (rows_[row]->entry == full) {
+            rows_.erase(rows_.begin() + long(row));
+            removed.push_back(long(row));
+        }
+    }
+    return removed;
+}
+
+void DocRowList::ReplaceRow(long row, std::unique_ptr<DocInfo> info)
+{
+    if (row >= 0 && row < GetRowCount() && info)
+        rows_[size_t(row)] = std::move(info);
+}
+
+void DocRowList::Clear()
+{
+    rows_.clear();
+    currentRow_ = -1;
+}
+
+const std::string* DocRowList::GetFirstDoc(const DocSelection& selection)
+{
+    return WalkTo(selection.FirstSelected());
+}
+
+const std::string* DocRowList::GetNextDoc(const DocSelection& selection)
+{
+    if (currentRow_ < 0)
+        return nullptr;  // no walk running, or it ended
+    return WalkTo(selection.NextSelected(currentRow_));
+}
+
+const std::string* DocRowList::WalkTo(long row)
+{
+    if (row < 0 || row >= GetRowCount()) {
+        currentRow_ = -1;
+        return nullptr;
+    }
+    currentRow_ = row;
+    currentDoc_ = fsutil::Absolute(Row(row).entry);
+    return &currentDoc_;
+}
