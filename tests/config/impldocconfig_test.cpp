@@ -1,0 +1,125 @@
+// The whole configuration: general settings, rights, the group list and its operations.
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "docmgr/config/impldocconfig.h"
+#include "docmgr/tools/config.h"
+#include "tests/config/configfixture.h"
+
+using ManagerConfigTest = ConfigFileTest;
+
+namespace {
+// Sections "GROUPS" and 0..n-1 for groups named G0, G1, ...
+std::string GroupsText(unsigned n)
+{
+    std::string groups = "[GROUPS]\n", sections;
+    for (unsigned g = 0; g < n; ++g) {
+        const std::string id = std::to_string(g), name = "G" + id;
+        groups += id + "=" + name + "\n";
+        sections += "[" + id + "]\nGROUPNAME=" + name + "\nSECTION=S" + id +
+                    "\nFILTERFILES=*." + id + "\n";
+    }
+    return groups + sections;
+}
+}  // namespace
+
+TEST_F(ManagerConfigTest, EmptyFileMakesAndSavesAFirstGroup)
+{
+    WriteFile("");
+    std::vector<std::string> messages;
+    {
+        Config config(Path());
+        ImplDocConfig docConfig(&config, "*.odt",
+                                [&](const std::string& text) { messages.push_back(text); });
+        EXPECT_EQ(docConfig.ElementCount(), 2u);
+        EXPECT_FALSE(docConfig.singleView);
+        EXPECT_EQ(docConfig.actualGroup, 1u);
+        EXPECT_EQ(docConfig.access, ACCESS_FILECOPY | ACCESS_FILEDELETE | ACCESS_FILEPRINT |
+                                        ACCESS_FILERENAME);
+        EXPECT_EQ(docConfig.Group(0).groupName, ResString(15717));
+        EXPECT_EQ(docConfig.Group(0).section, ResString(15716));
+        EXPECT_EQ(docConfig.WorkingGroup().groupName, ResString(15717));
+        EXPECT_EQ(docConfig.WorkingGroup().filterFiles, "*.odt");
+    }
+    ASSERT_EQ(messages.size(), 1u);
+    EXPECT_EQ(messages[0], ResString(15721));
+
+    Config saved(Path());
+    saved.SetGroup("GROUPS");
+    EXPECT_EQ(saved.ReadKey("0"), "Standard");
+    saved.SetGroup("0");
+    EXPECT_EQ(saved.ReadKey("FILTERFILES"), "*.odt");
+    EXPECT_FALSE(saved.HasGroup("GENERAL"));
+}
+
+TEST_F(ManagerConfigTest, GeneralSectionRightsAndGroupRun)
+{
+    WriteFile("[GENERAL]\nVIEWMODE=single\nACTUALGROUP=2\nACCESS_FILEPRINT=off\n"
+              "ACCESS_FILECOPY=NO\nACCESS_FILEDELETE=OFF \n" +
+              GroupsText(2) + "[GROUPS]\n3=G3\n[3]\nGROUPNAME=G3\n");
+    Config config(Path());
+    bool informed = false;
+    ImplDocConfig docConfig(&config, "*", [&](const std::string&) { informed = true; });
+    EXPECT_FALSE(informed);
+    EXPECT_TRUE(docConfig.singleView);
+    // Only an exact "OFF" (after upper-casing) withholds a right.
+    EXPECT_EQ(docConfig.access, ACCESS_FILECOPY | ACCESS_FILEDELETE | ACCESS_FILERENAME);
+    EXPECT_EQ(docConfig.GroupCount(), 2u);  // "3" lies after a gap
+    EXPECT_EQ(docConfig.actualGroup, 2u);
+    EXPECT_EQ(docConfig.WorkingGroup().groupName, "G1");
+    EXPECT_EQ(docConfig.WorkingGroup().filterFiles, "*.1");
+}
+
+TEST_F(ManagerConfigTest, StoredActualGroup)
+{
+    const struct { const char* stored; uint16_t actual; const char* workingFiles; } cases[] = {
+        {"0", 0, "*.pdf"}, {"2", 2, "*.1"}, {"9", 1, "*.0"}, {"", 0, "*.pdf"}};
+    for (const auto& c : cases) {
+        WriteFile(std::string("[GENERAL]\nACTUALGROUP=") + c.stored + "\n" + GroupsText(3));
+        Config config(Path());
+        ImplDocConfig docConfig(&config, "*.pdf");
+        EXPECT_EQ(docConfig.actualGroup, c.actual) << c.stored;
+        EXPECT_EQ(docConfig.WorkingGroup().filterFiles, c.workingFiles) << c.stored;
+    }
+}
+
+TEST_F(ManagerConfigTest, GroupListOperations)
+{
+    WriteFile(GroupsText(3));
+    Config config(Path());
+    ImplDocConfig docConfig(&config, "*");
+
+    docConfig.WorkingGroup().filterTitle = "draft";
+    docConfig.WorkingGroup().sortColumnId = 4;
+    DocGroupConfig expected;
+    expected = docConfig.WorkingGroup();  // the copy constructor would take only the look
+    expected.groupName = "G1";
+    expected.section = "S1";
+    docConfig.SetGroupByExample(1);
+    EXPECT_EQ(docConfig.Group(1).groupName, "G1");
+    EXPECT_EQ(docConfig.Group(1).filterTitle, "draft");
+    docConfig.SetCurGroup(1);
+    EXPECT_EQ(docConfig.actualGroup, 2u);
+    EXPECT_EQ(docConfig.WorkingGroup().Export(), expected.Export());
+
+    docConfig.SetCurGroup(std::string("g2"));  // names match case-sensitively
+    EXPECT_EQ(docConfig.actualGroup, 2u);
+    docConfig.SetCurGroup(std::string("G2"));
+    EXPECT_EQ(docConfig.actualGroup, 3u);
+
+    docConfig.MoveGroup(0, 2);
+    EXPECT_EQ(docConfig.Group(0).groupName, "G1");
+    EXPECT_EQ(docConfig.Group(2).groupName, "G0");
+
+    docConfig.InsertGroup(1);
+    EXPECT_EQ(docConfig.GroupCount(), 4u);
+    EXPECT_EQ(docConfig.Group(1).groupName, "");
+    EXPECT_EQ(docConfig.Group(1).filterFiles, "*.2");  // the look of the working group
+
+    // 65535 addresses the working group's place: the new group pushes it to element 1.
+    docConfig.InsertGroup(WORKING_GROUP);
+    EXPECT_EQ(docConfig.ElementCount(), 6u);
+    EXPECT_EQ(docConfig.WorkingGroup().groupName, "");
+    EXPECT_EQ(docConfig.Group(0).groupName, "G2");
+}

@@ -1,0 +1,8 @@
+// Test program of the configuration layer; it needs no window and no Qt application.
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
