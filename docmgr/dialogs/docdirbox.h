@@ -33,5 +33,10 @@ signals:
     void DirSelected(unsigned short pos);
 
 protected:
+    // Enter toggles the selected entry, Right/Plus opens it, Left/Minus closes it or moves
+    // to its parent.
     void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    const ImplDocConfig* config_;
 };
