@@ -107,7 +107,8 @@ void Config::Parse(const std::string& text)
 
 Config::Section* Config::Find(const std::string& name)
 {
-    for (size_t i = 1; i < sections_.size(); ++i)
+    // Entries before the first header belong to the section without a name.
+    for (size_t i = name.empty() ? 0 : 1; i < sections_.size(); ++i)
         if (sections_[i]->name == name)
             return sections_[i].get();
     return nullptr;

@@ -1,0 +1,127 @@
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <sys/stat.h>
+
+#include "docmgr/tools/config.h"
+
+namespace {
+std::string ReadFile(const std::string& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    std::ostringstream text;
+    text << in.rdbuf();
+    return text.str();
+}
+
+void WriteFile(const std::string& path, const std::string& text)
+{
+    std::ofstream(path, std::ios::binary) << text;
+}
+
+struct ConfigFile : ::testing::Test {
+    QTemporaryDir dir;
+    std::string path = dir.filePath("docmgr.cfg").toStdString();
+};
+}  // namespace
+
+TEST_F(ConfigFile, CommentsUnknownKeysAndOrderSurviveASave)
+{
+    WriteFile(path,
+              "; made by hand\n"
+              "[GENERAL]\n"
+              "VIEWMODE=MULTI\n"
+              "# keep me\n"
+              "OWNKEY=own value\n"
+              "\n"
+              "[OTHER]\r\n"
+              "A=1=2\r\n");
+    {
+        Config config(path);
+        EXPECT_TRUE(config.GetLoadError().empty());
+        config.SetGroup("OTHER");
+        EXPECT_EQ(config.ReadKey("A"), "1=2");  // verbatim after the first "="
+        config.SetGroup("GENERAL");
+        EXPECT_EQ(config.ReadKey("viewmode", "none"), "none");  // names are case-sensitive
+        config.WriteKey("VIEWMODE", "SINGLE");
+        config.WriteKey("ACTUALGROUP", "2");
+        ASSERT_TRUE(config.Flush());
+    }
+    EXPECT_EQ(ReadFile(path),
+              "; made by hand\n"
+              "[GENERAL]\n"
+              "VIEWMODE=SINGLE\n"
+              "# keep me\n"
+              "OWNKEY=own value\n"
+              "ACTUALGROUP=2\n"
+              "\n"
+              "[OTHER]\n"
+              "A=1=2\n");
+}
+
+TEST_F(ConfigFile, WritesCreateSectionsAndDeleteRemovesThem)
+{
+    Config config(path);
+    config.SetGroup("0");
+    config.WriteKey("GROUPNAME", "two\nlines");
+    config.SetGroup("1");
+    config.WriteKey("GROUPNAME", "other");
+    config.DeleteGroup("1");
+    EXPECT_FALSE(config.HasGroup("1"));
+    config.SetGroup("0");
+    EXPECT_EQ(config.ReadKey("GROUPNAME"), "two lines");  // a line break becomes a blank
+    ASSERT_TRUE(config.Flush());
+    EXPECT_EQ(ReadFile(path), "[0]\nGROUPNAME=two lines\n");
+    // No temporary file is left beside the target.
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir.path().toStdString()),
+                            std::filesystem::directory_iterator{}), 1);
+}
+
+TEST_F(ConfigFile, MissingFileIsEmptyAndGarbageIsReadWithoutHarm)
+{
+    {
+        Config config(path);
+        EXPECT_TRUE(config.GetLoadError().empty());
+        config.SetGroup("GENERAL");
+        EXPECT_EQ(config.ReadKey("VIEWMODE", "dflt"), "dflt");
+    }
+    EXPECT_FALSE(std::filesystem::exists(path));  // nothing written, nothing created
+
+    std::string garbage("\0\xff[=]\n=\n[\n]]]\nKEY\n\x01=\x02\n", 23);
+    WriteFile(path, garbage);
+    Config config(path);
+    EXPECT_TRUE(config.GetLoadError().empty());
+    config.SetGroup("");  // no header before it: "\0\xff[=]" is a key, not a section
+    EXPECT_EQ(config.ReadKey("\x01"), "\x02");
+}
+
+TEST_F(ConfigFile, UnreadableOrForeignFileIsNeverOverwritten)
+{
+    std::filesystem::create_directory(path);  // a directory where the file should be
+    Config config(path);
+    EXPECT_FALSE(config.GetLoadError().empty());
+    config.SetGroup("GENERAL");
+    config.WriteKey("VIEWMODE", "MULTI");
+    EXPECT_FALSE(config.Flush());
+    EXPECT_FALSE(config.GetSaveError().empty());
+    EXPECT_TRUE(std::filesystem::is_directory(path));
+}
+
+TEST_F(ConfigFile, SaveIntoUnwritableDirectoryFailsAndKeepsTheOriginal)
+{
+    if (geteuid() == 0)
+        GTEST_SKIP() << "root writes into read-only directories";
+    WriteFile(path, "[A]\nK=old\n");
+    chmod(dir.path().toLocal8Bit().constData(), 0555);
+    {
+        Config config(path);
+        config.SetGroup("A");
+        config.WriteKey("K", "new");
+        EXPECT_FALSE(config.Flush());
+    }
+    chmod(dir.path().toLocal8Bit().constData(), 0755);
+    EXPECT_EQ(ReadFile(path), "[A]\nK=old\n");
+}

@@ -1,0 +1,75 @@
+#include <gtest/gtest.h>
+
+#include "docmgr/tools/datetime.h"
+#include "docmgr/tools/intl.h"
+#include "docmgr/tools/textcase.h"
+#include "docmgr/tools/tokens.h"
+#include "docmgr/tools/wildcard.h"
+
+TEST(Wildcard, MatchesTheWholeTextWithStarsAndQuestionMarks)
+{
+    EXPECT_TRUE(wildcard::Match("report", "report"));
+    EXPECT_FALSE(wildcard::Match("report", "reports"));
+    EXPECT_TRUE(wildcard::Match("*report*", "annual report 2020"));
+    EXPECT_TRUE(wildcard::Match("*", ""));
+    EXPECT_FALSE(wildcard::Match("?", ""));
+    EXPECT_TRUE(wildcard::Match("a*b*c", "aXXbYYbc"));
+    EXPECT_FALSE(wildcard::Match("a*b*c", "aXXbYYb"));
+    // "?" is one character, also when it takes several bytes.
+    EXPECT_TRUE(wildcard::Match("Caf?", "Café"));
+    EXPECT_TRUE(wildcard::Match("??", "ÜÖ"));
+    EXPECT_FALSE(wildcard::Match("???", "ÜÖ"));
+    // Stars against long texts stay fast and correct.
+    EXPECT_FALSE(wildcard::Match("*a*a*a*a*a*b", std::string(5000, 'a')));
+}
+
+TEST(Wildcard, AlternativesAndLetterCase)
+{
+    EXPECT_TRUE(wildcard::MatchList("*.odt;*.pdf", "x.pdf", ';'));
+    EXPECT_FALSE(wildcard::MatchList("*.odt;*.pdf", "x.PDF", ';'));
+    EXPECT_TRUE(wildcard::MatchListNoCase("*.odt;*.pdf", "x.PDF", ';'));
+    EXPECT_TRUE(wildcard::MatchListNoCase("straße*", "STRASSE 1", ';'));  // ß upper-cases to SS
+    EXPECT_TRUE(wildcard::MatchList("alpha,beta", "beta", ','));
+    EXPECT_TRUE(wildcard::MatchList(";x", "", ';'));  // an empty alternative matches empty text
+}
+
+TEST(TextCase, UpperCasesUnicodeAndRemovesBlanks)
+{
+    EXPECT_EQ(textcase::ToUpper("off"), "OFF");
+    EXPECT_EQ(textcase::ToUpper("grüße"), "GRÜSSE");
+    EXPECT_EQ(textcase::ToUpper("/home/zoë"), "/HOME/ZOË");
+    EXPECT_EQ(textcase::EraseBlanks(" my  group "), "mygroup");
+}
+
+TEST(Tokens, CountGetAndNumbers)
+{
+    EXPECT_EQ(tokens::Count("", ';'), 0);
+    EXPECT_EQ(tokens::Count("a", ';'), 1);
+    EXPECT_EQ(tokens::Count("a;;b;", ';'), 4);
+    EXPECT_EQ(tokens::Get("a;;b;", 2, ';'), "b");
+    EXPECT_EQ(tokens::Get("a;;b;", 3, ';'), "");
+    EXPECT_EQ(tokens::Get("a;;b;", 9, ';'), "");
+    EXPECT_EQ(tokens::ToNumber("42abc"), 42u);
+    EXPECT_EQ(tokens::ToNumber("abc"), 0u);
+    EXPECT_EQ(tokens::ToNumber(""), 0u);
+    EXPECT_EQ(tokens::ToNumber("99999999999999999999999"), ~0ull);  // saturates, no overflow
+    EXPECT_EQ(tokens::ToSigned("-17x"), -17);
+    EXPECT_EQ(uint16_t(tokens::ToNumber("65536")), 0);
+}
+
+TEST(DateTime, DecimalNumbersAndTexts)
+{
+    const Date date(31, 12, 1999);
+    EXPECT_EQ(date.GetDate(), 19991231u);
+    EXPECT_EQ(date.GetYear(), 1999u);
+    const Time time(13, 45, 27, 89);
+    EXPECT_EQ(time.GetTime(), 13452789);
+    EXPECT_EQ(Time(-13452789).GetMin(), 45u);
+    EXPECT_TRUE(Date(20480000).IsUnset());
+    EXPECT_EQ(intl::FormatDate(Date(20480000)), "");
+    EXPECT_EQ(intl::FormatTime(time, Date(0)), "");
+    EXPECT_NE(intl::FormatTime(time).find("45"), std::string::npos);
+    EXPECT_NE(intl::FormatTime(time).find("27"), std::string::npos);  // seconds are shown
+    EXPECT_FALSE(intl::FormatDate(date).empty());
+    EXPECT_GE(Date::Today().GetYear(), 2024u);
+}
