@@ -1,9 +1,128 @@
-// PLACEHOLDER: replaced by the dialog's real implementation.
 #include "docmgr/dialogs/docsortdialog.h"
-#include "docmgr/manager/docmanager.h"
 
-struct DocSortDialog::Impl {};
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
 
-DocSortDialog::DocSortDialog(QWidget* parent, ImplDocConfig*, unsigned short) : QDialog(parent), d(std::make_unique<Impl>()) {}
+#include "docmgr/config/impldocconfig.h"
+#include "docmgr/dialogs/dialogtext.h"
+#include "docmgr/dialogs/waitcursor.h"
+#include "docmgr/records/docfields.h"
+
+namespace {
+constexpr uint16_t kDialog = 15703;
+constexpr int kEntries = 20;
+bool rememberedAscending = true;
+}  // namespace
+
+bool DocSortDialog::RememberedAscending() { return rememberedAscending; }
+void DocSortDialog::SetRememberedAscending(bool ascending) { rememberedAscending = ascending; }
+
+DocSortDialog::DocSortDialog(QWidget* parent, ImplDocConfig* config, unsigned short group)
+    : QDialog(parent), config_(config), group_(group)
+{
+    WaitCursor wait;
+    setObjectName(QStringLiteral("sortDialog"));
+    setWindowTitle(DialogText(kDialog, 0));
+
+    auto* caption = new QLabel(DialogText(kDialog, 72), this);
+    caption->setObjectName(QStringLiteral("columnCaption"));
+    columnList_ = new QListWidget(this);
+    columnList_->setObjectName(QStringLiteral("columnList"));
+    caption->setBuddy(columnList_);
+    directionFrame_ = new QGroupBox(DialogText(kDialog, 71), this);
+    directionFrame_->setObjectName(QStringLiteral("directionFrame"));
+    ascendingButton_ = new QRadioButton(DialogText(kDialog, 28), directionFrame_);
+    ascendingButton_->setObjectName(QStringLiteral("ascendingButton"));
+    descendingButton_ = new QRadioButton(DialogText(kDialog, 29), directionFrame_);
+    descendingButton_->setObjectName(QStringLiteral("descendingButton"));
+    okButton_ = new QPushButton(DialogText(kDialog, 18), this);
+    okButton_->setObjectName(QStringLiteral("okButton"));
+    okButton_->setDefault(true);
+    cancelButton_ = new QPushButton(DialogText(kDialog, 19), this);
+    cancelButton_->setObjectName(QStringLiteral("cancelButton"));
+
+    auto* frameLayout = new QVBoxLayout(directionFrame_);
+    frameLayout->addWidget(ascendingButton_);
+    frameLayout->addWidget(descendingButton_);
+    auto* listLayout = new QVBoxLayout;
+    listLayout->addWidget(caption);
+    listLayout->addWidget(columnList_);
+    auto* right = new QVBoxLayout;
+    right->addWidget(okButton_);
+    right->addWidget(cancelButton_);
+    right->addSpacing(12);
+    right->addWidget(directionFrame_);
+    right->addStretch();
+    auto* layout = new QHBoxLayout(this);
+    layout->addLayout(listLayout, 1);
+    layout->addLayout(right);
+    columnList_->setMinimumSize(200, 340);
+
+    connect(okButton_, &QPushButton::clicked, this, &DocSortDialog::OKHdl);
+    connect(cancelButton_, &QPushButton::clicked, this, &QDialog::reject);
+    connect(columnList_, &QListWidget::currentRowChanged, this, &DocSortDialog::SelectHdl);
+
+    const DocGroupConfig& g = config_->Group(group_);
+    CheckDirection(g.sortAscending, !g.sortAscending);
+
+    // Position p shows column p + 1's title.
+    for (int p = 0; p < kEntries; ++p)
+        columnList_->addItem(QString::fromStdString(GetColumnTitle(uint16_t(p + 1), g)));
+    {
+        const QSignalBlocker blocker(columnList_);
+        // A stored id s selects position s; an id past the list selects nothing.
+        columnList_->setCurrentRow(g.sortColumnId < NO_COLUMN ? g.sortColumnId : 0);
+    }
+    SelectHdl();
+
+    setTabOrder(columnList_, ascendingButton_);
+    setTabOrder(ascendingButton_, descendingButton_);
+    setTabOrder(descendingButton_, okButton_);
+    setTabOrder(okButton_, cancelButton_);
+    columnList_->setFocus();
+}
+
 DocSortDialog::~DocSortDialog() = default;
 
+void DocSortDialog::CheckDirection(bool ascending, bool descending)
+{
+    for (QRadioButton* button : {ascendingButton_, descendingButton_})
+        button->setAutoExclusive(false);
+    ascendingButton_->setChecked(ascending);
+    descendingButton_->setChecked(descending);
+    for (QRadioButton* button : {ascendingButton_, descendingButton_})
+        button->setAutoExclusive(true);
+}
+
+void DocSortDialog::SelectHdl()
+{
+    if (columnList_->currentRow() == 0) {
+        if (!ascendingButton_->isEnabled())
+            return;
+        rememberedAscending = ascendingButton_->isChecked();
+        CheckDirection(false, false);
+        ascendingButton_->setEnabled(false);
+        descendingButton_->setEnabled(false);
+    } else {
+        if (ascendingButton_->isEnabled())
+            return;
+        CheckDirection(rememberedAscending, !rememberedAscending);
+        ascendingButton_->setEnabled(true);
+        descendingButton_->setEnabled(true);
+    }
+}
+
+void DocSortDialog::OKHdl()
+{
+    DocGroupConfig& g = config_->Group(group_);
+    const int p = columnList_->currentRow();
+    // No selection stores "no sort" as well.
+    g.sortColumnId = p > 0 ? uint16_t(p) : NO_COLUMN;
+    g.sortAscending = ascendingButton_->isChecked();
+    done(1);
+}
