@@ -1,0 +1,27 @@
+#pragma once
+// The command line of `docmanager`: which mode to run and its options.
+#include <cstdint>
+#include <string>
+#include <vector>
+
+enum class RunMode { Window, List, ExportConfig, Help };
+enum class ListFormat { Text, Tsv, Json };
+
+struct CommandLine {
+    RunMode mode = RunMode::Window;
+    std::string configPath;                 // empty: the user's default configuration
+    std::string groupName;                  // --group; empty: the group in force
+    bool groupGiven = false;
+    std::string indexName;                  // --index-name; empty: the module's default
+    std::vector<uint16_t> columns;          // --columns; empty: the working group's slots
+    ListFormat format = ListFormat::Text;
+    bool printPaths = false;                // window: print the chosen paths instead of opening
+    std::vector<std::string> startPaths;    // START_PATH arguments in the order given
+};
+
+// Parses the arguments after the program name. On a bad argument returns false and sets
+// `error` to one line naming the fault (the caller adds the usage text).
+bool ParseCommandLine(const std::vector<std::string>& args, CommandLine& out, std::string& error);
+
+// The usage text, one line per form, ending with a line break.
+std::string UsageText();

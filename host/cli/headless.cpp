@@ -1,0 +1,112 @@
+#include "host/cli/headless.h"
+
+#include "docmgr/config/impldocconfig.h"
+#include "docmgr/records/docrowlist.h"
+#include "docmgr/tools/config.h"
+#include "docmgr/tools/fsutil.h"
+#include "docmgr/tools/resmgr.h"
+#include "docmgr/tools/tokens.h"
+#include "docmgr/config/pathrules.h"
+#include "host/cli/collectpaths.h"
+#include "host/cli/listformat.h"
+#include "host/cli/readersource.h"
+#include "host/cli/userconfig.h"
+
+namespace {
+
+constexpr uint16_t STR_INDEX_NAME = 15720;
+constexpr uint16_t STR_DEFAULT_EXTENSIONS = 15722;
+
+HeadlessResult Failure(int status, std::string err, const std::string& message)
+{
+    HeadlessResult result;
+    result.status = status;
+    result.err = std::move(err) + "docmanager: " + message + "\n";
+    return result;
+}
+
+bool HasGroup(const ImplDocConfig& config, const std::string& name)
+{
+    for (uint16_t g = 0; g < config.GroupCount(); ++g)
+        if (config.Group(g).groupName == name)
+            return true;
+    return false;
+}
+
+std::string KnownGroups(const ImplDocConfig& config)
+{
+    std::string names;
+    for (uint16_t g = 0; g < config.GroupCount(); ++g)
+        names += (g ? ", \"" : "\"") + config.Group(g).groupName + "\"";
+    return names.empty() ? std::string("none") : names;
+}
+
+// Path tokens that name no directory are skipped by the collection without a word; a
+// script is better served by hearing about them.
+std::string MissingDirectories(const std::string& pathList)
+{
+    std::string warnings;
+    for (const std::string& token : tokens::Split(pathList, ';')) {
+        if (token.empty())
+            continue;
+        const std::string dir = WoutSub(token);
+        if (!fsutil::IsDirectory(dir))
+            warnings += "docmanager: " + dir + " is not a directory; skipped\n";
+    }
+    return warnings;
+}
+
+HeadlessResult List(const CommandLine& cmd, ImplDocConfig& settings, std::string err)
+{
+    if (cmd.groupGiven) {
+        if (!HasGroup(settings, cmd.groupName))
+            return Failure(2, std::move(err),
+                           "there is no group named \"" + cmd.groupName
+                               + "\"; the known groups are " + KnownGroups(settings));
+        settings.SetCurGroup(cmd.groupName);
+    }
+    const DocGroupConfig& group = settings.WorkingGroup();
+    const std::string pathList = CollectPathList(group, JoinStartPaths(cmd.startPaths));
+    if (pathList.empty())
+        err += "docmanager: the group \"" + group.groupName
+            + "\" has no active directory and no START_PATH was given; nothing to list\n";
+    err += MissingDirectories(pathList);
+
+    ReaderDocSource source;
+    DocRowList rows(source);
+    rows.SetConfig(&settings);
+    rows.SetDirFileName(cmd.indexName.empty() ? ResString(STR_INDEX_NAME) : cmd.indexName);
+    rows.CollectFiles(pathList);
+
+    HeadlessResult result;
+    result.err = std::move(err);
+    result.out = FormatList(cmd.format, rows.Rows(), ListColumns(group, cmd.columns), group);
+    return result;
+}
+
+}  // namespace
+
+HeadlessResult RunHeadless(const CommandLine& cmd)
+{
+    ResModule resources;
+    std::string err;
+    std::string error;
+    std::unique_ptr<Config> config = OpenUserConfig(cmd.configPath, error);
+    if (!config)
+        return Failure(1, std::move(err), error);
+
+    // A configuration without groups gets its first group, and the user is told so.
+    ImplDocConfig settings(config.get(), ResString(STR_DEFAULT_EXTENSIONS),
+                           [&err](const std::string& message) { err += message + "\n"; });
+    if (!config->GetSaveError().empty())
+        err += "docmanager: the configuration " + config->GetPath()
+            + " could not be saved: " + config->GetSaveError() + "\n";
+
+    if (cmd.mode == RunMode::ExportConfig) {
+        HeadlessResult result;
+        result.err = std::move(err);
+        result.out = settings.Export() + "\n";
+        return result;
+    }
+    return List(cmd, settings, std::move(err));
+}
