@@ -1,0 +1,59 @@
+#include "host/readers/docformat.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <fstream>
+#include <string_view>
+
+#include "host/readers/namespaces.h"
+#include "host/readers/ziparchive.h"
+
+DocFormat FormatByExtension(const std::string& path)
+{
+    const size_t dot = path.rfind('.');
+    const size_t slash = path.rfind('/');
+    if (dot == std::string::npos || (slash != std::string::npos && dot < slash))
+        return DocFormat::None;
+    std::string ext = path.substr(dot + 1);
+    std::transform(ext.begin(), ext.end(), ext.begin(), [](unsigned char c) { return char(std::tolower(c)); });
+    static constexpr std::array<std::string_view, 8> odf = {"odt", "ods", "odp", "odg", "ott", "ots", "otp", "otg"};
+    static constexpr std::array<std::string_view, 15> ooxml = {"docx", "docm", "dotx", "dotm", "xlsx",
+                                                              "xlsm", "xltx", "xltm", "pptx", "pptm",
+                                                              "potx", "potm", "ppsx", "ppsm", "xlsb"};
+    if (std::find(odf.begin(), odf.end(), ext) != odf.end())
+        return DocFormat::Odf;
+    if (std::find(ooxml.begin(), ooxml.end(), ext) != ooxml.end())
+        return DocFormat::Ooxml;
+    if (ext == "pdf")
+        return DocFormat::Pdf;
+    return DocFormat::None;
+}
+
+Signature ReadSignature(const std::string& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    char head[8] = {};
+    in.read(head, sizeof head);
+    const auto got = size_t(in.gcount());
+    if (got >= 5 && std::memcmp(head, "%PDF-", 5) == 0)
+        return Signature::Pdf;
+    if (got >= 4 && (std::memcmp(head, "PK\3\4", 4) == 0 || std::memcmp(head, "PK\5\6", 4) == 0))
+        return Signature::Zip;
+    if (got == 8 && std::memcmp(head, "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1", 8) == 0)
+        return Signature::Cfb;
+    return Signature::Other;
+}
+
+DocFormat FormatOfPackage(const ZipArchive& zip)
+{
+    if (zip.Has("meta.xml"))
+        return DocFormat::Odf;
+    std::string mimetype;
+    if (zip.Read("mimetype", 256, mimetype) == ZipRead::Ok
+        && mimetype.rfind("application/vnd.oasis.opendocument.", 0) == 0)
+        return DocFormat::Odf;
+    if (zip.Has(opc::contentTypesPart) || zip.HasPrefix("docProps/"))
+        return DocFormat::Ooxml;
+    return DocFormat::None;
+}

@@ -1,0 +1,22 @@
+#pragma once
+// Which of the supported formats a file is, by its name and by its first bytes.
+#include <string>
+
+class ZipArchive;
+
+enum class DocFormat { None, Odf, Ooxml, Pdf };
+
+// What the first bytes of a file say.
+enum class Signature {
+    Other,
+    Pdf,  // "%PDF-"
+    Zip,  // "PK\3\4" (or an empty archive's "PK\5\6")
+    Cfb,  // OLE compound file: how Office stores a password-protected OOXML document
+};
+
+// By file name extension, case-insensitive.
+DocFormat FormatByExtension(const std::string& path);
+Signature ReadSignature(const std::string& path);
+// By the entries of an open zip: an ODF package or an OPC (OOXML) package; None for any
+// other zip.
+DocFormat FormatOfPackage(const ZipArchive& zip);

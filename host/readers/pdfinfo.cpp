@@ -1,0 +1,62 @@
+#include "host/readers/pdfinfo.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "host/readers/namespaces.h"
+
+namespace pdfinfo {
+
+void Open(QPDF& pdf, const std::string& path, bool repair)
+{
+    pdf.setSuppressWarnings(true);
+    pdf.setAttemptRecovery(repair);
+    pdf.processFile(path.c_str());
+}
+
+bool IsStandardKey(const std::string& key)
+{
+    static constexpr std::array<std::string_view, 9> standard = {
+        "/Title", "/Author", "/Subject", "/Keywords", "/Creator", "/Producer", "/CreationDate", "/ModDate", "/Trapped"};
+    return key == pdfkeys::infoOrder || std::find(standard.begin(), standard.end(), key) != standard.end();
+}
+
+std::vector<std::string> InfoFieldKeys(QPDFObjectHandle info)
+{
+    std::vector<std::string> keys;
+    if (!info.isDictionary())
+        return keys;
+    QPDFObjectHandle order = info.getKey(pdfkeys::infoOrder);
+    if (order.isArray()) {
+        for (QPDFObjectHandle item : order.aitems()) {
+            if (!item.isString())
+                continue;
+            const std::string key = "/" + item.getUTF8Value();
+            if (!IsStandardKey(key) && std::find(keys.begin(), keys.end(), key) == keys.end())
+                keys.push_back(key);
+        }
+    }
+    // getKeys is sorted by name.
+    for (const std::string& key : info.getKeys()) {
+        if (!IsStandardKey(key) && std::find(keys.begin(), keys.end(), key) == keys.end())
+            keys.push_back(key);
+    }
+    return keys;
+}
+
+std::string TextOf(QPDFObjectHandle info, const std::string& key)
+{
+    if (!info.isDictionary() || !info.hasKey(key))
+        return {};
+    QPDFObjectHandle value = info.getKey(key);
+    if (value.isString())
+        return value.getUTF8Value();
+    if (value.isName())
+        return value.getName().substr(1);
+    if (value.isNull())
+        return {};
+    return value.unparseResolved();
+}
+
+}  // namespace pdfinfo
