@@ -1,9 +1,127 @@
-// PLACEHOLDER: replaced by the dialog's real implementation.
 #include "docmgr/dialogs/doccopydialog.h"
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "docmgr/dialogs/docdirbox.h"
+#include "docmgr/dialogs/docfileops.h"
+#include "docmgr/dialogs/docfolderdialog.h"
+#include "docmgr/dialogs/fileoptext.h"
+#include "docmgr/dialogs/waitcursor.h"
 #include "docmgr/manager/docmanager.h"
+#include "docmgr/manager/docmsgbox.h"
+#include "docmgr/tools/fsutil.h"
 
-struct DocCopyDialog::Impl {};
+namespace {
+constexpr uint16_t kDialog = 15706;
+constexpr unsigned short kNoEntry = 0xFFFF;
+}  // namespace
 
-DocCopyDialog::DocCopyDialog(DocManager* parent) : QDialog(parent), d(std::make_unique<Impl>()) {}
+struct DocCopyDialog::Impl {
+    DocManager* manager;
+    QLabel* caption = new QLabel(DialogText(kDialog, 22));
+    DocDirBox* tree = nullptr;
+    QGroupBox* frame = new QGroupBox;
+    QPushButton* okButton = new QPushButton(DialogText(kDialog, 18));
+    QPushButton* cancelButton = new QPushButton(DialogText(kDialog, 19));
+    QPushButton* folderButton = new QPushButton(DialogText(kDialog, 35));
+    QCheckBox* moveBox = new QCheckBox(DialogText(kDialog, 101));
+    unsigned short doneCount = 0;
+
+    std::string SelectedDir() const { return tree->GetDir(tree->GetSelectedPos()); }
+};
+
+DocCopyDialog::DocCopyDialog(DocManager* parent) : QDialog(parent), d(std::make_unique<Impl>())
+{
+    d->manager = parent;
+    d->tree = new DocDirBox(nullptr, nullptr);
+    setWindowTitle(DialogText(kDialog));
+    d->caption->setObjectName(QStringLiteral("caption"));
+    d->tree->setObjectName(QStringLiteral("directoryTree"));
+    d->frame->setObjectName(QStringLiteral("frame"));
+    d->okButton->setObjectName(QStringLiteral("okButton"));
+    d->cancelButton->setObjectName(QStringLiteral("cancelButton"));
+    d->folderButton->setObjectName(QStringLiteral("folderButton"));
+    d->moveBox->setObjectName(QStringLiteral("moveBox"));
+    d->caption->setBuddy(d->tree);
+    d->tree->setMinimumSize(d->tree->fontMetrics().averageCharWidth() * 45,
+                            d->tree->fontMetrics().height() * 16);
+    d->okButton->setDefault(true);
+
+    auto* frameLayout = new QVBoxLayout(d->frame);
+    frameLayout->addWidget(d->caption);
+    frameLayout->addWidget(d->tree, 1);
+    frameLayout->addWidget(d->moveBox);
+    auto* buttons = new QVBoxLayout;
+    buttons->addWidget(d->okButton);
+    buttons->addWidget(d->cancelButton);
+    buttons->addSpacing(d->okButton->sizeHint().height() / 2);
+    buttons->addWidget(d->folderButton);
+    buttons->addStretch();
+    auto* layout = new QHBoxLayout(this);
+    layout->addWidget(d->frame, 1);
+    layout->addLayout(buttons);
+
+    // Start in the folder of the first document rather than at the root: the user moves
+    // from there to a neighbour far more often than from "/".
+    if (const std::string* first = parent ? parent->GetFirstDoc() : nullptr)
+        d->tree->SelectDir(fsutil::DirName(*first));
+
+    connect(d->okButton, &QPushButton::clicked, this, &DocCopyDialog::OKHdl);
+    connect(d->cancelButton, &QPushButton::clicked, this, &QDialog::reject);
+    connect(d->folderButton, &QPushButton::clicked, this, &DocCopyDialog::FolderHdl);
+    connect(d->tree, &DocDirBox::DirSelected, this, &DocCopyDialog::DirectoriesHdl);
+    DirectoriesHdl();
+}
+
 DocCopyDialog::~DocCopyDialog() = default;
-unsigned short DocCopyDialog::GetDoneCount() const { return 0; }
+
+unsigned short DocCopyDialog::GetDoneCount() const { return d->doneCount; }
+
+void DocCopyDialog::DirectoriesHdl()
+{
+    const bool selected = d->tree->GetSelectedPos() != kNoEntry;
+    d->okButton->setEnabled(selected);
+    d->folderButton->setEnabled(selected);
+}
+
+void DocCopyDialog::OKHdl()
+{
+    {
+        WaitCursor wait;
+        const std::string target = d->SelectedDir();
+        const bool move = d->moveBox->isChecked();
+        for (const std::string* doc = d->manager->GetFirstDoc(); doc; doc = d->manager->GetNextDoc()) {
+            const std::string source = *doc;  // the walk may reuse the string
+            const std::string name = fsutil::FileName(source);
+            if (move) {
+                if (docfileops::MoveInto(source, target) == 0)
+                    ++d->doneCount;
+                else
+                    DocInfoBox(this, JoinedMessage(15730, name, 15731));
+            } else {
+                if (docfileops::CopyInto(source, target) == 0)
+                    ++d->doneCount;
+                else
+                    DocInfoBox(this, JoinedMessage(15728, name, 15729));
+            }
+        }
+    }
+    done(1);
+}
+
+void DocCopyDialog::FolderHdl()
+{
+    auto folderDialog = std::make_unique<DocFolderDialog>(this, d->SelectedDir());
+    if (folderDialog->exec() != 1)
+        return;
+    const std::string folder = folderDialog->GetFolder();
+    if (folder.empty())
+        return;
+    d->tree->ReadDirs();
+    d->tree->SelectDir(folder);
+}

@@ -13,7 +13,13 @@ public:
     ~DocCopyDialog() override;
     // Files copied or moved successfully.
     unsigned short GetDoneCount() const;
+
 private:
+    void OKHdl();
+    void FolderHdl();
+    // OK and the new folder button need a directory selected in the tree.
+    void DirectoriesHdl();
+
     struct Impl;
     std::unique_ptr<Impl> d;
 };

@@ -13,7 +13,11 @@ public:
     ~DocRenameDialog() override;
     // 1 after a successful rename, else 0.
     unsigned GetRenameCount() const;
+
 private:
+    void ModifyHdl();
+    void OKHdl();
+
     struct Impl;
     std::unique_ptr<Impl> d;
 };
