@@ -1,10 +1,148 @@
-// PLACEHOLDER: replaced by the real list printing.
 #include "docmgr/print/docprintdialog.h"
+
+#include <QFontDatabase>
+#include <QFontDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "docmgr/dialogs/fileoptext.h"
+#include "docmgr/dialogs/waitcursor.h"
+#include "docmgr/print/doclistprinter.h"
+#include "docmgr/print/docprintingdlg.h"
 #include "docmgr/view/docbrowser.h"
 
-struct DocPrintDialog::Impl {};
+namespace {
+constexpr uint16_t kDialog = 15709;
+constexpr uint16_t kJobName = 15743;
+}  // namespace
 
-DocPrintDialog::DocPrintDialog(QWidget* parent, DocBrowser&) : QDialog(parent), d(std::make_unique<Impl>()) {}
+struct DocPrintDialog::Impl {
+    explicit Impl(DocBrowser& browser)
+        : browser(browser), printer(QPrinter::HighResolution), listPrinter(browser, printer)
+    {
+    }
+
+    DocBrowser& browser;
+    QLabel* columnLabel = new QLabel(DialogText(kDialog, 114));
+    QListWidget* columnList = new QListWidget;
+    QPushButton* okButton = new QPushButton(DialogText(kDialog, 18));
+    QPushButton* cancelButton = new QPushButton(DialogText(kDialog, 19));
+    QPushButton* printerButton = new QPushButton(DialogText(kDialog, 136));
+    QPushButton* fontButton = new QPushButton(DialogText(kDialog, 137));
+    QPrinter printer;  // the system's default printer
+    DocListPrinter listPrinter;
+
+    QSet<QString> SelectedTitles() const
+    {
+        QSet<QString> titles;
+        for (const QListWidgetItem* item : columnList->selectedItems())
+            titles.insert(item->text());
+        return titles;
+    }
+};
+
+DocPrintDialog::DocPrintDialog(QWidget* parent, DocBrowser& browser)
+    : QDialog(parent), d(std::make_unique<Impl>(browser))
+{
+    setWindowTitle(DialogText(kDialog));
+    d->columnLabel->setObjectName(QStringLiteral("columnLabel"));
+    d->columnList->setObjectName(QStringLiteral("columnList"));
+    d->okButton->setObjectName(QStringLiteral("okButton"));
+    d->cancelButton->setObjectName(QStringLiteral("cancelButton"));
+    d->printerButton->setObjectName(QStringLiteral("printerButton"));
+    d->fontButton->setObjectName(QStringLiteral("fontButton"));
+    d->columnLabel->setBuddy(d->columnList);
+    d->columnList->setSelectionMode(QAbstractItemView::MultiSelection);
+    d->okButton->setDefault(true);
+    // The widths are counted in characters, so a font whose characters are all equally
+    // wide keeps the columns from running into each other.
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setPointSize(9);
+    d->listPrinter.SetFont(font);
+
+    for (unsigned short pos = 0; pos < browser.ColCount(); ++pos) {
+        const std::string title = browser.GetColumnTitle(browser.GetColumnId(pos));
+        auto* item = new QListWidgetItem(QString::fromStdString(title), d->columnList);
+        item->setSelected(true);
+    }
+    const QFontMetrics metrics = d->columnList->fontMetrics();
+    d->columnList->setMinimumSize(metrics.averageCharWidth() * 30, metrics.height() * 14);
+
+    auto* listLayout = new QVBoxLayout;
+    listLayout->addWidget(d->columnLabel);
+    listLayout->addWidget(d->columnList, 1);
+    auto* buttons = new QVBoxLayout;
+    buttons->addSpacing(d->columnLabel->sizeHint().height());
+    buttons->addWidget(d->okButton);
+    buttons->addWidget(d->cancelButton);
+    buttons->addSpacing(d->okButton->sizeHint().height() / 2);
+    buttons->addWidget(d->printerButton);
+    buttons->addWidget(d->fontButton);
+    buttons->addStretch();
+    auto* layout = new QHBoxLayout(this);
+    layout->addLayout(listLayout, 1);
+    layout->addLayout(buttons);
+
+    connect(d->columnList, &QListWidget::itemSelectionChanged, this, &DocPrintDialog::SelectHdl);
+    connect(d->okButton, &QPushButton::clicked, this, &DocPrintDialog::OkHdl);
+    connect(d->cancelButton, &QPushButton::clicked, this, &QDialog::reject);
+    connect(d->printerButton, &QPushButton::clicked, this, &DocPrintDialog::PrintSettingsHdl);
+    connect(d->fontButton, &QPushButton::clicked, this, &DocPrintDialog::FontSettingsHdl);
+    SelectHdl();
+}
+
 DocPrintDialog::~DocPrintDialog() = default;
-bool DocPrintDialog::PrintPage(unsigned short) const { return false; }
-QPrinter* DocPrintDialog::GetPrinter() const { return nullptr; }
+
+QPrinter* DocPrintDialog::GetPrinter() const { return &d->printer; }
+QFont DocPrintDialog::GetPrintFont() const { return d->listPrinter.GetFont(); }
+void DocPrintDialog::SetPrintFont(const QFont& font) { d->listPrinter.SetFont(font); }
+bool DocPrintDialog::StartJob(const QString& name) { return d->listPrinter.StartJob(name); }
+void DocPrintDialog::EndJob() { d->listPrinter.EndJob(); }
+
+bool DocPrintDialog::PrintPage(unsigned short page) const
+{
+    return d->listPrinter.PrintPage(page, d->SelectedTitles());
+}
+
+void DocPrintDialog::SelectHdl()
+{
+    d->okButton->setEnabled(!d->columnList->selectedItems().isEmpty());
+}
+
+void DocPrintDialog::PrintSettingsHdl()
+{
+    QPrintDialog printDialog(&d->printer, this);
+    printDialog.setObjectName(QStringLiteral("printSetupDialog"));
+    printDialog.exec();
+}
+
+void DocPrintDialog::FontSettingsHdl()
+{
+    QFontDialog fontDialog(d->listPrinter.GetFont(), this);
+    fontDialog.setObjectName(QStringLiteral("fontDialog"));
+    if (fontDialog.exec() == QDialog::Accepted)
+        d->listPrinter.SetFont(fontDialog.selectedFont());
+}
+
+void DocPrintDialog::OkHdl()
+{
+    if (!StartJob(QString::fromStdString(ResString(kJobName)))) {
+        done(0);
+        return;
+    }
+    {
+        WaitCursor wait;
+        unsigned short page = 1;
+        while (PrintPage(page) && page < 0xFFFF)
+            ++page;
+        EndJob();
+    }
+    DocPrintingDlg progress(this, &d->printer);
+    progress.exec();
+    done(0);
+}

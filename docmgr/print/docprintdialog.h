@@ -1,8 +1,10 @@
 #pragma once
 #include <QDialog>
+#include <QString>
 #include <memory>
 
 class DocBrowser;
+class QFont;
 class QPrinter;
 
 // Prints the document list as a text table with the chosen columns; result 0.
@@ -11,11 +13,25 @@ class DocPrintDialog : public QDialog {
 public:
     DocPrintDialog(QWidget* parent, DocBrowser& browser);
     ~DocPrintDialog() override;
-    // Lays out and prints page `page` (from 1); false when there is no such page.
+    // Lays out and prints page `page` (from 1) of the running job; false when there is
+    // no such page or no job is running.
     bool PrintPage(unsigned short page) const;
     QPrinter* GetPrinter() const;
 
+    // The printing font: the printer's font, set by the font button.
+    QFont GetPrintFont() const;
+    void SetPrintFont(const QFont& font);
+    // Starts a job named `name` on the printer; false when the printer cannot start one.
+    bool StartJob(const QString& name);
+    // Ends the running job; the printer then finishes it.
+    void EndJob();
+
 private:
+    void SelectHdl();
+    void PrintSettingsHdl();
+    void FontSettingsHdl();
+    void OkHdl();
+
     struct Impl;
     std::unique_ptr<Impl> d;
 };

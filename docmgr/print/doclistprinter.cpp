@@ -1,0 +1,113 @@
+#include "docmgr/print/doclistprinter.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+#include <QPrinter>
+#include <algorithm>
+
+#include "docmgr/view/docbrowser.h"
+
+namespace {
+uint16_t Characters(const std::string& text)
+{
+    return uint16_t(std::min<qsizetype>(QString::fromStdString(text).size(), 0xFFFF));
+}
+}  // namespace
+
+DocListPrinter::DocListPrinter(const DocBrowser& browser, QPrinter& printer)
+    : browser_(browser), printer_(printer)
+{
+}
+
+DocListPrinter::~DocListPrinter()
+{
+    EndJob();
+}
+
+bool DocListPrinter::StartJob(const QString& name)
+{
+    EndJob();
+    printer_.setDocName(name);
+    // The table starts at the top left corner of the sheet; no margin of any kind.
+    printer_.setFullPage(true);
+    auto painter = std::make_unique<QPainter>();
+    if (!painter->begin(&printer_))
+        return false;
+    painter_ = std::move(painter);
+    pagesPrinted_ = 0;
+    widthsValid_ = false;
+    return true;
+}
+
+void DocListPrinter::EndJob()
+{
+    if (painter_ && painter_->isActive())
+        painter_->end();
+    painter_.reset();
+}
+
+bool DocListPrinter::IsJobRunning() const
+{
+    return painter_ && painter_->isActive();
+}
+
+std::map<uint16_t, uint16_t> DocListPrinter::ColumnWidths(const QSet<QString>& titles) const
+{
+    std::map<uint16_t, uint16_t> widths;
+    for (unsigned short pos = 0; pos < browser_.ColCount(); ++pos) {
+        const uint16_t id = browser_.GetColumnId(pos);
+        const std::string title = browser_.GetColumnTitle(id);
+        if (titles.contains(QString::fromStdString(title)))
+            widths.emplace(id, Characters(title));
+    }
+    for (const auto& row : browser_.GetRowList().Rows())
+        for (auto& [id, width] : widths)
+            width = std::max(width, Characters(browser_.GetFieldString(*row, id)));
+    return widths;
+}
+
+bool DocListPrinter::PrintPage(unsigned short page, const QSet<QString>& titles)
+{
+    if (!IsJobRunning() || page == 0)
+        return false;
+    const QFontMetrics metrics(font_, &printer_);
+    const long pageHeight = printer_.height();
+    const long lineHeight = metrics.height();
+    const int charWidth = metrics.horizontalAdvance(QLatin1Char('X'));
+    if (lineHeight <= 0)
+        return false;
+    const long lines = pageHeight / lineHeight;
+    if (lines <= 1)
+        return false;
+    const long first = long(page - 1) * (lines - 1);
+    const long end = std::min(first + lines - 1, browser_.GetRowCount());
+    // A list that fills its pages exactly still gets a last page with the header only.
+    if (first > end)
+        return false;
+
+    if (!widthsValid_ || widthTitles_ != titles) {
+        widths_ = ColumnWidths(titles);
+        widthTitles_ = titles;
+        widthsValid_ = true;
+    }
+
+    if (pagesPrinted_ > 0 && !printer_.newPage())
+        return false;
+    ++pagesPrinted_;
+    painter_->setFont(font_);
+    const int ascent = metrics.ascent();
+    long y = 0;
+    auto drawLine = [&](auto textOf) {
+        long x = 0;
+        for (const auto& [id, width] : widths_) {
+            painter_->drawText(QPoint(int(x), int(y) + ascent), textOf(id));
+            x += long(width) * charWidth;
+        }
+        y += lineHeight;
+    };
+    drawLine([&](uint16_t id) { return QString::fromStdString(browser_.GetColumnTitle(id)); });
+    const auto& rows = browser_.GetRowList().Rows();
+    for (long r = first; r < end; ++r)
+        drawLine([&](uint16_t id) { return QString::fromStdString(browser_.GetFieldString(*rows[size_t(r)], id)); });
+    return true;
+}
