@@ -59,4 +59,49 @@ std::string TextOf(QPDFObjectHandle info, const std::string& key)
     return value.unparseResolved();
 }
 
+void SetText(QPDFObjectHandle info, const std::string& key, const std::string& value)
+{
+    if (value.empty())
+        info.removeKey(key);
+    else
+        info.replaceKey(key, QPDFObjectHandle::newUnicodeString(value));
+}
+
+void SetFields(QPDFObjectHandle info, const InfoFields& fields)
+{
+    if (fields.empty())
+        return;
+    QPDFObjectHandle old = info.getKey(pdfkeys::infoOrder);
+    QPDFObjectHandle names = QPDFObjectHandle::newArray();
+    for (const auto& [name, value] : fields) {
+        info.replaceKey("/" + name, QPDFObjectHandle::newUnicodeString(value));
+        names.appendItem(QPDFObjectHandle::newUnicodeString(name));
+    }
+    // Fields listed before but not written now keep their places after the new ones.
+    if (old.isArray()) {
+        for (QPDFObjectHandle item : old.aitems()) {
+            if (!item.isString())
+                continue;
+            const std::string name = item.getUTF8Value();
+            bool written = false;
+            for (const auto& field : fields)
+                written = written || field.first == name;
+            if (!written && info.hasKey("/" + name))
+                names.appendItem(QPDFObjectHandle::newUnicodeString(name));
+        }
+    }
+    info.replaceKey(pdfkeys::infoOrder, names);
+}
+
+QPDFObjectHandle InfoDictionary(QPDF& pdf)
+{
+    QPDFObjectHandle trailer = pdf.getTrailer();
+    QPDFObjectHandle info = trailer.getKey("/Info");
+    if (info.isDictionary())
+        return info;
+    info = pdf.makeIndirectObject(QPDFObjectHandle::newDictionary());
+    trailer.replaceKey("/Info", info);
+    return info;
+}
+
 }  // namespace pdfinfo

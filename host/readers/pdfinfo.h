@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "host/readers/metafields.h"
 #include "host/readers/qpdfapi.h"
 
 namespace pdfinfo {
@@ -19,5 +20,13 @@ bool IsStandardKey(const std::string& key);
 std::vector<std::string> InfoFieldKeys(QPDFObjectHandle info);
 // Text of an entry: strings decoded to UTF-8, other values as PDF syntax, "" if absent.
 std::string TextOf(QPDFObjectHandle info, const std::string& key);
+
+// Sets a text entry (PDFDocEncoding where it suffices, else UTF-16); "" removes it.
+void SetText(QPDFObjectHandle info, const std::string& key, const std::string& value);
+// Stores `fields` as entries named after them, replacing those of the same names, and
+// records their order so they are read back first and in this order.
+void SetFields(QPDFObjectHandle info, const InfoFields& fields);
+// The Info dictionary of the file, created (indirect) if the trailer has none.
+QPDFObjectHandle InfoDictionary(QPDF& pdf);
 
 }  // namespace pdfinfo

@@ -95,13 +95,20 @@ void SetText(pugi::xml_node node, std::string_view text)
         node.append_child(pugi::node_pcdata).set_value(std::string(text).c_str());
 }
 
-std::string PrefixFor(pugi::xml_node root, const char* uri, const char* preferred)
+std::string DeclaredPrefix(pugi::xml_node root, const char* uri)
 {
     for (pugi::xml_attribute a : root.attributes()) {
         const std::string_view name = a.name();
         if (name.substr(0, 6) == "xmlns:" && std::string_view(a.value()) == uri)
             return std::string(name.substr(6));
     }
+    return {};
+}
+
+std::string PrefixFor(pugi::xml_node root, const char* uri, const char* preferred)
+{
+    if (std::string declared = DeclaredPrefix(root, uri); !declared.empty())
+        return declared;
     std::string prefix = preferred;
     for (int n = 2; root.attribute(("xmlns:" + prefix).c_str()); ++n)
         prefix = preferred + std::to_string(n);
@@ -114,6 +121,35 @@ pugi::xml_node AppendElement(pugi::xml_node parent, pugi::xml_node root, const c
 {
     const std::string prefix = PrefixFor(root, uri, preferredPrefix);
     return parent.append_child((prefix + ":" + local).c_str());
+}
+
+void SetSingleChild(pugi::xml_node parent, pugi::xml_node root, const char* uri, const char* preferredPrefix,
+                    const char* local, std::string_view value)
+{
+    pugi::xml_node first = Child(parent, uri, local);
+    if (value.empty()) {
+        RemoveChildren(parent, uri, local);
+        return;
+    }
+    if (!first)
+        first = AppendElement(parent, root, uri, preferredPrefix, local);
+    SetText(first, value);
+    for (pugi::xml_node n = first.next_sibling(); n;) {
+        const pugi::xml_node next = n.next_sibling();
+        if (Is(n, uri, local))
+            parent.remove_child(n);
+        n = next;
+    }
+}
+
+void RemoveChildren(pugi::xml_node parent, const char* uri, const char* local)
+{
+    for (pugi::xml_node n = parent.first_child(); n;) {
+        const pugi::xml_node next = n.next_sibling();
+        if (Is(n, uri, local))
+            parent.remove_child(n);
+        n = next;
+    }
 }
 
 }  // namespace xmlutil

@@ -1,0 +1,92 @@
+#include "host/readers/docwriter.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "host/readers/docformat.h"
+#include "host/readers/formatwriters.h"
+#include "host/readers/tempsibling.h"
+#include "host/readers/ziparchive.h"
+
+namespace {
+
+// A file without any write permission counts as read-only even for a process that
+// could write it anyway.
+bool IsReadOnly(const std::string& path, const struct stat& st)
+{
+    return (st.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0 || ::access(path.c_str(), W_OK) != 0;
+}
+
+bool WritePackage(const std::string& path, DocFormat byName, const DocMeta& meta, std::string& error)
+{
+    TempSibling temp(path);
+    if (!temp.Create(error) || !temp.CopyTarget(error))
+        return false;
+    ZipArchive zip;
+    if (!zip.Open(temp.Path(), ZipArchive::Mode::Modify)) {
+        error = std::string(writeerrors::damaged) + ": " + zip.Error();
+        return false;
+    }
+    DocFormat format = FormatOfPackage(zip);
+    if (format == DocFormat::None)
+        format = byName;
+    bool written = false;
+    if (format == DocFormat::Odf)
+        written = WriteOdfMeta(zip, meta, error);
+    else if (format == DocFormat::Ooxml)
+        written = WriteOoxmlMeta(zip, meta, error);
+    else
+        error = writeerrors::unsupported;
+    if (!written)
+        return false;
+    if (!zip.Commit()) {
+        error = "Cannot write " + path + ": " + zip.Error();
+        return false;
+    }
+    return temp.Commit(error);
+}
+
+bool WritePdf(const std::string& path, const DocMeta& meta, std::string& error)
+{
+    TempSibling temp(path);
+    return temp.Create(error) && WritePdfMeta(path, temp.Path(), meta, error) && temp.Commit(error);
+}
+
+}  // namespace
+
+bool WriteDocMeta(const std::string& path, const DocMeta& meta, std::string& error)
+{
+    error.clear();
+    try {
+        struct stat st;
+        if (::stat(path.c_str(), &st) != 0 || !S_ISREG(st.st_mode)) {
+            error = "The file " + path + " does not exist.";
+            return false;
+        }
+        if (IsReadOnly(path, st)) {
+            error = "The file " + path + " is read-only.";
+            return false;
+        }
+        const DocFormat byName = FormatByExtension(path);
+        switch (ReadSignature(path)) {
+        case Signature::Pdf:
+            return WritePdf(path, meta, error);
+        case Signature::Zip:
+            return WritePackage(path, byName, meta, error);
+        case Signature::Cfb:
+            if (byName == DocFormat::Ooxml) {
+                error = writeerrors::encrypted;
+                return false;
+            }
+            break;
+        case Signature::Other:
+            break;
+        }
+        error = byName == DocFormat::None ? writeerrors::unsupported
+                                          : std::string(writeerrors::damaged) + ": it is not a readable "
+                                              + (byName == DocFormat::Pdf ? "PDF file." : "package.");
+    } catch (const std::exception& e) {
+        error = std::string("Cannot change the document information: ") + e.what();
+    }
+    return false;
+}
