@@ -1,0 +1,43 @@
+#pragma once
+// Document information and selections for tests without a window.
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+
+#include "docmgr/records/docsource.h"
+
+// Answers CreateDocInfo with known information per file name and counts the calls.
+class TestSource : public DocSource {
+public:
+    // What a file gets when `known` has nothing for it: title = its name, author
+    // "Tester", created 2020-01-02 10:00:00, modified and printed stamps equal to it.
+    static DocInfo Sample(const std::string& name);
+
+    std::unique_ptr<DocInfo> CreateDocInfo(const std::string& path) override;
+    void CollectProgress(size_t dirs, size_t docs) override;
+
+    // Calls for the file at `path` (absolute), and for all files.
+    int CallsFor(const std::string& path) const;
+    int TotalCalls() const { return totalCalls; }
+    void ResetCalls();
+
+    std::map<std::string, DocInfo> known;  // by file name
+    std::set<std::string> notDocuments;    // file names answered with null
+    std::map<std::string, int> callsPerPath;
+    int totalCalls = 0;
+    size_t progressCalls = 0;
+    size_t lastProgressDirs = 0;
+    size_t lastProgressDocs = 0;
+};
+
+// A fixed set of selected rows.
+class TestSelection : public DocSelection {
+public:
+    TestSelection() = default;
+    explicit TestSelection(std::set<long> rows) : rows(std::move(rows)) {}
+    long FirstSelected() const override;
+    long NextSelected(long row) const override;
+
+    std::set<long> rows;
+};
