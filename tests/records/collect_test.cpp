@@ -1,0 +1,106 @@
+// Collecting a path list into the row list, and walking the selected rows.
+#include "tests/records/indextestbase.h"
+
+using Names = std::vector<std::string>;
+
+TEST_F(IndexTest, CollectTakesExistingDirectoriesInPathListOrder)
+{
+    Doc("one/a.odt");
+    Doc("two/b.odt");
+    Doc("two/sub/c.odt");
+    Doc("file.odt");
+    ASSERT_TRUE(rows.NeedsCollect());
+
+    rows.CollectFiles(dir.PathOf("two") + "/**;" + dir.PathOf("missing") + ";;" +
+                      dir.PathOf("file.odt") + ";" + dir.PathOf("one"));
+    EXPECT_EQ(RowNames(), (Names{"b.odt", "c.odt", "a.odt"}));
+    EXPECT_FALSE(rows.NeedsCollect());
+    EXPECT_FALSE(dir.Exists("missing"));
+
+    rows.CollectFiles("");
+    EXPECT_EQ(rows.GetRowCount(), 0);
+}
+
+TEST_F(IndexTest, CollectFiltersAndSortsByTheWorkingGroup)
+{
+    for (const char* name : {"b.odt", "c.odt", "a.odt"}) {
+        DocInfo info = TestSource::Sample(name);
+        info.title = name[0] == 'c' ? "Other" : "Plan";
+        source.known[name] = info;
+        Doc(name);
+    }
+    DocGroupConfig& group = config.WorkingGroup();
+    group.sortColumnId = 1;
+    group.sortAscending = false;
+    rows.CollectFiles(dir.Path());
+    EXPECT_EQ(RowNames(), (Names{"c.odt", "b.odt", "a.odt"}));
+
+    // The case flag alone is no filter.
+    group.filterSensitive = true;
+    rows.CollectFiles(dir.Path());
+    EXPECT_EQ(rows.GetRowCount(), 3);
+
+    group.filterTitle = "plan";
+    group.filterSensitive = false;
+    group.sortAscending = true;
+    rows.CollectFiles(dir.Path());
+    EXPECT_EQ(RowNames(), (Names{"a.odt", "b.odt"}));
+}
+
+TEST_F(IndexTest, SelectedDocumentsAreWalkedInRowOrder)
+{
+    Doc("a.odt");
+    Doc("b.odt");
+    Doc("c.odt");
+    config.WorkingGroup().sortColumnId = 1;
+    rows.CollectFiles(dir.Path());
+
+    TestSelection none;
+    EXPECT_EQ(rows.GetFirstDoc(none), nullptr);
+    EXPECT_EQ(rows.GetNextDoc(none), nullptr);
+
+    TestSelection two({0, 2});
+    const std::string* doc = rows.GetFirstDoc(two);
+    ASSERT_NE(doc, nullptr);
+    EXPECT_EQ(*doc, dir.PathOf("a.odt"));
+    doc = rows.GetNextDoc(two);
+    ASSERT_NE(doc, nullptr);
+    EXPECT_EQ(*doc, dir.PathOf("c.odt"));
+    EXPECT_EQ(rows.GetNextDoc(two), nullptr);
+    EXPECT_EQ(rows.GetNextDoc(two), nullptr) << "stays at the end";
+
+    // A selection past the rows ends the walk.
+    TestSelection stale({1, 7});
+    ASSERT_NE(rows.GetFirstDoc(stale), nullptr);
+    EXPECT_EQ(rows.GetNextDoc(stale), nullptr);
+}
+
+TEST_F(IndexTest, RemovedAndReplacedRows)
+{
+    Doc("a.odt");
+    Doc("b.odt");
+    config.WorkingGroup().sortColumnId = 1;
+    rows.CollectFiles(dir.Path());
+    const std::string index = Index();
+
+    auto info = std::make_unique<DocInfo>(rows.Row(1));
+    info->title = "edited";
+    rows.ReplaceRow(1, std::move(info));
+    EXPECT_EQ(rows.Row(1).title, "edited");
+
+    EXPECT_EQ(rows.RowRemoved(dir.PathOf("a.odt")), std::vector<long>{0});
+    EXPECT_EQ(RowNames(), Names{"b.odt"});
+    EXPECT_TRUE(rows.RowRemoved(dir.PathOf("none.odt")).empty());
+    EXPECT_EQ(Index(), index) << "the index is not touched";
+}
+
+TEST_F(IndexTest, WithoutSortColumnRowsKeepIndexOrder)
+{
+    using indeximage::SampleRecord;
+    for (const char* name : {"a.odt", "b.odt", "c.odt"})
+        Doc(name);
+    WriteIndex(Image({SampleRecord("b.odt"), SampleRecord("c.odt"), SampleRecord("a.odt")}));
+    ASSERT_EQ(config.WorkingGroup().sortColumnId, NO_COLUMN);
+    rows.CollectFiles(dir.Path());
+    EXPECT_EQ(RowNames(), (Names{"b.odt", "c.odt", "a.odt"}));
+}

@@ -1,0 +1,57 @@
+// Reading a directory with its subdirectories.
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+
+#include "tests/records/indextestbase.h"
+
+using Names = std::vector<std::string>;
+
+TEST_F(IndexTest, SubdirectoriesFollowTheirParentAndEachGetsAnIndex)
+{
+    Doc("a.odt");
+    Doc("sub/b.odt");
+    Doc("sub/deeper/c.odt");
+    dir.MakeDir("empty");
+    const auto cwd = std::filesystem::current_path();
+
+    ReadDir(true);
+    EXPECT_EQ(RowNames(), (Names{"a.odt", "b.odt", "c.odt"})) << "pre-order";
+    EXPECT_TRUE(dir.Exists("sub/.docindex"));
+    EXPECT_TRUE(dir.Exists("sub/deeper/.docindex"));
+    EXPECT_FALSE(dir.Exists("empty/.docindex"));
+    EXPECT_EQ(source.progressCalls, 4u) << "once per directory";
+    EXPECT_EQ(source.lastProgressDocs, 3u);
+    EXPECT_EQ(std::filesystem::current_path(), cwd);
+
+    ReadDir(false);
+    EXPECT_EQ(RowNames(), Names{"a.odt"});
+}
+
+TEST_F(IndexTest, LinkCycleIsNotFollowedAndExceptionPathsAreSkipped)
+{
+    Doc("a.odt");
+    Doc("sub/b.odt");
+    Doc("skip/c.odt");
+    dir.MakeLink("sub/back", dir.Path());
+    dir.MakeLink("sub/self", ".");
+    config.SetExceptionPaths(dir.PathOf("skip") + ";/elsewhere");
+
+    ReadDir(true);
+    EXPECT_EQ(RowNames(), (Names{"a.odt", "b.odt"}));
+    EXPECT_FALSE(dir.Exists("skip/.docindex"));
+}
+
+TEST_F(IndexTest, UnreadableSubdirectoryIsSkipped)
+{
+    if (geteuid() == 0)
+        GTEST_SKIP() << "root reads any directory";
+    Doc("a.odt");
+    Doc("closed/b.odt");
+    Doc("open/c.odt");
+    chmod(dir.PathOf("closed").c_str(), 0);
+
+    ReadDir(true);
+    EXPECT_EQ(RowNames(), (Names{"a.odt", "c.odt"}));
+}
