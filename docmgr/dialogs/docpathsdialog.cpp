@@ -1,9 +1,225 @@
-// PLACEHOLDER: replaced by the dialog's real implementation.
 #include "docmgr/dialogs/docpathsdialog.h"
-#include "docmgr/manager/docmanager.h"
 
-struct DocPathsDialog::Impl {};
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <algorithm>
 
-DocPathsDialog::DocPathsDialog(QWidget* parent, ImplDocConfig*, unsigned short) : QDialog(parent), d(std::make_unique<Impl>()) {}
+#include "docmgr/config/impldocconfig.h"
+#include "docmgr/config/pathrules.h"
+#include "docmgr/dialogs/dialogtext.h"
+#include "docmgr/dialogs/docdirbox.h"
+#include "docmgr/dialogs/waitcursor.h"
+#include "docmgr/tools/tokens.h"
+
+namespace {
+constexpr uint16_t kDialog = 15701;
+constexpr uint16_t kIncludeBoxText = 226;  // check box 26; the remove button has 26 too
+
+QString Q(const std::string& text) { return QString::fromStdString(text); }
+}  // namespace
+
+DocPathsDialog::DocPathsDialog(QWidget* parent, ImplDocConfig* config, unsigned short group)
+    : QDialog(parent), config_(config), group_(group)
+{
+    setObjectName(QStringLiteral("pathsDialog"));
+    setWindowTitle(DialogText(kDialog, 0));
+
+    listCaption_ = new QLabel(DialogText(kDialog, 20), this);
+    listCaption_->setObjectName(QStringLiteral("listCaption"));
+    pathList_ = new QListWidget(this);
+    pathList_->setObjectName(QStringLiteral("pathList"));
+    listCaption_->setBuddy(pathList_);
+    addButton_ = new QPushButton(DialogText(kDialog, 32), this);
+    addButton_->setObjectName(QStringLiteral("addButton"));
+    removeButton_ = new QPushButton(DialogText(kDialog, 26), this);
+    removeButton_->setObjectName(QStringLiteral("removeButton"));
+    removeAllButton_ = new QPushButton(DialogText(kDialog, 33), this);
+    removeAllButton_->setObjectName(QStringLiteral("removeAllButton"));
+    treeCaption_ = new QLabel(DialogText(kDialog, 22), this);
+    treeCaption_->setObjectName(QStringLiteral("treeCaption"));
+    dirTree_ = new DocDirBox(this, config_);
+    treeCaption_->setBuddy(dirTree_);
+    includeBox_ = new QCheckBox(DialogText(kDialog, kIncludeBoxText), this);
+    includeBox_->setObjectName(QStringLiteral("includeBox"));
+    frame_ = new QGroupBox(DialogText(kDialog, 27), this);
+    frame_->setObjectName(QStringLiteral("frame"));
+    okButton_ = new QPushButton(DialogText(kDialog, 18), this);
+    okButton_->setObjectName(QStringLiteral("okButton"));
+    okButton_->setDefault(true);
+    cancelButton_ = new QPushButton(DialogText(kDialog, 19), this);
+    cancelButton_->setObjectName(QStringLiteral("cancelButton"));
+    for (QPushButton* button : {addButton_, removeButton_, removeAllButton_})
+        button->setAutoDefault(false);  // Enter stays with OK
+
+    // Tree | add, remove, remove all | chosen paths, all inside the frame; OK and
+    // cancel at the right.
+    auto* moveButtons = new QVBoxLayout;
+    moveButtons->addStretch();
+    moveButtons->addWidget(addButton_);
+    moveButtons->addWidget(removeButton_);
+    moveButtons->addWidget(removeAllButton_);
+    moveButtons->addStretch();
+    auto* frameLayout = new QGridLayout(frame_);
+    frameLayout->addWidget(treeCaption_, 0, 0);
+    frameLayout->addWidget(dirTree_, 1, 0);
+    frameLayout->addLayout(moveButtons, 1, 1);
+    frameLayout->addWidget(listCaption_, 0, 2);
+    frameLayout->addWidget(pathList_, 1, 2);
+    frameLayout->addWidget(includeBox_, 2, 2);
+    frameLayout->setColumnStretch(0, 1);
+    frameLayout->setColumnStretch(2, 1);
+    auto* dialogButtons = new QVBoxLayout;
+    dialogButtons->addWidget(okButton_);
+    dialogButtons->addWidget(cancelButton_);
+    dialogButtons->addStretch();
+    auto* layout = new QHBoxLayout(this);
+    layout->addWidget(frame_, 1);
+    layout->addLayout(dialogButtons);
+    dirTree_->setMinimumSize(240, 320);
+    pathList_->setMinimumSize(240, 320);
+
+    connect(okButton_, &QPushButton::clicked, this, &DocPathsDialog::OKHdl);
+    connect(cancelButton_, &QPushButton::clicked, this, &QDialog::reject);
+    connect(addButton_, &QPushButton::clicked, this, &DocPathsDialog::AddHdl);
+    connect(removeButton_, &QPushButton::clicked, this, &DocPathsDialog::RemoveHdl);
+    connect(removeAllButton_, &QPushButton::clicked, this, &DocPathsDialog::RemoveAllHdl);
+    connect(includeBox_, &QCheckBox::clicked, this, &DocPathsDialog::IncludeHdl);
+    connect(pathList_, &QListWidget::currentRowChanged, this, &DocPathsDialog::PathsHdl);
+    connect(dirTree_, &DocDirBox::DirSelected, this, &DocPathsDialog::DirectoriesHdl);
+
+    // Shown entries (flag "1") in stored order; the rest is kept aside with its flag.
+    const DocGroupConfig& g = config_->Group(group_);
+    const unsigned short count = tokens::Count(g.paths, ';');
+    {
+        const QSignalBlocker blocker(pathList_);
+        for (unsigned short i = 0; i < count; ++i) {
+            const std::string path = tokens::Get(g.paths, i, ';');
+            // A missing flag is "0": the entry is inactive, as the list collection reads it.
+            const char flag = i < g.guis.size() ? g.guis[i] : '0';
+            if (flag == '1') {
+                pathList_->addItem(Q(path));
+            } else {
+                hiddenPaths_ += path + ';';
+                hiddenFlags_ += flag;
+            }
+        }
+        pathList_->setCurrentRow(0);
+    }
+    PathsHdl();
+    DirectoriesHdl();
+
+    setTabOrder(dirTree_, addButton_);
+    setTabOrder(addButton_, removeButton_);
+    setTabOrder(removeButton_, removeAllButton_);
+    setTabOrder(removeAllButton_, pathList_);
+    setTabOrder(pathList_, includeBox_);
+    setTabOrder(includeBox_, okButton_);
+    setTabOrder(okButton_, cancelButton_);
+    dirTree_->setFocus();
+}
+
 DocPathsDialog::~DocPathsDialog() = default;
 
+void DocPathsDialog::PathsHdl()
+{
+    const bool any = pathList_->count() > 0;
+    removeButton_->setEnabled(any);
+    removeAllButton_->setEnabled(any);
+    includeBox_->setEnabled(any);
+    const QListWidgetItem* selected = pathList_->currentItem();
+    includeBox_->setChecked(any && selected && TestSub(selected->text().toStdString()));
+}
+
+void DocPathsDialog::DirectoriesHdl()
+{
+    const unsigned short pos = dirTree_->GetSelectedPos();
+    if (pos == 0xFFFF) {
+        addButton_->setEnabled(false);
+        return;
+    }
+    const std::string dir = dirTree_->GetDir(pos);
+    bool listed = false;
+    for (int i = 0; i < pathList_->count() && !listed; ++i)
+        listed = WoutSub(pathList_->item(i)->text().toStdString()) == dir;
+    addButton_->setEnabled(!listed);
+}
+
+void DocPathsDialog::AddHdl()
+{
+    const unsigned short pos = dirTree_->GetSelectedPos();
+    if (pos == 0xFFFF)
+        return;
+    {
+        const QSignalBlocker blocker(pathList_);
+        pathList_->addItem(Q(WoutSub(dirTree_->GetDir(pos))));
+        pathList_->setCurrentRow(pathList_->count() - 1);
+    }
+    PathsHdl();
+    addButton_->setEnabled(false);
+}
+
+void DocPathsDialog::RemoveHdl()
+{
+    const int pos = pathList_->currentRow();
+    if (pos < 0)
+        return;
+    {
+        const QSignalBlocker blocker(pathList_);
+        delete pathList_->takeItem(pos);
+        pathList_->setCurrentRow(std::min(pos, pathList_->count() - 1));
+    }
+    PathsHdl();
+    // Enabled even when the tree's directory is still listed.
+    addButton_->setEnabled(true);
+}
+
+void DocPathsDialog::RemoveAllHdl()
+{
+    {
+        const QSignalBlocker blocker(pathList_);
+        pathList_->clear();
+    }
+    PathsHdl();
+    addButton_->setEnabled(true);
+}
+
+void DocPathsDialog::IncludeHdl()
+{
+    QListWidgetItem* selected = pathList_->currentItem();
+    if (!selected)
+        return;
+    // Follows the entry's own marker, not the box's state.
+    const std::string entry = selected->text().toStdString();
+    const std::string toggled = TestSub(entry) ? WoutSub(entry) : WithSub(entry);
+    selected->setText(Q(toggled));
+    pathList_->setCurrentItem(selected);
+    includeBox_->setChecked(TestSub(toggled));
+}
+
+void DocPathsDialog::OKHdl()
+{
+    WaitCursor wait;
+    DocGroupConfig& g = config_->Group(group_);
+    g.paths.clear();
+    g.guis.clear();
+    for (int i = 0; i < pathList_->count(); ++i) {
+        if (i > 0)
+            g.paths += ';';
+        g.paths += pathList_->item(i)->text().toStdString();
+        g.guis += '1';
+    }
+    // Every hidden entry gets the first hidden entry's flag; kept so on purpose.
+    for (size_t i = 0; i < hiddenFlags_.size(); ++i) {
+        if (!g.paths.empty())
+            g.paths += ';';
+        g.paths += tokens::Get(hiddenPaths_, static_cast<unsigned short>(i), ';');
+        g.guis += hiddenFlags_[0];
+    }
+    done(1);
+}
