@@ -133,6 +133,8 @@ bool ZipArchive::Put(const std::string& name, std::string data, bool compress)
         }
     }
     zip_set_file_compression(zip_, zip_uint64_t(index), compress ? ZIP_CM_DEFLATE : ZIP_CM_STORE, 0);
+    if (entryTime_ > 0)
+        zip_file_set_mtime(zip_, zip_uint64_t(index), time_t(entryTime_), 0);
     return true;
 }
 

@@ -2,6 +2,7 @@
 // A zip package (ODF, OOXML) opened through libzip: bounded reads of single entries,
 // and replacing or adding entries while every other entry is copied unchanged.
 #include <cstddef>
+#include <cstdint>
 #include <list>
 #include <memory>
 #include <string>
@@ -43,6 +44,9 @@ public:
     // Sets the entry's contents, replacing it in place or adding it at the end.
     // `compress` false stores it (needed for the ODF mimetype entry).
     bool Put(const std::string& name, std::string data, bool compress = true);
+    // Modification time given to the entries put from now on (seconds since the epoch);
+    // 0, the default, means the time of writing.
+    void SetEntryTime(int64_t seconds) { entryTime_ = seconds; }
     // Writes the changes; false with Error() on failure. The archive is closed either way.
     bool Commit();
 
@@ -54,6 +58,7 @@ private:
     zip* zip_ = nullptr;
     std::list<std::string> pending_;  // data of entries put, alive until Commit
     std::string error_;
+    int64_t entryTime_ = 0;
 };
 
 // Upper bound on the bytes inflated from any one XML part of a package.
