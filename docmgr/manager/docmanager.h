@@ -18,6 +18,8 @@ class QCheckBox;
 class QPushButton;
 class QToolButton;
 class QMenu;
+class QAction;
+class ResModule;
 
 // Results of Execute besides 0 (closed) and 1 (open).
 constexpr int RET_PRINTDOCS = 10;
@@ -73,8 +75,41 @@ public:
     std::string GetCollectPaths() const;
     void SetPathLine(const std::string& text);
     std::string GetPathLine() const;
+    QPushButton* GetOpenButton() const;
+    // Whether a confirmed settings dialog changed the working group since it was chosen.
+    bool IsChanged() const;
+
+protected:
+    // The steps of the dialog, in the order a run uses them.
+    void Init();
+    void ResizeBrowser();
+    void FillSectionBox(bool collect);
+    void SelectSection(const std::string& section, bool collect);
+    // Asks whether changed settings are to be kept in the current group.
+    void QuerySave();
+
+    // Handlers of the controls.
+    void CommandsHdl(QAction* item);
+    void SectionHdl();
+    void GroupHdl();
+    void SummaryHdl();
+    void OpenHdl();
+    void CloseHdl();
+    void GroupsHdl();
+    void PathsHdl();
+    void FilterHdl();
+    void SortHdl();
+    void ColumnsHdl();
+
+    // Escape and the window's close box act as the close button.
+    void reject() override;
 
 private:
+    void BuildControls();
+    void ConnectHandlers();
+    void DeleteSelected();
+    template <class Dialog> bool RunSettingsDialog();
+
     struct Impl;
     std::unique_ptr<Impl> d;
     friend struct Impl;
@@ -88,4 +123,7 @@ public:
     ~DocManagerDll();
     DocManagerDll(const DocManagerDll&) = delete;
     DocManagerDll& operator=(const DocManagerDll&) = delete;
+
+private:
+    std::unique_ptr<ResModule> module_;
 };

@@ -8,6 +8,10 @@
 #include "docmgr/records/docrowlist.h"
 
 class DocManager;
+class DocCommandMenu;
+class DocListModel;
+class FrozenColumnsView;
+class CollectProgress;
 class KxFileStream;
 
 class DocBrowser : public QTableView {
@@ -17,15 +21,22 @@ public:
     ~DocBrowser() override;
 
     DocManager* GetMgr() const;
+    // Ties the list to the manager's settings and builds the columns.
     void Initialize();
+    // Rebuilds all columns from the working group (one name column in single view);
+    // the selected rows stay selected.
     void InsertColumns();
 
     // Index and collection, kept by the row list.
     void ReadWriteDocInfos(const std::string& dir, bool withSubdirs);
     static bool WriteDirFileEntry(KxFileStream& stream, const DocInfo* info);
+    // Drops the rows of the deleted file `path`.
     void RowRemoved(const std::string& path);
+    // Reads the manager's path list (or its start paths) afresh and shows the result;
+    // writes the count line into the manager's path line.
     void CollectFiles(bool onlyIfNeeded);
     void SortFiles(bool repaint);
+    // Paths of the selected rows in ascending row order; null after the last.
     const std::string* GetFirstDoc();
     const std::string* GetNextDoc();
 
@@ -37,16 +48,47 @@ public:
     unsigned short ColCount() const;
     unsigned short GetColumnId(unsigned short position) const;
     std::string GetColumnTitle(unsigned short columnId) const;
+    // Width of a column with the stored width 0xFFFF: by the title or by "X" widths.
+    int DefaultColumnWidth(unsigned short columnId) const;
 
+    // Stores the width of column `columnId` in the working and the current group and
+    // writes it to the configuration at once.
     void ColumnResized(unsigned short columnId);
+    // Fits the column to its widest text, at most half the data area (header double click).
+    void FitColumn(unsigned short columnId);
+    // Lets the host edit the first selected document's information and shows it anew.
     void EditDocInfo();
     void PrintList();
+    // Multiple selection (extended) or single selection.
+    void SetSingleSelection(bool single);
+
     // Selection helpers for the manager's commands.
     long GetSelectedRowCount() const;
+    long GetFirstSelectedRow() const;
     void DeselectFirstSelected();
     void ClearSelection();
 
+    // The context menu for the current selection, enabled by the access rights alone;
+    // null when no row is selected.
+    std::unique_ptr<DocCommandMenu> CreateContextMenu();
+
+    DocListModel* GetModel() const;
+    FrozenColumnsView* GetFrozenView() const;
+    CollectProgress& GetCollectProgress() const;
+
+protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void updateGeometries() override;
+    void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+
 private:
+    void RowDoubleClicked(const QModelIndex& index);
+    void HeaderDoubleClicked(int column);
+    void SectionResized(int column, int oldWidth, int newWidth);
+
     struct Impl;
     std::unique_ptr<Impl> d;
+    friend struct Impl;
 };

@@ -1,0 +1,136 @@
+// Construction, the run and the public interface of the document manager dialog.
+#include "docmgr/manager/docmanager.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+
+#include "docmgr/config/impldocconfig.h"
+#include "docmgr/manager/docmanagerimpl.h"
+#include "docmgr/manager/docmsgbox.h"
+#include "docmgr/tools/config.h"
+#include "docmgr/tools/resmgr.h"
+#include "docmgr/view/docbrowser.h"
+#include "docmgr/view/docsummarywindow.h"
+
+namespace {
+constexpr uint16_t STR_INDEX_NAME = 15720;
+constexpr uint16_t STR_DEF_EXTENSIONS = 15722;
+constexpr uint16_t STR_SUBDIR_MARKER = 15723;
+constexpr uint16_t STR_OPEN = 15738;
+constexpr uint16_t STR_SELECT = 15739;
+// Used when the host gives no configuration of its own, whatever name it gave.
+constexpr const char* FALLBACK_CONFIG = "dmgdump.cfg";
+}  // namespace
+
+DocManager::DocManager(QWidget* parent, const std::string& name, const std::string& startPaths,
+                       bool openMode)
+    : DocManager(parent, static_cast<Config*>(nullptr), startPaths, openMode)
+{
+    d->configName = name;
+}
+
+DocManager::DocManager(QWidget* parent, Config* config, const std::string& startPaths, bool openMode)
+    : QDialog(parent), d(std::make_unique<Impl>())
+{
+    d->hostConfig = config;
+    d->openMode = openMode;
+    // The bare subdirectory marker is what hosts pass for "no start path".
+    d->startPaths = startPaths == ResString(STR_SUBDIR_MARKER) ? std::string() : startPaths;
+    d->dirFileName = ResString(STR_INDEX_NAME);
+    d->defExtensions = ResString(STR_DEF_EXTENSIONS);
+    BuildControls();
+}
+
+DocManager::~DocManager()
+{
+    // The list and the pane ask the manager while they go; let them go first.
+    delete d->summary;
+    d->summary = nullptr;
+    delete d->browser;
+    d->browser = nullptr;
+}
+
+void DocManager::SetDirFileName(const std::string& name) { d->dirFileName = name; }
+const std::string& DocManager::GetDirFileName() const { return d->dirFileName; }
+void DocManager::SetDefExtensions(const std::string& extensions) { d->defExtensions = extensions; }
+const std::string& DocManager::GetDefExtensions() const { return d->defExtensions; }
+
+short DocManager::Execute()
+{
+    if (!d->settings)
+        Init();
+    else
+        CollectFiles();  // later runs keep the settings and show the list afresh
+    return static_cast<short>(exec());
+}
+
+void DocManager::Init()
+{
+    Config* config = d->hostConfig;
+    if (!config) {
+        d->ownConfig = std::make_unique<Config>(FALLBACK_CONFIG);
+        config = d->ownConfig.get();
+    }
+    QWidget* host = parentWidget();
+    d->settings = std::make_unique<ImplDocConfig>(
+        config, d->defExtensions, [host](const std::string& message) { DocInfoBox(host, message); });
+    d->browser->Initialize();
+    QFont pathFont = d->pathLine->font();
+    pathFont.setWeight(QFont::Normal);
+    d->pathLine->setFont(pathFont);
+    ConnectHandlers();
+    if (!d->openMode)
+        d->readOnlyBox->hide();
+    d->singleViewBox->setChecked(d->settings->singleView);
+    ResizeBrowser();
+    d->openButton->setText(QString::fromStdString(ResString(d->openMode ? STR_OPEN : STR_SELECT)));
+    FillSectionBox(true);
+    d->browser->setFocus();
+}
+
+const std::string* DocManager::GetFirstDoc() { return d->browser ? d->browser->GetFirstDoc() : nullptr; }
+const std::string* DocManager::GetNextDoc() { return d->browser ? d->browser->GetNextDoc() : nullptr; }
+
+bool DocManager::IsReadOnly() const
+{
+    return d->openMode && !d->readOnlyBox->isHidden() && d->readOnlyBox->isChecked();
+}
+
+std::string DocManager::GetConfig() const
+{
+    return d->settings ? d->settings->Export() : std::string();
+}
+
+ImplDocConfig* DocManager::GetSettings() const { return d->settings.get(); }
+DocBrowser* DocManager::GetBrowser() const { return d->browser; }
+DocSummaryWindow* DocManager::GetSummaryWindow() const { return d->summary; }
+bool DocManager::IsOpenMode() const { return d->openMode; }
+bool DocManager::IsSingleView() const { return d->singleViewBox->isChecked(); }
+QListWidget* DocManager::GetGroupList() const { return d->groupList; }
+QPushButton* DocManager::GetOpenButton() const { return d->openButton; }
+bool DocManager::IsChanged() const { return d->changed; }
+
+QString DocManager::GetSelectedGroupName() const
+{
+    const QListWidgetItem* item = d->groupList->currentItem();
+    return item ? item->text() : QString();
+}
+
+std::string DocManager::GetCollectPaths() const
+{
+    return d->pathLineText.empty() ? d->startPaths : d->pathLineText;
+}
+
+void DocManager::SetPathLine(const std::string& text)
+{
+    d->pathLineText = text;
+    d->pathLine->setText(QString::fromStdString(text));
+    d->pathLine->setToolTip(d->pathLine->text());  // the line may be cut off at the right
+}
+
+std::string DocManager::GetPathLine() const
+{
+    return d->pathLineText;
+}

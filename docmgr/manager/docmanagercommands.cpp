@@ -1,0 +1,93 @@
+// The file commands of the document manager (commands menu and the list's context menu).
+#include <QPushButton>
+#include <memory>
+
+#include "docmgr/config/impldocconfig.h"
+#include "docmgr/dialogs/doccopydialog.h"
+#include "docmgr/dialogs/docrenamedialog.h"
+#include "docmgr/manager/docmanager.h"
+#include "docmgr/manager/docmanagerimpl.h"
+#include "docmgr/manager/docmsgbox.h"
+#include "docmgr/tools/fsutil.h"
+#include "docmgr/tools/resmgr.h"
+#include "docmgr/view/docbrowser.h"
+#include "docmgr/view/doccommandmenu.h"
+#include "docmgr/view/waitcursor.h"
+
+namespace {
+constexpr uint16_t QUERY_DELETE = 15700;
+constexpr uint16_t STR_DELETE_FAILED = 15724;
+constexpr uint16_t STR_DELETE_FAILED_END = 15725;
+}  // namespace
+
+void DocManager::WatchControls()
+{
+    if (!d->browser || !d->commandMenu)
+        return;
+    const long selected = d->browser->GetSelectedRowCount();
+    d->openButton->setEnabled(selected > 0);
+    const uint16_t access = d->settings ? d->settings->access : 0;
+    auto enable = [this](unsigned short id, bool on) { d->commandMenu->Item(id)->setEnabled(on); };
+    enable(CMD_DELETE, selected > 0 && (access & ACCESS_FILEDELETE));
+    enable(CMD_COPY, selected > 0 && (access & ACCESS_FILECOPY));
+    enable(CMD_PRINTDOCS, selected > 0 && d->openMode && (access & ACCESS_FILEPRINT) && IsAvailable());
+    enable(CMD_PRINTLIST, true);  // printing the list needs no right
+    enable(CMD_DOCINFO, selected == 1);
+    enable(CMD_RENAME, selected == 1 && (access & ACCESS_FILERENAME));
+}
+
+void DocManager::Command(unsigned short id)
+{
+    switch (id) {
+    case CMD_DELETE:
+        DeleteSelected();
+        break;
+    case CMD_DOCINFO:
+        d->browser->EditDocInfo();
+        break;
+    case CMD_COPY: {
+        auto dialog = std::make_unique<DocCopyDialog>(this);
+        if (dialog->exec() == 1 && dialog->GetDoneCount() != 0)
+            CollectFiles();
+        break;
+    }
+    case CMD_RENAME: {
+        auto dialog = std::make_unique<DocRenameDialog>(this);
+        if (dialog->exec() == 1 && dialog->GetRenameCount() != 0)
+            CollectFiles();
+        break;
+    }
+    case CMD_PRINTDOCS:
+        done(RET_PRINTDOCS);
+        break;
+    case CMD_PRINTLIST:
+        d->browser->PrintList();
+        break;
+    default:
+        break;
+    }
+}
+
+void DocManager::DeleteSelected()
+{
+    if (DocQueryBox(this, ResText(ResKind::QueryBox, QUERY_DELETE)) != RET_YES)
+        return;
+    ScopedWaitCursor wait;
+    for (const std::string* doc = d->browser->GetFirstDoc(); doc; doc = d->browser->GetFirstDoc()) {
+        const std::string path = *doc;
+        if (fsutil::Remove(path) == 0) {
+            d->browser->RowRemoved(path);
+        } else {
+            DocInfoBox(this, ResString(STR_DELETE_FAILED) + path + ResString(STR_DELETE_FAILED_END));
+            d->browser->DeselectFirstSelected();  // so that the loop moves on
+        }
+    }
+    WatchControls();
+    // The line has always ended up as the remaining count written twice ("1212" for 12
+    // rows); scripts that read it rely on that, so it stays.
+    std::string line = GetPathLine();
+    line.erase(0, std::min(line.find(' '), line.size()));
+    const std::string count = std::to_string(d->browser->GetRowCount());
+    line = count + count;
+    SetPathLine(line);
+}

@@ -1,0 +1,335 @@
+#include "docmgr/view/docbrowser.h"
+
+#include <QHeaderView>
+#include <QScrollBar>
+#include <algorithm>
+
+#include "docmgr/config/impldocconfig.h"
+#include "docmgr/manager/docmanager.h"
+#include "docmgr/records/docfields.h"
+#include "docmgr/tools/resmgr.h"
+#include "docmgr/view/docbrowserimpl.h"
+#include "docmgr/view/doccelldelegate.h"
+#include "docmgr/view/doclistmodel.h"
+#include "docmgr/view/frozencolumns.h"
+#include "docmgr/view/waitcursor.h"
+
+namespace {
+constexpr uint16_t STR_COUNT_LINE = 15718;
+constexpr uint16_t DEFAULT_WIDTH = 0xFFFF;
+}  // namespace
+
+DocBrowser::Impl::Impl(DocBrowser* b, DocManager* m) : browser(b), manager(m), list(*this), progress(m) {}
+
+std::unique_ptr<DocInfo> DocBrowser::Impl::CreateDocInfo(const std::string& path)
+{
+    return manager->CreateDocInfo(path);
+}
+
+void DocBrowser::Impl::CollectProgress(size_t dirs, size_t docs)
+{
+    progress.Update(dirs, docs);
+}
+
+std::vector<std::pair<long, long>> DocBrowser::Impl::SelectedIntervals() const
+{
+    std::vector<std::pair<long, long>> ranges;
+    const QItemSelectionModel* selection = browser->selectionModel();
+    if (!selection)
+        return ranges;
+    for (const QItemSelectionRange& range : selection->selection())
+        if (range.isValid())
+            ranges.emplace_back(range.top(), range.bottom());
+    std::sort(ranges.begin(), ranges.end());
+    std::vector<std::pair<long, long>> merged;
+    for (const auto& range : ranges) {
+        if (!merged.empty() && range.first <= merged.back().second + 1)
+            merged.back().second = std::max(merged.back().second, range.second);
+        else
+            merged.push_back(range);
+    }
+    return merged;
+}
+
+void DocBrowser::Impl::SelectIntervals(const std::vector<std::pair<long, long>>& intervals)
+{
+    const int columns = model->columnCount();
+    if (columns == 0 || intervals.empty())
+        return;
+    QItemSelection selection;
+    for (const auto& [top, bottom] : intervals)
+        selection.select(model->index(int(top), 0), model->index(int(bottom), columns - 1));
+    browser->selectionModel()->select(selection, QItemSelectionModel::Select);
+}
+
+long DocBrowser::Impl::FirstSelected() const
+{
+    return NextSelected(-1);
+}
+
+long DocBrowser::Impl::NextSelected(long row) const
+{
+    long next = -1;
+    const QItemSelectionModel* selection = browser->selectionModel();
+    if (!selection)
+        return next;
+    for (const QItemSelectionRange& range : selection->selection()) {
+        if (!range.isValid() || range.bottom() <= row)
+            continue;
+        const long candidate = std::max<long>(range.top(), row + 1);
+        if (next < 0 || candidate < next)
+            next = candidate;
+    }
+    return next;
+}
+
+DocBrowser::DocBrowser(DocManager* parent)
+    : QTableView(parent), d(std::make_unique<Impl>(this, parent))
+{
+    setObjectName("browser");
+    d->model = new DocListModel(this);
+    d->delegate = new DocCellDelegate(this);
+    setModel(d->model);
+    setItemDelegate(d->delegate);
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setWordWrap(false);
+    setShowGrid(false);
+    setAlternatingRowColors(true);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    horizontalHeader()->setMinimumSectionSize(0);
+    d->frozen = new FrozenColumnsView(this);
+
+    // A double click on a column's edge fits the column like one on its title.
+    disconnect(horizontalHeader(), &QHeaderView::sectionHandleDoubleClicked, this, nullptr);
+    for (QTableView* view : {static_cast<QTableView*>(this), static_cast<QTableView*>(d->frozen)}) {
+        connect(view, &QAbstractItemView::doubleClicked, this, &DocBrowser::RowDoubleClicked);
+        connect(view->horizontalHeader(), &QHeaderView::sectionDoubleClicked, this,
+                &DocBrowser::HeaderDoubleClicked);
+        connect(view->horizontalHeader(), &QHeaderView::sectionHandleDoubleClicked, this,
+                &DocBrowser::HeaderDoubleClicked);
+        connect(view->horizontalHeader(), &QHeaderView::sectionResized, this,
+                &DocBrowser::SectionResized);
+        view->horizontalHeader()->viewport()->installEventFilter(this);
+    }
+}
+
+DocBrowser::~DocBrowser() = default;
+
+DocManager* DocBrowser::GetMgr() const
+{
+    return d->manager;
+}
+
+void DocBrowser::Initialize()
+{
+    d->list.SetConfig(d->manager->GetSettings());
+    QFont dataFont = font();
+    dataFont.setWeight(QFont::Normal);
+    setFont(dataFont);
+    verticalHeader()->setDefaultSectionSize(QFontMetrics(dataFont).height() + 4);
+    InsertColumns();
+    show();
+}
+
+int DocBrowser::DefaultColumnWidth(unsigned short columnId) const
+{
+    const QFontMetrics metrics(font());
+    const int x = metrics.horizontalAdvance(QStringLiteral("X"));
+    switch (columnId) {
+    case COL_NAME: return 10 * x;
+    case COL_SIZE: return 8 * x;
+    case COL_TITLE: return 15 * x;
+    case COL_DIRECTORY: return 20 * x;
+    default:
+        return std::max(50, metrics.horizontalAdvance(QString::fromStdString(GetColumnTitle(columnId))) + 10);
+    }
+}
+
+void DocBrowser::InsertColumns()
+{
+    const ImplDocConfig* settings = d->manager->GetSettings();
+    if (!settings)
+        return;
+    const bool single = d->manager->IsSingleView();
+    auto selected = d->SelectedIntervals();
+    if (single && !selected.empty())
+        selected = {{selected.front().first, selected.front().first}};
+    const int currentRow = currentIndex().row();
+
+    const bool updates = updatesEnabled();
+    setUpdatesEnabled(false);
+    d->settingColumns = true;
+    std::vector<uint16_t> ids;
+    std::vector<QString> titles;
+    std::vector<int> widths;
+    const DocGroupConfig& group = settings->WorkingGroup();
+    if (single) {
+        ids.push_back(COL_NAME);
+        titles.push_back(QString::fromStdString(GetColumnTitle(COL_NAME)));
+    } else {
+        for (unsigned p = 0; p < COLUMN_SLOTS; ++p) {
+            const uint16_t id = group.columnId[p];
+            ids.push_back(id);
+            titles.push_back(QString::fromStdString(GetColumnTitle(id)));
+            widths.push_back(group.columnWidth[p] == DEFAULT_WIDTH ? DefaultColumnWidth(id)
+                                                                   : group.columnWidth[p]);
+        }
+    }
+    d->model->SetColumns(std::move(ids), std::move(titles));
+    QHeaderView* header = horizontalHeader();
+    if (single) {
+        header->setSectionResizeMode(QHeaderView::Stretch);  // the one column fills the list
+    } else {
+        header->setSectionResizeMode(QHeaderView::Interactive);
+        for (size_t c = 0; c < widths.size(); ++c)
+            header->resizeSection(int(c), widths[c]);
+    }
+    d->frozen->SetFrozenCount(single ? 0 : group.frozenColumns);
+    d->SelectIntervals(selected);
+    if (currentRow >= 0 && currentRow < d->model->rowCount())
+        selectionModel()->setCurrentIndex(d->model->index(currentRow, 0), QItemSelectionModel::NoUpdate);
+    d->settingColumns = false;
+    setUpdatesEnabled(updates);
+    viewport()->update();
+}
+
+void DocBrowser::ReadWriteDocInfos(const std::string& dir, bool withSubdirs)
+{
+    d->list.ReadWriteDocInfos(dir, withSubdirs);
+}
+
+bool DocBrowser::WriteDirFileEntry(KxFileStream& stream, const DocInfo* info)
+{
+    return DocRowList::WriteDirFileEntry(stream, info);
+}
+
+void DocBrowser::RowRemoved(const std::string& path)
+{
+    d->model->RowsRemoved(d->list.RowRemoved(path), d->list);
+}
+
+void DocBrowser::CollectFiles(bool onlyIfNeeded)
+{
+    if (onlyIfNeeded && !d->list.NeedsCollect())
+        return;
+    ScopedWaitCursor wait;
+    d->model->HideRows();  // nothing to show while the list is rebuilt
+    const std::string paths = d->manager->GetCollectPaths();
+    d->list.SetConfig(d->manager->GetSettings());
+    if (!d->manager->GetDirFileName().empty())
+        d->list.SetDirFileName(d->manager->GetDirFileName());
+    d->progress.Start();
+    d->list.CollectFiles(paths);
+    d->progress.Finish();
+    d->model->ShowRows(d->list);
+    InsertColumns();
+    d->manager->SetPathLine(std::to_string(GetRowCount()) + ResString(STR_COUNT_LINE) + paths);
+}
+
+void DocBrowser::SortFiles(bool repaint)
+{
+    ScopedWaitCursor wait;
+    d->list.SortFiles();
+    d->model->RowsReordered(d->list);
+    if (repaint)
+        viewport()->update();
+}
+
+const std::string* DocBrowser::GetFirstDoc()
+{
+    return d->list.GetFirstDoc(*d);
+}
+
+const std::string* DocBrowser::GetNextDoc()
+{
+    return d->list.GetNextDoc(*d);
+}
+
+std::string DocBrowser::GetFieldString(const DocInfo& info, unsigned short columnId) const
+{
+    return ::GetFieldString(info, columnId);
+}
+
+std::string DocBrowser::GetColumnText(long row, unsigned short columnId) const
+{
+    return row >= 0 && row < GetRowCount() ? GetFieldString(d->list.Row(row), columnId) : std::string();
+}
+
+long DocBrowser::GetRowCount() const
+{
+    return d->list.GetRowCount();
+}
+
+const DocRowList& DocBrowser::GetRowList() const
+{
+    return d->list;
+}
+
+unsigned short DocBrowser::ColCount() const
+{
+    return static_cast<unsigned short>(d->model->columnCount());
+}
+
+unsigned short DocBrowser::GetColumnId(unsigned short position) const
+{
+    return d->model->ColumnId(position);
+}
+
+std::string DocBrowser::GetColumnTitle(unsigned short columnId) const
+{
+    const ImplDocConfig* settings = d->manager->GetSettings();
+    return settings ? ::GetColumnTitle(columnId, settings->WorkingGroup()) : std::string();
+}
+
+void DocBrowser::SetSingleSelection(bool single)
+{
+    setSelectionMode(single ? QAbstractItemView::SingleSelection : QAbstractItemView::ExtendedSelection);
+    d->frozen->setSelectionMode(selectionMode());
+}
+
+long DocBrowser::GetSelectedRowCount() const
+{
+    long count = 0;
+    for (const auto& [top, bottom] : d->SelectedIntervals())
+        count += bottom - top + 1;
+    return count;
+}
+
+long DocBrowser::GetFirstSelectedRow() const
+{
+    return d->FirstSelected();
+}
+
+void DocBrowser::DeselectFirstSelected()
+{
+    const long row = d->FirstSelected();
+    if (row >= 0)
+        selectionModel()->select(d->model->index(int(row), 0),
+                                 QItemSelectionModel::Deselect | QItemSelectionModel::Rows);
+}
+
+void DocBrowser::ClearSelection()
+{
+    clearSelection();
+}
+
+DocListModel* DocBrowser::GetModel() const
+{
+    return d->model;
+}
+
+FrozenColumnsView* DocBrowser::GetFrozenView() const
+{
+    return d->frozen;
+}
+
+CollectProgress& DocBrowser::GetCollectProgress() const
+{
+    return d->progress;
+}

@@ -1,0 +1,34 @@
+#include "docmgr/view/doccommandmenu.h"
+
+#include "docmgr/tools/resmgr.h"
+
+namespace {
+constexpr uint16_t MENU_COMMANDS = 15700;
+constexpr unsigned short FIRST_COMMAND = 20;
+constexpr unsigned short LAST_COMMAND = 25;
+const char* const kItemNames[] = {"deleteItem", "docInfoItem", "copyItem",
+                                  "renameItem", "printDocsItem", "printListItem"};
+}  // namespace
+
+DocCommandMenu::DocCommandMenu(QWidget* parent) : QMenu(parent)
+{
+    setObjectName("commandMenu");
+    for (unsigned short id = FIRST_COMMAND; id <= LAST_COMMAND; ++id) {
+        QAction* item = addAction(QString::fromStdString(ResText(ResKind::Menu, MENU_COMMANDS, id)));
+        item->setData(id);
+        item->setObjectName(kItemNames[id - FIRST_COMMAND]);
+    }
+}
+
+QAction* DocCommandMenu::Item(unsigned short id) const
+{
+    for (QAction* item : actions())
+        if (ItemId(item) == id)
+            return item;
+    return nullptr;
+}
+
+unsigned short DocCommandMenu::ItemId(const QAction* item)
+{
+    return item ? static_cast<unsigned short>(item->data().toUInt()) : 0;
+}

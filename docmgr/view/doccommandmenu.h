@@ -1,0 +1,15 @@
+#pragma once
+// The menu of the file commands (menu resource 15700, items 20 to 25): the manager's
+// commands button carries one, the list opens one as its context menu.
+#include <QMenu>
+
+class DocCommandMenu : public QMenu {
+    Q_OBJECT
+public:
+    explicit DocCommandMenu(QWidget* parent);
+
+    // The item of command `id`, or null.
+    QAction* Item(unsigned short id) const;
+    // Command id of an item of this menu.
+    static unsigned short ItemId(const QAction* item);
+};

@@ -1,0 +1,136 @@
+#include "docmgr/view/doclistmodel.h"
+
+#include <algorithm>
+#include <unordered_map>
+
+#include "docmgr/records/docfields.h"
+
+DocListModel::DocListModel(QObject* parent) : QAbstractTableModel(parent) {}
+
+int DocListModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : int(rows_.size());
+}
+
+int DocListModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : int(ids_.size());
+}
+
+QVariant DocListModel::data(const QModelIndex& index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+        return {};
+    const DocInfo* info = rows_[size_t(index.row())];
+    const uint16_t id = ids_[size_t(index.column())];
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::ToolTipRole:
+        return info ? QString::fromStdString(GetFieldString(*info, id)) : QString();
+    case Qt::TextAlignmentRole:
+        return id == COL_SIZE ? QVariant(int(Qt::AlignRight | Qt::AlignVCenter))
+                              : QVariant(int(Qt::AlignLeft | Qt::AlignVCenter));
+    default:
+        return {};
+    }
+}
+
+QVariant DocListModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || section < 0 || size_t(section) >= titles_.size())
+        return QAbstractTableModel::headerData(section, orientation, role);
+    if (role == Qt::DisplayRole)
+        return titles_[size_t(section)];
+    return {};
+}
+
+void DocListModel::SetColumns(std::vector<uint16_t> ids, std::vector<QString> titles)
+{
+    beginResetModel();
+    ids_ = std::move(ids);
+    titles_ = std::move(titles);
+    titles_.resize(ids_.size());
+    endResetModel();
+}
+
+uint16_t DocListModel::ColumnId(int column) const
+{
+    return column >= 0 && size_t(column) < ids_.size() ? ids_[size_t(column)] : 0;
+}
+
+int DocListModel::ColumnOf(uint16_t id) const
+{
+    auto it = std::find(ids_.begin(), ids_.end(), id);
+    return it == ids_.end() ? -1 : int(it - ids_.begin());
+}
+
+const DocInfo* DocListModel::RowInfo(int row) const
+{
+    return row >= 0 && size_t(row) < rows_.size() ? rows_[size_t(row)] : nullptr;
+}
+
+void DocListModel::HideRows()
+{
+    if (rows_.empty())
+        return;
+    beginResetModel();
+    rows_.clear();
+    endResetModel();
+}
+
+void DocListModel::ShowRows(const DocRowList& list)
+{
+    beginResetModel();
+    rows_.clear();
+    rows_.reserve(size_t(list.GetRowCount()));
+    for (const auto& row : list.Rows())
+        rows_.push_back(row.get());
+    endResetModel();
+}
+
+void DocListModel::RowsReordered(const DocRowList& list)
+{
+    emit layoutAboutToBeChanged({}, QAbstractItemModel::VerticalSortHint);
+    std::unordered_map<const DocInfo*, int> newRow;
+    newRow.reserve(size_t(list.GetRowCount()));
+    for (long r = 0; r < list.GetRowCount(); ++r)
+        newRow.emplace(&list.Row(r), int(r));
+    const QModelIndexList before = persistentIndexList();
+    QModelIndexList after;
+    after.reserve(before.size());
+    for (const QModelIndex& index : before) {
+        auto it = newRow.find(rows_[size_t(index.row())]);
+        after.append(it == newRow.end() ? QModelIndex() : createIndex(it->second, index.column()));
+    }
+    rows_.clear();
+    for (const auto& row : list.Rows())
+        rows_.push_back(row.get());
+    changePersistentIndexList(before, after);
+    emit layoutChanged({}, QAbstractItemModel::VerticalSortHint);
+}
+
+void DocListModel::RowsRemoved(const std::vector<long>& rows, const DocRowList& list)
+{
+    // The list has deleted these DocInfos already; forget them before anyone can look.
+    for (long row : rows)
+        if (row >= 0 && size_t(row) < rows_.size())
+            rows_[size_t(row)] = nullptr;
+    for (long row : rows) {
+        if (row < 0 || size_t(row) >= rows_.size())
+            continue;
+        beginRemoveRows({}, int(row), int(row));
+        rows_.erase(rows_.begin() + row);
+        endRemoveRows();
+    }
+    if (long(rows_.size()) != list.GetRowCount())
+        ShowRows(list);  // out of step: show the list as it is
+}
+
+void DocListModel::RowReplaced(long row, const DocRowList& list)
+{
+    if (row < 0 || size_t(row) >= rows_.size() || row >= list.GetRowCount())
+        return;
+    rows_[size_t(row)] = &list.Row(row);
+    if (!ids_.empty())
+        emit dataChanged(index(int(row), 0), index(int(row), columnCount() - 1));
+}

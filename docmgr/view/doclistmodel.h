@@ -1,0 +1,47 @@
+#pragma once
+// The table model of the document list: one row per DocInfo of the row list, one
+// column per configured column id, the cell texts of GetFieldString.
+//
+// The model keeps its own pointers to the rows it has announced, so that the view
+// never sees a row the list has already dropped or not yet finished: while a
+// collection runs the model shows no rows at all.
+#include <QAbstractTableModel>
+#include <cstdint>
+#include <vector>
+
+#include "docmgr/records/docrowlist.h"
+
+class DocListModel : public QAbstractTableModel {
+    Q_OBJECT
+public:
+    explicit DocListModel(QObject* parent = nullptr);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+    // Columns in display order with their titles (all rows keep their selection state
+    // only as far as the caller restores it: this resets the model).
+    void SetColumns(std::vector<uint16_t> ids, std::vector<QString> titles);
+    uint16_t ColumnId(int column) const;
+    int ColumnOf(uint16_t id) const;
+    // The DocInfo shown in `row`, or null.
+    const DocInfo* RowInfo(int row) const;
+
+    // No rows until ShowRows: the list is about to be rebuilt.
+    void HideRows();
+    // Shows every row of `list` afresh.
+    void ShowRows(const DocRowList& list);
+    // The list was re-ordered; rows keep their selection through persistent indexes.
+    void RowsReordered(const DocRowList& list);
+    // The list dropped `rows` (positions, highest first).
+    void RowsRemoved(const std::vector<long>& rows, const DocRowList& list);
+    // The DocInfo of `row` was replaced.
+    void RowReplaced(long row, const DocRowList& list);
+
+private:
+    std::vector<const DocInfo*> rows_;
+    std::vector<uint16_t> ids_;
+    std::vector<QString> titles_;
+};
