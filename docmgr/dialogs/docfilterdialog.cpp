@@ -1,9 +1,305 @@
-// PLACEHOLDER: replaced by the dialog's real implementation.
 #include "docmgr/dialogs/docfilterdialog.h"
-#include "docmgr/manager/docmanager.h"
 
-struct DocFilterDialog::Impl {};
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QTimeEdit>
+#include <array>
 
-DocFilterDialog::DocFilterDialog(QWidget* parent, ImplDocConfig*, unsigned short) : QDialog(parent), d(std::make_unique<Impl>()) {}
+#include "docmgr/config/impldocconfig.h"
+#include "docmgr/manager/docmgrresid.h"
+#include "docmgr/records/docfields.h"
+#include "docmgr/view/waitcursor.h"
+
+namespace {
+constexpr uint16_t DLG_FILTER = 15702;
+enum : uint16_t {
+    TXT_TITLE = 1, TXT_TOPIC, TXT_AUTHOR, TXT_KEYWORDS, TXT_FILES, TXT_SENSITIVE, TXT_TEXT_FRAME,
+    TXT_CONDITION_FRAME, TXT_NO_CONDITION, TXT_CONDITION0 = 20, TXT_LINK0 = 30, TXT_OK = 40,
+    TXT_CANCEL, TXT_WILDCARD_HINT
+};
+constexpr int CONDITION_COUNT = 7;  // codes 0..6
+constexpr int CONDITION_PATTERN = 6;
+constexpr int LINK_COUNT = 3;       // end, and, or (any other stored code means or)
+enum Entry { VALUE_ENTRY = 0, DATE_ENTRY = 1, TIME_ENTRY = 2 };
+
+// Which entry a row's comparison reads: the pattern condition always reads the value
+// text; dates and times read their own fields. Field 20 and above compares the printed
+// time, as the filter matching does.
+Entry EntryFor(uint16_t field, int condition)
+{
+    if (condition == CONDITION_PATTERN)
+        return VALUE_ENTRY;
+    switch (field) {
+    case COL_CREATED_DATE: case COL_MODIFIED_DATE: case COL_PRINTED_DATE:
+        return DATE_ENTRY;
+    case COL_CREATED_TIME: case COL_MODIFIED_TIME: case COL_PRINTED_TIME:
+        return TIME_ENTRY;
+    default:
+        return field >= COL_DIRECTORY && field != NO_COLUMN ? TIME_ENTRY : VALUE_ENTRY;
+    }
+}
+
+QDate ToQDate(uint32_t number)
+{
+    const Date date(number);
+    const QDate result(int(date.GetYear()), int(date.GetMonth()), int(date.GetDay()));
+    return result.isValid() ? result : QDate::currentDate();
+}
+
+QTime ToQTime(int32_t number)
+{
+    const Time time(number);
+    const QTime result(int(time.GetHour()), int(time.GetMin()), int(time.GetSec()));
+    return result.isValid() ? result : QTime(0, 0);
+}
+}  // namespace
+
+struct DocFilterDialog::Impl {
+    struct ConditionRow {
+        QComboBox* field = nullptr;
+        QComboBox* condition = nullptr;
+        QStackedWidget* entries = nullptr;
+        QLineEdit* value = nullptr;
+        QDateEdit* date = nullptr;
+        QTimeEdit* time = nullptr;
+        // What the controls showed at first: a date or time the user did not touch
+        // keeps its stored number, even one the controls cannot show.
+        QDate shownDate;
+        QTime shownTime;
+    };
+
+    DocGroupConfig* group = nullptr;
+    QLineEdit* titleEdit = nullptr;
+    QLineEdit* topicEdit = nullptr;
+    QLineEdit* authorEdit = nullptr;
+    QLineEdit* keywordsEdit = nullptr;
+    QLineEdit* filesEdit = nullptr;
+    QCheckBox* sensitiveBox = nullptr;
+    std::array<ConditionRow, FILTER_ROWS> rows;
+    std::array<QComboBox*, 2> links{};
+    std::array<int, 2> shownLinks{};
+
+    // Field id of list position `pos` in `row`: row 0 begins with "no condition".
+    static int FieldOf(int row, int pos)
+    {
+        if (pos < 0)
+            return -1;
+        if (row == 0)
+            return pos == 0 ? NO_COLUMN : pos;
+        return pos + 1;
+    }
+    static int PositionOf(int row, uint16_t field)
+    {
+        if (row == 0 && field == NO_COLUMN)
+            return 0;
+        if (field < COL_NAME || field > COL_DIRECTORY)
+            return -1;  // a code the list does not hold; kept as it is
+        return row == 0 ? field : field - 1;
+    }
+    uint16_t ShownField(int row) const
+    {
+        const int field = FieldOf(row, rows[size_t(row)].field->currentIndex());
+        return field < 0 ? group->filterField[size_t(row)] : uint16_t(field);
+    }
+};
+
+DocFilterDialog::DocFilterDialog(QWidget* parent, ImplDocConfig* config, unsigned short group)
+    : QDialog(parent), d(std::make_unique<Impl>())
+{
+    ScopedWaitCursor wait;
+    d->group = &config->Group(group);
+    const DocMgrResId res(DLG_FILTER);
+    auto text = [&res](uint16_t local) { return res.DialogText(local); };
+    setObjectName("filterDialog");
+    setWindowTitle(text(0));
+
+    auto makeEdit = [this](const char* name) {
+        auto* edit = new QLineEdit(this);
+        edit->setObjectName(name);
+        return edit;
+    };
+    d->titleEdit = makeEdit("titleEdit");
+    d->topicEdit = makeEdit("topicEdit");
+    d->authorEdit = makeEdit("authorEdit");
+    d->keywordsEdit = makeEdit("keywordsEdit");
+    d->filesEdit = makeEdit("filesEdit");
+    d->sensitiveBox = new QCheckBox(text(TXT_SENSITIVE), this);
+    d->sensitiveBox->setObjectName("sensitiveBox");
+
+    auto* textFrame = new QGroupBox(text(TXT_TEXT_FRAME), this);
+    textFrame->setObjectName("textFrame");
+    auto* textForm = new QFormLayout(textFrame);
+    textForm->addRow(text(TXT_TITLE), d->titleEdit);
+    textForm->addRow(text(TXT_TOPIC), d->topicEdit);
+    textForm->addRow(text(TXT_AUTHOR), d->authorEdit);
+    textForm->addRow(text(TXT_KEYWORDS), d->keywordsEdit);
+    textForm->addRow(text(TXT_FILES), d->filesEdit);
+    textForm->addRow(QString(), d->sensitiveBox);
+    auto* hint = new QLabel(text(TXT_WILDCARD_HINT), textFrame);
+    hint->setObjectName("wildcardHint");
+    textForm->addRow(QString(), hint);
+
+    auto* conditionFrame = new QGroupBox(text(TXT_CONDITION_FRAME), this);
+    conditionFrame->setObjectName("conditionFrame");
+    auto* grid = new QGridLayout(conditionFrame);
+    for (int r = 0; r < int(FILTER_ROWS); ++r) {
+        Impl::ConditionRow& row = d->rows[size_t(r)];
+        const QString n = QString::number(r);
+        row.field = new QComboBox(conditionFrame);
+        row.field->setObjectName("fieldList" + n);
+        if (r == 0)
+            row.field->addItem(text(TXT_NO_CONDITION));
+        for (uint16_t id = COL_NAME; id <= COL_DIRECTORY; ++id)
+            row.field->addItem(QString::fromStdString(GetColumnTitle(id, *d->group)));
+        row.condition = new QComboBox(conditionFrame);
+        row.condition->setObjectName("conditionList" + n);
+        for (int c = 0; c < CONDITION_COUNT; ++c)
+            row.condition->addItem(text(uint16_t(TXT_CONDITION0 + c)));
+        row.entries = new QStackedWidget(conditionFrame);
+        row.entries->setObjectName("entryStack" + n);
+        row.value = new QLineEdit(row.entries);
+        row.value->setObjectName("valueEdit" + n);
+        row.date = new QDateEdit(row.entries);
+        row.date->setObjectName("dateEdit" + n);
+        row.date->setCalendarPopup(true);
+        row.time = new QTimeEdit(row.entries);
+        row.time->setObjectName("timeEdit" + n);
+        row.time->setDisplayFormat(QStringLiteral("HH:mm:ss"));
+        row.entries->insertWidget(VALUE_ENTRY, row.value);
+        row.entries->insertWidget(DATE_ENTRY, row.date);
+        row.entries->insertWidget(TIME_ENTRY, row.time);
+        grid->addWidget(row.field, 2 * r, 0);
+        grid->addWidget(row.condition, 2 * r, 1);
+        grid->addWidget(row.entries, 2 * r, 2);
+        connect(row.field, &QComboBox::currentIndexChanged, this, [this, r] { FieldHdl(r); });
+        connect(row.condition, &QComboBox::currentIndexChanged, this, [this, r] { FieldHdl(r); });
+        if (r + 1 < int(FILTER_ROWS)) {
+            QComboBox*& link = d->links[size_t(r)];
+            link = new QComboBox(conditionFrame);
+            link->setObjectName("linkList" + n);
+            for (int l = 0; l < LINK_COUNT; ++l)
+                link->addItem(text(uint16_t(TXT_LINK0 + l)));
+            grid->addWidget(link, 2 * r + 1, 0);
+            connect(link, &QComboBox::currentIndexChanged, this, &DocFilterDialog::LinkHdl);
+        }
+    }
+    grid->setColumnStretch(2, 1);
+
+    auto* buttons = new QDialogButtonBox(this);
+    QPushButton* ok = buttons->addButton(text(TXT_OK), QDialogButtonBox::AcceptRole);
+    ok->setObjectName("okButton");
+    ok->setDefault(true);
+    QPushButton* cancel = buttons->addButton(text(TXT_CANCEL), QDialogButtonBox::RejectRole);
+    cancel->setObjectName("cancelButton");
+    connect(ok, &QPushButton::clicked, this, &DocFilterDialog::OKHdl);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+
+    auto* root = new QVBoxLayout(this);
+    root->addWidget(textFrame);
+    root->addWidget(conditionFrame);
+    root->addWidget(buttons);
+
+    Fill();
+}
+
 DocFilterDialog::~DocFilterDialog() = default;
 
+void DocFilterDialog::Fill()
+{
+    const DocGroupConfig& g = *d->group;
+    d->titleEdit->setText(QString::fromStdString(g.filterTitle));
+    d->topicEdit->setText(QString::fromStdString(g.filterTopic));
+    d->authorEdit->setText(QString::fromStdString(g.filterAuthor));
+    d->keywordsEdit->setText(QString::fromStdString(g.filterKeywords));
+    d->filesEdit->setText(QString::fromStdString(g.filterFiles));
+    d->sensitiveBox->setChecked(g.filterSensitive);
+    for (size_t r = 0; r < FILTER_ROWS; ++r) {
+        Impl::ConditionRow& row = d->rows[r];
+        const QSignalBlocker quietField(row.field), quietCondition(row.condition);
+        row.field->setCurrentIndex(Impl::PositionOf(int(r), g.filterField[r]));
+        const int32_t condition = g.filterCondition[r];
+        row.condition->setCurrentIndex(condition >= 0 && condition < CONDITION_COUNT ? condition : -1);
+        row.value->setText(QString::fromStdString(g.filterValue[r]));
+        row.date->setDate(ToQDate(g.filterDate[r]));
+        row.shownDate = row.date->date();
+        row.time->setTime(ToQTime(int32_t(g.filterTime[r])));
+        row.shownTime = row.time->time();
+        row.entries->setCurrentIndex(EntryFor(g.filterField[r], condition));
+    }
+    for (size_t l = 0; l < d->links.size(); ++l) {
+        const QSignalBlocker quiet(d->links[l]);
+        const int32_t link = g.filterLink[l];
+        d->shownLinks[l] = link == 0 || link == 1 ? link : 2;
+        d->links[l]->setCurrentIndex(d->shownLinks[l]);
+    }
+    UpdateRows();
+}
+
+void DocFilterDialog::FieldHdl(int r)
+{
+    Impl::ConditionRow& row = d->rows[size_t(r)];
+    row.entries->setCurrentIndex(EntryFor(d->ShownField(r), row.condition->currentIndex()));
+    UpdateRows();
+}
+
+void DocFilterDialog::LinkHdl()
+{
+    UpdateRows();
+}
+
+void DocFilterDialog::UpdateRows()
+{
+    // A row is in use when every row before it is, and the link before it goes on.
+    bool used = d->ShownField(0) != NO_COLUMN;
+    for (size_t r = 0; r < FILTER_ROWS; ++r) {
+        Impl::ConditionRow& row = d->rows[r];
+        if (r > 0)
+            row.field->setEnabled(used);
+        row.condition->setEnabled(used);
+        row.entries->setEnabled(used);
+        if (r < d->links.size()) {
+            d->links[r]->setEnabled(used);
+            used = used && d->links[r]->currentIndex() != 0;
+        }
+    }
+}
+
+void DocFilterDialog::OKHdl()
+{
+    ScopedWaitCursor wait;
+    DocGroupConfig& g = *d->group;
+    g.filterTitle = d->titleEdit->text().toStdString();
+    g.filterTopic = d->topicEdit->text().toStdString();
+    g.filterAuthor = d->authorEdit->text().toStdString();
+    g.filterKeywords = d->keywordsEdit->text().toStdString();
+    g.filterFiles = d->filesEdit->text().toStdString();
+    g.filterSensitive = d->sensitiveBox->isChecked();
+    for (size_t r = 0; r < FILTER_ROWS; ++r) {
+        const Impl::ConditionRow& row = d->rows[r];
+        const int field = Impl::FieldOf(int(r), row.field->currentIndex());
+        if (field >= 0)
+            g.filterField[r] = uint16_t(field);
+        if (row.condition->currentIndex() >= 0)
+            g.filterCondition[r] = row.condition->currentIndex();
+        g.filterValue[r] = row.value->text().toStdString();
+        const QDate date = row.date->date();
+        if (date != row.shownDate)
+            g.filterDate[r] = Date(unsigned(date.day()), unsigned(date.month()), unsigned(date.year())).GetDate();
+        const QTime time = row.time->time();
+        if (time != row.shownTime)
+            g.filterTime[r] = uint32_t(Time(unsigned(time.hour()), unsigned(time.minute()), unsigned(time.second())).GetTime());
+    }
+    for (size_t l = 0; l < d->links.size(); ++l)
+        if (d->links[l]->currentIndex() != d->shownLinks[l])
+            g.filterLink[l] = d->links[l]->currentIndex();
+    done(1);
+}
