@@ -168,7 +168,10 @@ void DocRowList::ReadIndex(DirPass& pass)
         pass.rewriteNeeded = true;
         return;
     }
-    if (!pass.stream.Open(pass.indexPath, KxFileStream::Mode::ReadWrite)) {
+    // Something other than a plain file under the index's name (a pipe would block the
+    // read) counts as an index that does not open.
+    if (!fsutil::IsFile(pass.indexPath) ||
+        !pass.stream.Open(pass.indexPath, KxFileStream::Mode::ReadWrite)) {
         pass.unusable = true;
         return;
     }
