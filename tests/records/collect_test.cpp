@@ -47,7 +47,7 @@ TEST_F(IndexTest, CollectFiltersAndSortsByTheWorkingGroup)
     EXPECT_EQ(RowNames(), (Names{"a.odt", "b.odt"}));
 }
 
-TEST_F(IndexTest, SelectedDocumentsAreWalkedInRowOrder)
+TEST_F(IndexTest, SelectedRowsAreWalkedAndRemovedRowsLeaveTheIndex)
 {
     Doc("a.odt");
     Doc("b.odt");
@@ -69,29 +69,10 @@ TEST_F(IndexTest, SelectedDocumentsAreWalkedInRowOrder)
     EXPECT_EQ(rows.GetNextDoc(two), nullptr);
     EXPECT_EQ(rows.GetNextDoc(two), nullptr) << "stays at the end";
 
-    // A selection past the rows ends the walk.
-    TestSelection stale({1, 7});
-    ASSERT_NE(rows.GetFirstDoc(stale), nullptr);
-    EXPECT_EQ(rows.GetNextDoc(stale), nullptr);
-}
-
-TEST_F(IndexTest, RemovedAndReplacedRows)
-{
-    Doc("a.odt");
-    Doc("b.odt");
-    config.WorkingGroup().sortColumnId = 1;
-    rows.CollectFiles(dir.Path());
     const std::string index = Index();
-
-    auto info = std::make_unique<DocInfo>(rows.Row(1));
-    info->title = "edited";
-    rows.ReplaceRow(1, std::move(info));
-    EXPECT_EQ(rows.Row(1).title, "edited");
-
-    EXPECT_EQ(rows.RowRemoved(dir.PathOf("a.odt")), std::vector<long>{0});
-    EXPECT_EQ(RowNames(), Names{"b.odt"});
-    EXPECT_TRUE(rows.RowRemoved(dir.PathOf("none.odt")).empty());
-    EXPECT_EQ(Index(), index) << "the index is not touched";
+    EXPECT_EQ(rows.RowRemoved(dir.PathOf("b.odt")), std::vector<long>{1});
+    EXPECT_EQ(RowNames(), (Names{"a.odt", "c.odt"}));
+    EXPECT_EQ(Index(), index);
 }
 
 TEST_F(IndexTest, WithoutSortColumnRowsKeepIndexOrder)

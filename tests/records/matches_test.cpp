@@ -37,44 +37,26 @@ DocInfo Doc(const std::string& title, uint32_t size = 10)
 
 }  // namespace
 
-TEST_F(MatchesTest, NoFilterPassesEverything)
+TEST_F(MatchesTest, TextFiltersCaseAndWhatPutsAFilterInForce)
 {
     ASSERT_EQ(group.filterField[0], NO_COLUMN);
-    EXPECT_FALSE(FilterInForce(group));
-    EXPECT_TRUE(Passes(Doc("anything")));
     group.filterSensitive = true;
     group.filterFiles = "*.odt";
-    group.filterField[1] = 3;
-    EXPECT_FALSE(FilterInForce(group)) << "case flag, pattern and later rows alone";
-    group.filterKeywords = "x";
-    EXPECT_TRUE(FilterInForce(group));
-}
+    EXPECT_FALSE(FilterInForce(group)) << "case flag and pattern alone";
+    EXPECT_TRUE(Passes(Doc("anything")));
 
-TEST_F(MatchesTest, TextFiltersAndCase)
-{
     group.filterTitle = "Plan";
-    EXPECT_TRUE(Passes(Doc("PLAN")));
-    EXPECT_TRUE(Passes(Doc("plan")));
-    EXPECT_FALSE(Passes(Doc("Plans")));
-    group.filterSensitive = true;
+    EXPECT_TRUE(FilterInForce(group));
     EXPECT_TRUE(Passes(Doc("Plan")));
     EXPECT_FALSE(Passes(Doc("plan")));
-
-    group.filterTitle = "*\xC3\xA9t\xC3\xA9*";  // upper-casing is not ASCII-only
     group.filterSensitive = false;
+    EXPECT_TRUE(Passes(Doc("PLAN")));
+    EXPECT_FALSE(Passes(Doc("Plans")));
+    group.filterTitle = "*\xC3\xA9t\xC3\xA9*";  // upper-casing is not ASCII-only
     EXPECT_TRUE(Passes(Doc("Un \xC3\x89T\xC3\x89 chaud")));
 
+    // Keywords: alternatives split at ";", else at ",".
     group.filterTitle.clear();
-    group.filterAuthor = "?nna";
-    DocInfo doc = Doc("x");
-    doc.author = "Anna";
-    EXPECT_TRUE(Passes(doc));
-    doc.author = "Hanna";
-    EXPECT_FALSE(Passes(doc));
-}
-
-TEST_F(MatchesTest, KeywordsSplitAtSemicolonThenComma)
-{
     DocInfo doc = Doc("x");
     doc.keywords = "beta";
     group.filterKeywords = "alpha;beta";
@@ -83,8 +65,6 @@ TEST_F(MatchesTest, KeywordsSplitAtSemicolonThenComma)
     EXPECT_TRUE(Passes(doc));
     doc.keywords = "alpha beta";
     EXPECT_FALSE(Passes(doc));
-    group.filterKeywords = "alpha;*BETA";
-    EXPECT_TRUE(Passes(doc));
 }
 
 TEST_F(MatchesTest, ConditionKinds)
@@ -93,9 +73,6 @@ TEST_F(MatchesTest, ConditionKinds)
     Row(0, 2, 6, "1*");
     EXPECT_TRUE(Passes(Doc("x", 1)));
     EXPECT_FALSE(Passes(Doc("x", 10)));
-    Row(0, 2, 3, "9");
-    EXPECT_TRUE(Passes(Doc("x", 10)));
-    EXPECT_FALSE(Passes(Doc("x", 9)));
 
     // Never modified (date 0) is less than any date.
     DocInfo doc = Doc("x");
@@ -103,41 +80,31 @@ TEST_F(MatchesTest, ConditionKinds)
     EXPECT_TRUE(Passes(doc));
     doc.modifiedDate = Date(1, 1, 1999);
     EXPECT_FALSE(Passes(doc));
-    Row(0, 8, 1, {}, 19990101);
-    EXPECT_TRUE(Passes(doc));
 
     // Field 20 and above, and 0, compare the printed time, signed.
     doc.printedTime = Time(-int32_t(Time(1, 0, 0).GetTime()));
     Row(0, 20, 4, {}, 0, 0);
     EXPECT_TRUE(Passes(doc));
-    Row(0, 0, 2, {}, 0, -1000000);
-    EXPECT_TRUE(Passes(doc));
-    Row(0, 500, 3, {}, 0, -1000000);
+    Row(0, 0, 3, {}, 0, -1000000);
     EXPECT_FALSE(Passes(doc));
-    doc.createdTime = Time(12, 0, 0);
-    Row(0, 6, 0, {}, 0, Time(12, 0, 0).GetTime());
-    EXPECT_TRUE(Passes(doc));
 
-    // Text rows compare byte-wise over the whole text; condition 6 is one pattern.
+    // Text rows compare whole texts byte-wise; condition 6 takes one pattern.
     Row(0, 3, 5, "abc");
     EXPECT_TRUE(Passes(Doc("abcd")));
     EXPECT_FALSE(Passes(Doc("ABC"))) << "case is ignored unless respected";
-    Row(0, 1, 6, "*.ODT");
-    EXPECT_TRUE(Passes(Doc("name")));
-    Row(0, 3, 6, "a;b");
-    EXPECT_FALSE(Passes(Doc("a")));
     Row(0, 3, 2, "b");
     EXPECT_TRUE(Passes(Doc("B")));
     EXPECT_FALSE(Passes(Doc("c")));
+    Row(0, 1, 6, "*.ODT;x");
+    EXPECT_FALSE(Passes(Doc("name")));
 
     // Dates and times with the wildcard condition use the locale's texts.
     doc.modifiedDate = Date(24, 12, 2021);
     Row(0, 8, 6, intl::FormatDate(doc.modifiedDate));
     EXPECT_TRUE(Passes(doc));
+    doc.createdTime = Time(12, 0, 0);
     Row(0, 6, 6, intl::FormatTime(Time(12, 0, 0)));
     EXPECT_TRUE(Passes(doc));
-    Row(0, 6, 6, "nothing");
-    EXPECT_FALSE(Passes(doc));
 }
 
 TEST_F(MatchesTest, TwoRowsTakeTheirLinkFromTheSortSettings)
