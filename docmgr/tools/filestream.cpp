@@ -129,6 +129,10 @@ bool KxFileStream::LockExclusive(int waitMs)
             lock.l_type = F_RDLCK;
             continue;
         }
+        // A file system without record locks (some FUSE and SMB mounts) cannot coordinate
+        // writers at all; refusing would leave its indexes never written.
+        if (errno == ENOLCK || errno == EINVAL || errno == EOPNOTSUPP)
+            return true;
         if ((errno != EAGAIN && errno != EACCES && errno != EINTR) ||
             std::chrono::steady_clock::now() >= deadline)
             return false;
