@@ -59,8 +59,8 @@ void DocBrowser::FitColumn(unsigned short columnId)
     }
     d->settingColumns = true;
     setColumnWidth(column, width + 2);
-    d->settingColumns = false;
     d->frozen->SyncWidths();
+    d->settingColumns = false;
     d->frozen->UpdateGeometry();
     ColumnResized(columnId);
 }

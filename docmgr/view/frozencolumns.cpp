@@ -23,6 +23,7 @@ FrozenColumnsView::FrozenColumnsView(QTableView* table) : QTableView(table), tab
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setMinimumSectionSize(0);  // as narrow as the table's columns may be
     hide();
 
     connect(verticalScrollBar(), &QAbstractSlider::valueChanged,

@@ -11,6 +11,24 @@ class TestHost : public DocManager {
 public:
     using DocManager::DocManager;
 
+    // The dialog's steps and handlers, for tests that drive it without a modal loop.
+    using DocManager::Init;
+    using DocManager::ResizeBrowser;
+    using DocManager::FillSectionBox;
+    using DocManager::SelectSection;
+    using DocManager::QuerySave;
+    using DocManager::CommandsHdl;
+    using DocManager::SectionHdl;
+    using DocManager::GroupHdl;
+    using DocManager::SummaryHdl;
+    using DocManager::OpenHdl;
+    using DocManager::CloseHdl;
+    using DocManager::GroupsHdl;
+    using DocManager::PathsHdl;
+    using DocManager::FilterHdl;
+    using DocManager::SortHdl;
+    using DocManager::ColumnsHdl;
+
     // Information returned for a file name; files not listed get a title equal to their
     // name, created 2020-01-02 10:00:00 and never printed.
     std::map<std::string, DocInfo> known;

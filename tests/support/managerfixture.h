@@ -1,0 +1,150 @@
+#pragma once
+// Widget tests of the document manager: a configuration file with chosen groups in a
+// temporary directory, documents beside it, a TestHost on that configuration, and answers
+// for the message boxes. Header only: the core test programs, which link no widgets,
+// never include it.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QPushButton>
+#include <QToolButton>
+#include <QDialog>
+#include <QListWidget>
+#include <QTimer>
+#include <functional>
+#include <memory>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "docmgr/config/impldocconfig.h"
+#include "docmgr/manager/docmsgbox.h"
+#include "docmgr/tools/config.h"
+#include "docmgr/tools/fsutil.h"
+#include "docmgr/tools/resmgr.h"
+#include "docmgr/view/docbrowser.h"
+#include "tests/support/managerloop.h"
+#include "tests/support/tempdir.h"
+#include "tests/support/testhost.h"
+
+class ManagerTest : public ::testing::Test {
+protected:
+    struct GroupSpec {
+        std::string name;
+        std::string section;
+        std::string paths;  // ";"-separated
+        std::string guis;   // one flag per path
+    };
+
+    ~ManagerTest() override { SetDocBoxAnswerer({}); }
+
+    // Writes the configuration file: `groups` as user groups 0..n-1, `actual` as the
+    // stored ACTUALGROUP, `offRights` as access keys set to "OFF".
+    void WriteConfig(const std::vector<GroupSpec>& groups, uint16_t actual = 1,
+                     const std::vector<std::string>& offRights = {}, bool singleView = false)
+    {
+        Config file(configPath);
+        ImplDocConfig config(&file, "*", [](const std::string&) {});
+        for (size_t i = 0; i < groups.size(); ++i) {
+            if (i > 0)
+                config.InsertGroup(uint16_t(i));
+            DocGroupConfig& group = config.Group(uint16_t(i));
+            group.groupName = groups[i].name;
+            group.section = groups[i].section;
+            group.paths = groups[i].paths;
+            group.guis = groups[i].guis;
+        }
+        config.actualGroup = actual;
+        config.singleView = singleView;
+        config.SaveConfig();
+        config.SaveGeneralSection();
+        file.SetGroup("GENERAL");
+        for (const std::string& key : offRights)
+            file.WriteKey(key, "OFF");
+        ASSERT_TRUE(file.Flush());
+    }
+
+    // One group "Docs" in section "Main" showing the documents directory.
+    void WriteDefaultConfig(const std::vector<std::string>& offRights = {}, bool singleView = false)
+    {
+        WriteConfig({{"Docs", "Main", docs, "1"}}, 1, offRights, singleView);
+    }
+
+    TestHost& MakeHost(bool openMode = true, const std::string& startPaths = {})
+    {
+        config = std::make_unique<Config>(configPath);
+        host = std::make_unique<TestHost>(nullptr, config.get(), startPaths, openMode);
+        return *host;
+    }
+
+    // Reads the settings and collects, as the first Execute does, without its modal loop.
+    TestHost& Start(bool openMode = true, const std::string& startPaths = {})
+    {
+        MakeHost(openMode, startPaths).Init();
+        return *host;
+    }
+
+    DocBrowser& Browser() { return *host->GetBrowser(); }
+    ImplDocConfig& Settings() { return *host->GetSettings(); }
+
+    int Select(const std::set<std::string>& names)
+    {
+        return managerloop::SelectFiles(Browser(), names);
+    }
+
+    std::vector<std::string> RowNames()
+    {
+        std::vector<std::string> names;
+        for (const auto& row : Browser().GetRowList().Rows())
+            names.push_back(fsutil::FileName(row->entry));
+        return names;
+    }
+
+    template <class W>
+    W* Child(const char* name)
+    {
+        W* widget = host->findChild<W*>(QLatin1String(name));
+        EXPECT_NE(widget, nullptr) << name;
+        return widget;
+    }
+
+    static std::vector<std::string> Texts(const QListWidget* list)
+    {
+        std::vector<std::string> texts;
+        for (int i = 0; list && i < list->count(); ++i)
+            texts.push_back(list->item(i)->text().toStdString());
+        return texts;
+    }
+
+    // Answers every query with `answer` and records the texts of all boxes.
+    void AnswerBoxes(int answer)
+    {
+        SetDocBoxAnswerer([this, answer](const QString& text, bool query) {
+            (query ? queries : infos).push_back(text.toStdString());
+            return answer;
+        });
+    }
+
+    // Runs `action` once the next modal dialog is up, then ends the dialog with `result`
+    // unless the action ended it.
+    static void OnNextModal(std::function<void(QDialog&)> action, int result = 1)
+    {
+        QTimer::singleShot(0, [action = std::move(action), result] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            action(*dialog);
+            if (dialog->isVisible())
+                dialog->done(result);
+        });
+    }
+
+    ResModule resources{Language::English};
+    TempDir dir;
+    std::string configPath = dir.PathOf("manager.cfg");
+    std::string docs = dir.MakeDir("docs");
+    std::vector<std::string> queries;
+    std::vector<std::string> infos;
+    std::unique_ptr<Config> config;
+    std::unique_ptr<TestHost> host;
+};

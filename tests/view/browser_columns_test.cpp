@@ -1,0 +1,207 @@
+// Columns of the document list: ids, titles, widths, frozen columns, single view, and
+// fitting a column to its contents.
+#include <QHeaderView>
+#include <QScrollBar>
+#include <QTest>
+#include <filesystem>
+
+#include "docmgr/config/configkeys.h"
+#include "docmgr/records/docfields.h"
+#include "docmgr/view/doclistmodel.h"
+#include "docmgr/view/frozencolumns.h"
+#include "tests/support/managerfixture.h"
+
+namespace {
+int ColumnOf(DocBrowser& browser, uint16_t id)
+{
+    return browser.GetModel()->ColumnOf(id);
+}
+
+std::string StoredWidth(const std::string& configPath, const char* section, unsigned slot)
+{
+    Config file(configPath);
+    file.SetGroup(section);
+    return file.ReadKey(configkeys::Numbered(configkeys::ColumnWidth, slot));
+}
+}  // namespace
+
+TEST_F(ManagerTest, ColumnsComeFromTheWorkingGroupsSlots)
+{
+    WriteDefaultConfig();
+    dir.MakeFile("docs/a.odt", "text");
+    Start();
+    DocBrowser& browser = Browser();
+    const DocGroupConfig& group = Settings().WorkingGroup();
+    ASSERT_EQ(browser.ColCount(), 20);
+    for (unsigned short p = 0; p < 20; ++p)
+        EXPECT_EQ(browser.GetColumnId(p), group.columnId[p]) << p;
+    EXPECT_EQ(browser.model()->headerData(ColumnOf(browser, COL_TITLE), Qt::Horizontal).toString(), "Title");
+    EXPECT_EQ(browser.model()->headerData(ColumnOf(browser, COL_INFO0), Qt::Horizontal).toString(),
+              QString::fromStdString(group.infoLabel[0]));
+
+    // Default widths: multiples of "X" for four columns, the title rule for the rest.
+    const QFontMetrics metrics(browser.font());
+    const int x = metrics.horizontalAdvance("X");
+    EXPECT_EQ(browser.columnWidth(ColumnOf(browser, COL_NAME)), 10 * x);
+    EXPECT_EQ(browser.columnWidth(ColumnOf(browser, COL_SIZE)), 8 * x);
+    EXPECT_EQ(browser.columnWidth(ColumnOf(browser, COL_TITLE)), 15 * x);
+    EXPECT_EQ(browser.columnWidth(ColumnOf(browser, COL_DIRECTORY)), 20 * x);
+    EXPECT_EQ(browser.columnWidth(ColumnOf(browser, COL_TOPIC)), 50);  // "Topic" + 10 is narrower
+    EXPECT_EQ(browser.columnWidth(ColumnOf(browser, COL_MODIFIED_BY)),
+              std::max(50, metrics.horizontalAdvance("Modified by") + 10));
+
+    // A stored width is taken as it stands, 0 included; ids need not be in order.
+    Settings().WorkingGroup().columnWidth[0] = 0;
+    Settings().WorkingGroup().columnWidth[1] = 123;
+    std::swap(Settings().WorkingGroup().columnId[2], Settings().WorkingGroup().columnId[19]);
+    browser.InsertColumns();
+    EXPECT_EQ(browser.columnWidth(0), 0);
+    EXPECT_EQ(browser.columnWidth(1), 123);
+    EXPECT_EQ(browser.GetColumnId(2), COL_DIRECTORY);
+    EXPECT_EQ(browser.columnWidth(2), 20 * x);
+}
+
+TEST_F(ManagerTest, FrozenColumnsStayWhileTheListScrollsSideways)
+{
+    WriteDefaultConfig();
+    dir.MakeFile("docs/a.odt", "text");
+    Start();
+    host->resize(700, 500);
+    host->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(host.get()));
+    DocBrowser& browser = Browser();
+    FrozenColumnsView* frozen = browser.GetFrozenView();
+    ASSERT_EQ(Settings().WorkingGroup().frozenColumns, 3);
+    EXPECT_TRUE(frozen->isVisible());
+    EXPECT_EQ(frozen->FrozenCount(), 3);
+    EXPECT_EQ(frozen->model(), browser.model());
+    EXPECT_EQ(frozen->selectionModel(), browser.selectionModel());
+    EXPECT_FALSE(frozen->isColumnHidden(2));
+    EXPECT_TRUE(frozen->isColumnHidden(3));
+    const int frozenWidth = browser.columnWidth(0) + browser.columnWidth(1) + browser.columnWidth(2);
+    EXPECT_EQ(frozen->width(), frozenWidth);
+
+    const QPoint before = frozen->pos();
+    browser.horizontalScrollBar()->setValue(browser.horizontalScrollBar()->maximum());
+    ASSERT_GT(browser.horizontalScrollBar()->value(), 0);
+    EXPECT_EQ(frozen->pos(), before);
+    EXPECT_EQ(frozen->columnViewportPosition(0), 0);
+    EXPECT_EQ(frozen->horizontalScrollBar()->value(), 0);
+
+    // Selecting through the overlay selects in the list.
+    Select({"a.odt"});
+    EXPECT_TRUE(frozen->selectionModel()->isRowSelected(0, {}));
+
+    Settings().WorkingGroup().frozenColumns = 0;
+    browser.InsertColumns();
+    EXPECT_FALSE(frozen->isVisible());
+}
+
+TEST_F(ManagerTest, SingleViewShowsOneNameColumnAsWideAsTheList)
+{
+    WriteDefaultConfig();
+    dir.MakeFile("docs/a.odt", "text");
+    dir.MakeFile("docs/b.odt", "text");
+    Start();
+    host->resize(900, 500);
+    host->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(host.get()));
+    Select({"a.odt", "b.odt"});
+    Child<QCheckBox>("singleViewBox")->click();
+    DocBrowser& browser = Browser();
+    ASSERT_EQ(browser.ColCount(), 1);
+    EXPECT_EQ(browser.GetColumnId(0), COL_NAME);
+    EXPECT_EQ(browser.columnWidth(0), browser.viewport()->width());
+    EXPECT_EQ(browser.selectionMode(), QAbstractItemView::SingleSelection);
+    EXPECT_EQ(browser.GetSelectedRowCount(), 1);  // the first of the two stays
+    EXPECT_FALSE(browser.GetFrozenView()->isVisible());
+
+    Child<QCheckBox>("singleViewBox")->click();
+    EXPECT_EQ(browser.ColCount(), 20);
+    EXPECT_EQ(browser.selectionMode(), QAbstractItemView::ExtendedSelection);
+}
+
+TEST_F(ManagerTest, HeaderDoubleClickFitsTheColumnAndStoresItsWidth)
+{
+    WriteDefaultConfig();
+    Start();
+    host->resize(800, 500);
+    host->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(host.get()));
+    DocBrowser& browser = Browser();
+    const int titleColumn = ColumnOf(browser, COL_TITLE);
+
+    // Empty list: 6 + 2.
+    browser.FitColumn(COL_TITLE);
+    EXPECT_EQ(browser.columnWidth(titleColumn), 8);
+    EXPECT_EQ(Settings().WorkingGroup().columnWidth[2], 8);
+    EXPECT_EQ(StoredWidth(configPath, "0", 2), "8");
+
+    // The widest text + 2, found through a double click on the title.
+    for (const char* name : {"a.odt", "b.odt"}) {
+        dir.MakeFile(std::string("docs/") + name, "text");
+        host->known[name].title = name[0] == 'a' ? "Short" : "A somewhat longer title";
+    }
+    std::filesystem::remove(docs + "/.docindex");
+    host->CollectFiles();
+    QHeaderView* header = browser.horizontalHeader();
+    const int x = header->sectionViewportPosition(titleColumn) + header->sectionSize(titleColumn) / 2;
+    QTest::mouseDClick(header->viewport(), Qt::LeftButton, {}, QPoint(x, header->height() / 2));
+    const int widest = QFontMetrics(browser.font()).horizontalAdvance("A somewhat longer title");
+    EXPECT_EQ(browser.columnWidth(titleColumn), widest + 2);
+    EXPECT_EQ(StoredWidth(configPath, "0", 2), std::to_string(widest + 2));
+
+    // Wider than half the data area: half of it less one, + 2.
+    host->known["b.odt"].title = std::string(400, 'W');
+    std::filesystem::remove(docs + "/.docindex");  // so that the host is asked again
+    host->CollectFiles();
+    browser.FitColumn(COL_TITLE);
+    EXPECT_EQ(browser.columnWidth(titleColumn), browser.viewport()->width() / 2 - 1 + 2);
+}
+
+TEST_F(ManagerTest, AWidthTheUserDragsIsStoredWhenTheButtonIsReleased)
+{
+    WriteDefaultConfig();
+    dir.MakeFile("docs/a.odt", "text");
+    Start();
+    DocBrowser& browser = Browser();
+    browser.setColumnWidth(ColumnOf(browser, COL_AUTHOR), 77);  // as a drag does, step by step
+    EXPECT_NE(StoredWidth(configPath, "0", 6), "77");
+    QTest::mouseRelease(browser.horizontalHeader()->viewport(), Qt::LeftButton);
+    EXPECT_EQ(Settings().WorkingGroup().columnWidth[6], 77);
+    EXPECT_EQ(Settings().Group(0).columnWidth[6], 77);
+    EXPECT_EQ(StoredWidth(configPath, "0", 6), "77");
+}
+
+TEST_F(ManagerTest, CellsShowTheFieldTexts)
+{
+    WriteDefaultConfig();
+    dir.MakeFile("docs/empty.odt", "");
+    DocInfo info;
+    info.title = "Plan";
+    info.createdDate = Date(2, 1, 2020);
+    info.createdTime = Time(10, 0, 0);
+    info.modifiedDate = info.createdDate;  // same day, later time
+    info.modifiedTime = Time(11, 30, 0);
+    info.printedDate = info.createdDate;   // never printed
+    info.printedTime = info.createdTime;
+    info.printedBy = "Printer";
+    MakeHost().known["empty.odt"] = info;
+    host->Init();
+    DocBrowser& browser = Browser();
+    ASSERT_EQ(browser.GetRowCount(), 1);
+    auto cell = [&](uint16_t id, int role = Qt::DisplayRole) {
+        return browser.model()->data(browser.model()->index(0, ColumnOf(browser, id)), role);
+    };
+    EXPECT_EQ(cell(COL_NAME).toString(), "empty.odt");
+    EXPECT_EQ(cell(COL_SIZE).toString(), "0");
+    EXPECT_TRUE(cell(COL_SIZE, Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
+    EXPECT_TRUE(cell(COL_TITLE, Qt::TextAlignmentRole).toInt() & Qt::AlignLeft);
+    EXPECT_EQ(cell(COL_TITLE).toString(), "Plan");
+    EXPECT_EQ(cell(COL_MODIFIED_DATE).toString(), "---");
+    EXPECT_NE(cell(COL_MODIFIED_TIME).toString(), "---");
+    EXPECT_EQ(cell(COL_PRINTED_BY).toString(), "---");
+    EXPECT_EQ(cell(COL_DIRECTORY).toString().toStdString(), docs);
+    EXPECT_EQ(browser.GetColumnText(0, COL_TITLE), "Plan");
+    EXPECT_EQ(browser.GetColumnText(1, COL_TITLE), "");  // no such row
+}

@@ -1,0 +1,63 @@
+// The summary pane of single view, judged by what it paints.
+#include <QImage>
+#include <QTest>
+
+#include "docmgr/view/docsummarywindow.h"
+#include "tests/support/managerfixture.h"
+
+namespace {
+// Pixels that are not the white background.
+int InkedPixels(QWidget& widget)
+{
+    const QImage image = widget.grab().toImage();
+    int inked = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixelColor(x, y) != QColor(Qt::white))
+                ++inked;
+    return inked;
+}
+}  // namespace
+
+TEST_F(ManagerTest, SummaryPaneShowsTheFirstSelectedDocumentOnly)
+{
+    WriteDefaultConfig({}, true);
+    dir.MakeFile("docs/a.odt", "x");
+    dir.MakeFile("docs/b.odt", "x");
+    Start();
+    host->resize(1000, 600);
+    host->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(host.get()));
+    DocSummaryWindow* pane = host->GetSummaryWindow();
+    ASSERT_NE(pane, nullptr);
+    EXPECT_EQ(pane, Child<DocSummaryWindow>("summaryPane"));
+    EXPECT_GE(pane->height(), DocSummaryWindow::LINE_COUNT * pane->fontMetrics().height());
+
+    EXPECT_EQ(InkedPixels(*pane), 0);  // nothing selected: background only
+    const int callsBefore = host->createCalls;
+    Select({"b.odt"});
+    EXPECT_GT(InkedPixels(*pane), 0);
+    EXPECT_GT(host->createCalls, callsBefore);  // every paint asks the host afresh
+
+    // No information for the document: the pane stays empty.
+    host->notDocuments["b.odt"] = true;
+    EXPECT_EQ(InkedPixels(*pane), 0);
+
+    Child<QCheckBox>("singleViewBox")->click();
+    EXPECT_EQ(host->GetSummaryWindow(), nullptr);
+    EXPECT_EQ(host->findChild<DocSummaryWindow*>(), nullptr);
+}
+
+TEST_F(ManagerTest, SummaryInAPaneLowerThanItsBlockIsDrawnOutOfSight)
+{
+    WriteDefaultConfig();
+    dir.MakeFile("docs/a.odt", "x");
+    Start();
+    Select({"a.odt"});
+    DocSummaryWindow pane(host.get());
+    const int line = pane.fontMetrics().height();
+    pane.resize(600, line * DocSummaryWindow::LINE_COUNT + 4);
+    EXPECT_GT(InkedPixels(pane), 0);
+    pane.resize(600, line * (DocSummaryWindow::LINE_COUNT - 1));
+    EXPECT_EQ(InkedPixels(pane), 0);
+}
