@@ -76,6 +76,8 @@ public:
     void SetPathLine(const std::string& text);
     std::string GetPathLine() const;
     QPushButton* GetOpenButton() const;
+    // Escape and the window's close box act as the close button.
+    void reject() override;
     // Whether a confirmed settings dialog changed the working group since it was chosen.
     bool IsChanged() const;
 
@@ -100,9 +102,6 @@ protected:
     void FilterHdl();
     void SortHdl();
     void ColumnsHdl();
-
-    // Escape and the window's close box act as the close button.
-    void reject() override;
 
 private:
     void BuildControls();

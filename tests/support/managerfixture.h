@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QToolButton>
 #include <QDialog>
+#include <QLabel>
 #include <QListWidget>
 #include <QTimer>
 #include <functional>

@@ -1,0 +1,126 @@
+// The commands menu's enabling and the delete command.
+#include <QToolButton>
+
+#include "docmgr/view/doccommandmenu.h"
+#include "tests/support/managerfixture.h"
+
+class CommandsTest : public ManagerTest {
+protected:
+    void MakeDocs()
+    {
+        for (const char* name : {"a.odt", "b.odt", "c.odt", "d.odt"})
+            dir.MakeFile(std::string("docs/") + name, "x");
+    }
+    bool Enabled(unsigned short id)
+    {
+        auto* menu = static_cast<DocCommandMenu*>(Child<QToolButton>("commandsButton")->menu());
+        return menu->Item(id)->isEnabled();
+    }
+    std::vector<unsigned short> EnabledCommands()
+    {
+        std::vector<unsigned short> ids;
+        for (unsigned short id = CMD_DELETE; id <= CMD_PRINTLIST; ++id)
+            if (Enabled(id))
+                ids.push_back(id);
+        return ids;
+    }
+    using Ids = std::vector<unsigned short>;
+};
+
+TEST_F(CommandsTest, CommandsFollowTheSelection)
+{
+    WriteDefaultConfig();
+    MakeDocs();
+    Start();
+    QPushButton* open = Child<QPushButton>("openButton");
+    EXPECT_EQ(EnabledCommands(), Ids{CMD_PRINTLIST});
+    EXPECT_FALSE(open->isEnabled());
+
+    Select({"a.odt"});
+    EXPECT_EQ(EnabledCommands(), (Ids{20, 21, 22, 23, 24, 25}));
+    EXPECT_TRUE(open->isEnabled());
+
+    Select({"a.odt", "b.odt", "c.odt"});
+    EXPECT_EQ(EnabledCommands(), (Ids{20, 22, 24, 25}));  // information and rename need one row
+}
+
+TEST_F(CommandsTest, EachRightSwitchesItsCommandOff)
+{
+    const std::pair<const char*, unsigned short> rights[] = {{"ACCESS_FILEDELETE", CMD_DELETE},
+                                                             {"ACCESS_FILECOPY", CMD_COPY},
+                                                             {"ACCESS_FILEPRINT", CMD_PRINTDOCS},
+                                                             {"ACCESS_FILERENAME", CMD_RENAME}};
+    MakeDocs();
+    for (const auto& [key, id] : rights) {
+        WriteDefaultConfig({key});
+        Start();
+        Select({"a.odt"});
+        Ids expected;
+        for (unsigned short all = CMD_DELETE; all <= CMD_PRINTLIST; ++all)
+            if (all != id)
+                expected.push_back(all);
+        EXPECT_EQ(EnabledCommands(), expected) << key;
+        host.reset();
+        std::filesystem::remove(configPath);
+    }
+}
+
+TEST_F(CommandsTest, OutsideOpenModeDocumentsCannotBePrintedNorOpenedReadOnly)
+{
+    WriteDefaultConfig();
+    MakeDocs();
+    Start(false);
+    Select({"a.odt"});
+    EXPECT_FALSE(Enabled(CMD_PRINTDOCS));
+    QCheckBox* readOnly = Child<QCheckBox>("readOnlyBox");
+    EXPECT_TRUE(readOnly->isHidden());
+    readOnly->setChecked(true);
+    EXPECT_FALSE(host->IsReadOnly());
+    EXPECT_EQ(Child<QPushButton>("openButton")->text(), "&Select");
+}
+
+TEST_F(CommandsTest, DeleteRemovesTheSelectedFilesAndRewritesThePathLine)
+{
+    WriteDefaultConfig();
+    MakeDocs();
+    Start();
+    EXPECT_EQ(host->GetPathLine(), "4 documents in " + docs);
+
+    Select({"a.odt", "b.odt", "d.odt"});
+    AnswerBoxes(RET_NO);
+    host->Command(CMD_DELETE);
+    EXPECT_EQ(Browser().GetRowCount(), 4);
+    EXPECT_TRUE(dir.Exists("docs/a.odt"));
+
+    // b.odt has gone behind the list's back: it cannot be deleted, its row stays.
+    std::filesystem::remove(docs + "/b.odt");
+    queries.clear();
+    AnswerBoxes(RET_YES);
+    host->Command(CMD_DELETE);
+    ASSERT_EQ(queries.size(), 1u);
+    EXPECT_EQ(queries[0], "Do you really want to delete the selected documents?");
+    EXPECT_FALSE(dir.Exists("docs/a.odt"));
+    EXPECT_FALSE(dir.Exists("docs/d.odt"));
+    EXPECT_TRUE(dir.Exists("docs/c.odt"));
+    ASSERT_EQ(infos.size(), 1u);
+    EXPECT_EQ(infos[0], "The file " + docs + "/b.odt could not be deleted.");
+    EXPECT_EQ(RowNames(), (std::vector<std::string>{"b.odt", "c.odt"}));
+    EXPECT_EQ(Browser().GetSelectedRowCount(), 0);
+    EXPECT_EQ(host->GetPathLine(), "22");
+    EXPECT_EQ(Child<QLabel>("pathLine")->text(), "22");
+    EXPECT_FALSE(Child<QPushButton>("openButton")->isEnabled());
+}
+
+TEST_F(CommandsTest, PrintDocumentsEndsTheDialogForTheHost)
+{
+    WriteDefaultConfig();
+    MakeDocs();
+    MakeHost();
+    QTimer::singleShot(0, host.get(), [this] {
+        Select({"c.odt"});
+        Child<QToolButton>("commandsButton")->menu()->actions().at(CMD_PRINTDOCS - CMD_DELETE)->trigger();
+    });
+    EXPECT_EQ(host->Execute(), RET_PRINTDOCS);
+    ASSERT_NE(host->GetFirstDoc(), nullptr);
+    EXPECT_EQ(*host->GetFirstDoc(), docs + "/c.odt");
+}

@@ -1,0 +1,101 @@
+// Running the manager: results, the configuration it reads, its path line and what the
+// host gets back.
+#include "docmgr/view/docsummarywindow.h"
+#include "tests/support/managerfixture.h"
+
+TEST_F(ManagerTest, ExecuteEndsWithCloseOrOpen)
+{
+    WriteDefaultConfig();
+    dir.MakeFile("docs/a.odt", "x");
+    MakeHost();
+    managerloop::RunInManager(*host, [this] { Child<QPushButton>("closeButton")->click(); });
+    EXPECT_EQ(host->result(), 0);
+
+    QTimer::singleShot(0, host.get(), [this] {
+        Select({"a.odt"});
+        Child<QCheckBox>("readOnlyBox")->setChecked(true);
+        Child<QPushButton>("openButton")->click();
+    });
+    EXPECT_EQ(host->Execute(), 1);
+    EXPECT_TRUE(host->IsReadOnly());
+    EXPECT_EQ(*host->GetFirstDoc(), docs + "/a.odt");
+    EXPECT_EQ(host->GetConfig().rfind("@DocManager[2.1]", 0), 0u);
+    EXPECT_TRUE(host->IsAvailable());
+    EXPECT_EQ(host->windowTitle(), "Document Manager");
+    EXPECT_EQ(Child<QPushButton>("openButton")->text(), "&Open");
+}
+
+TEST_F(ManagerTest, ASecondExecuteCollectsAgainButKeepsTheSettings)
+{
+    WriteDefaultConfig();
+    dir.MakeFile("docs/a.odt", "x");
+    MakeHost();
+    managerloop::RunInManager(*host, [] {});
+    EXPECT_EQ(RowNames(), std::vector<std::string>{"a.odt"});
+
+    // The file changes on disk; the running manager does not read it again.
+    WriteConfig({{"Elsewhere", "Other", dir.MakeDir("other"), "1"}});
+    dir.MakeFile("docs/b.odt", "x");
+    managerloop::RunInManager(*host, [] {});
+    EXPECT_EQ(host->GetSelectedGroupName(), "Docs");
+    EXPECT_EQ(Browser().GetRowCount(), 2);
+}
+
+TEST_F(ManagerTest, ClosingSavesTheViewMode)
+{
+    WriteDefaultConfig();
+    MakeHost();
+    managerloop::RunInManager(*host, [this] {
+        Child<QCheckBox>("singleViewBox")->click();
+        EXPECT_NE(host->GetSummaryWindow(), nullptr);
+        host->reject();  // Escape acts as the close button
+    });
+    Config saved(configPath);
+    saved.SetGroup("GENERAL");
+    EXPECT_EQ(saved.ReadKey("VIEWMODE"), "SINGLE");
+}
+
+TEST_F(ManagerTest, PathLineShowsTheActivePathsOrTheStartPaths)
+{
+    const std::string other = dir.MakeDir("other");
+    dir.MakeFile("docs/a.odt", "x");
+    dir.MakeFile("other/b.odt", "x");
+    dir.MakeFile("other/c.odt", "x");
+    // Flags shorter than the paths: the missing ones are off.
+    WriteConfig({{"Both", "Main", docs + ";" + other + ";" + dir.Path(), "01"}});
+    Start();
+    EXPECT_EQ(host->GetPathLine(), "2 documents in " + other);
+
+    // No active path: the start paths are read.
+    Settings().WorkingGroup().guis = "000";
+    host->CollectFiles();
+    EXPECT_EQ(host->GetPathLine(), "0 documents in ");
+    host.reset();
+
+    Start(true, docs);
+    Settings().WorkingGroup().guis = "";
+    host->CollectFiles();
+    EXPECT_EQ(host->GetPathLine(), "1 documents in " + docs);
+    host.reset();
+
+    Start(true, "/**");  // the bare subdirectory marker means no start path
+    Settings().WorkingGroup().guis = "";
+    host->CollectFiles();
+    EXPECT_EQ(host->GetPathLine(), "0 documents in ");
+}
+
+TEST_F(ManagerTest, WithoutAHostConfigurationDmgdumpCfgIsUsed)
+{
+    const std::string work = dir.MakeDir("work");
+    fsutil::CurrentDirGuard inWork(work);
+    ASSERT_TRUE(inWork.Entered());
+    AnswerBoxes(RET_YES);
+    {
+        TestHost byName(nullptr, "ignored.cfg", docs, true);
+        byName.Init();
+        EXPECT_EQ(byName.GetSelectedGroupName(), "Standard");
+        EXPECT_EQ(infos.size(), 1u);  // told that a first group was made
+    }
+    EXPECT_TRUE(fsutil::IsFile(work + "/dmgdump.cfg"));
+    EXPECT_FALSE(fsutil::Exists(work + "/ignored.cfg"));
+}

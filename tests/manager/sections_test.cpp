@@ -1,0 +1,101 @@
+// Choosing sections and groups, and the question whether changed settings are kept.
+#include <QLineEdit>
+
+#include "docmgr/config/configkeys.h"
+#include "tests/support/managerfixture.h"
+
+class SectionsTest : public ManagerTest {
+protected:
+    // Three groups in two sections, each showing its own directory.
+    void SetUp() override
+    {
+        for (const char* sub : {"a", "b", "c"})
+            dir.MakeFile(std::string("docs/") + sub + "/" + sub + "1.odt", "x");
+        WriteConfig({{"Alpha", "Work", docs + "/a", "1"},
+                     {"Beta", "Home", docs + "/b", "1"},
+                     {"Gamma", "Work", docs + "/c", "1"}},
+                    3);  // Gamma is current
+    }
+    QListWidget* Sections() { return Child<QListWidget>("sectionList"); }
+    QListWidget* Groups() { return Child<QListWidget>("groupList"); }
+
+    // Confirms the filter dialog with `title` as the title pattern.
+    void ChangeFilterTitle(const QString& title)
+    {
+        OnNextModal([title](QDialog& dialog) {
+            dialog.findChild<QLineEdit*>("titleEdit")->setText(title);
+            dialog.findChild<QPushButton*>("okButton")->click();
+        });
+        host->FilterHdl();
+    }
+};
+
+TEST_F(SectionsTest, SectionsAppearOnceInTheOrderOfTheirFirstGroup)
+{
+    Start();
+    EXPECT_EQ(Texts(Sections()), (std::vector<std::string>{"Work", "Home"}));
+    EXPECT_EQ(Sections()->currentItem()->text(), "Work");
+    EXPECT_EQ(Texts(Groups()), (std::vector<std::string>{"Alpha", "Gamma"}));
+    EXPECT_EQ(host->GetSelectedGroupName(), "Gamma");
+    EXPECT_EQ(RowNames(), std::vector<std::string>{"c1.odt"});
+    EXPECT_EQ(Child<QLabel>("sectionLabel")->text(), "S&ection");
+    EXPECT_EQ(Child<QLabel>("groupLabel")->text(), "Gro&up");
+}
+
+TEST_F(SectionsTest, ChoosingASectionMakesItsFirstGroupCurrent)
+{
+    Start();
+    Sections()->setCurrentRow(1);  // "Home", as a click does
+    EXPECT_EQ(Texts(Groups()), std::vector<std::string>{"Beta"});
+    EXPECT_EQ(Groups()->currentRow(), 0);
+    EXPECT_EQ(Settings().actualGroup, 2);
+    EXPECT_EQ(Settings().WorkingGroup().groupName, "Beta");
+    EXPECT_EQ(RowNames(), std::vector<std::string>{"b1.odt"});
+    EXPECT_EQ(host->GetPathLine(), "1 documents in " + docs + "/b");
+
+    Sections()->setCurrentRow(0);
+    Groups()->setCurrentRow(0);  // "Alpha"
+    EXPECT_EQ(Settings().actualGroup, 1);
+    EXPECT_EQ(RowNames(), std::vector<std::string>{"a1.odt"});
+    EXPECT_TRUE(queries.empty());
+}
+
+TEST_F(SectionsTest, KeptChangesGoIntoTheCurrentGroup)
+{
+    Start();
+    AnswerBoxes(RET_YES);
+    ChangeFilterTitle("*Plan*");
+    EXPECT_TRUE(host->IsChanged());
+    Groups()->setCurrentRow(0);  // away from Gamma: the question comes
+    ASSERT_EQ(queries.size(), 1u);
+    EXPECT_EQ(queries[0], "The settings of the group \"Gamma\" have been changed. Keep the changes?");
+    EXPECT_FALSE(host->IsChanged());
+    EXPECT_EQ(Settings().Group(2).filterTitle, "*Plan*");
+    Config saved(configPath);
+    saved.SetGroup("2");
+    EXPECT_EQ(saved.ReadKey(configkeys::FilterTitle), "*Plan*");
+    EXPECT_EQ(Settings().WorkingGroup().groupName, "Alpha");
+}
+
+TEST_F(SectionsTest, RefusedChangesAreDroppedForTheFirstGroup)
+{
+    Start();
+    AnswerBoxes(RET_NO);
+    ChangeFilterTitle("*Plan*");
+    host->QuerySave();
+    ASSERT_EQ(queries.size(), 1u);
+    EXPECT_EQ(Settings().Group(2).filterTitle, "");
+    // The first group, not the current one, becomes the settings in force.
+    EXPECT_EQ(Settings().actualGroup, 1);
+    EXPECT_EQ(Settings().WorkingGroup().groupName, "Alpha");
+    EXPECT_EQ(Settings().WorkingGroup().filterTitle, "");
+}
+
+TEST_F(SectionsTest, NothingIsAskedWithoutAChange)
+{
+    Start();
+    AnswerBoxes(RET_YES);
+    host->OpenHdl();
+    EXPECT_TRUE(queries.empty());
+    EXPECT_EQ(host->result(), 1);
+}
