@@ -32,15 +32,16 @@ DocFormat FormatByExtension(const std::string& path)
 
 Signature ReadSignature(const std::string& path)
 {
+    // PDF readers accept a header anywhere in the first 1024 bytes.
     std::ifstream in(path, std::ios::binary);
-    char head[8] = {};
+    char head[1024];
     in.read(head, sizeof head);
-    const auto got = size_t(in.gcount());
-    if (got >= 5 && std::memcmp(head, "%PDF-", 5) == 0)
+    const std::string_view got(head, size_t(in.gcount()));
+    if (got.find("%PDF-") != std::string_view::npos)
         return Signature::Pdf;
-    if (got >= 4 && (std::memcmp(head, "PK\3\4", 4) == 0 || std::memcmp(head, "PK\5\6", 4) == 0))
+    if (got.substr(0, 4) == "PK\3\4" || got.substr(0, 4) == "PK\5\6")
         return Signature::Zip;
-    if (got == 8 && std::memcmp(head, "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1", 8) == 0)
+    if (got.substr(0, 8) == std::string_view("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1", 8))
         return Signature::Cfb;
     return Signature::Other;
 }

@@ -9,7 +9,7 @@ enum class DocFormat { None, Odf, Ooxml, Pdf };
 // What the first bytes of a file say.
 enum class Signature {
     Other,
-    Pdf,  // "%PDF-"
+    Pdf,  // "%PDF-" within the first 1024 bytes
     Zip,  // "PK\3\4" (or an empty archive's "PK\5\6")
     Cfb,  // OLE compound file: how Office stores a password-protected OOXML document
 };

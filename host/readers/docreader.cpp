@@ -24,7 +24,7 @@ void ReadByContent(const std::string& path, uint64_t fileSize, DocFormat byName,
 {
     isDocument = byName != DocFormat::None;
     const Signature signature = ReadSignature(path);
-    if (signature == Signature::Pdf || (signature == Signature::Other && byName == DocFormat::Pdf)) {
+    if (signature == Signature::Pdf) {
         isDocument = true;
         ReadPdfInfo(path, fileSize, info);
         return;

@@ -135,7 +135,10 @@ bool ParsePdf(std::string_view text, Date& date, Time& time)
     }
     if (pos < s.size() && (s[pos] == 'Z' || s[pos] == 'z')) {
         // "Z" may be followed by a redundant "00'00'".
+        ++pos;
         f.zoned = true;
+        while (pos < s.size() && (AtDigit(s, pos) || s[pos] == '\''))
+            ++pos;
     } else if (pos < s.size() && (s[pos] == '+' || s[pos] == '-')) {
         const int sign = s[pos++] == '-' ? -1 : 1;
         int hours = 0, minutes = 0;
@@ -145,9 +148,13 @@ bool ParsePdf(std::string_view text, Date& date, Time& time)
             ++pos;
         if (AtDigit(s, pos) && !Digits(s, pos, 2, minutes))
             return false;
+        if (pos < s.size() && s[pos] == '\'')
+            ++pos;
         f.zoned = true;
         f.offsetSeconds = sign * (hours * 3600 + minutes * 60);
     }
+    if (pos != s.size())
+        return false;
     return ToLocal(f, date, time);
 }
 

@@ -74,7 +74,7 @@ void ReadOdfInfo(const ZipArchive& zip, DocInfo& info)
                 TakeFirst(info.printedBy, printedBy, node);
             else if (name == "print-date")
                 TakeStamp(info.printedDate, info.printedTime, node);
-            else if (name == "keyword")
+            else if (name == "keyword" && !xmlutil::Text(node).empty())
                 keywords.push_back(xmlutil::Text(node));
             else if (name == "user-defined" && infoCount < info.info.size())
                 info.info[infoCount++] = xmlutil::Text(node);

@@ -1,0 +1,172 @@
+// Damaged, encrypted and hostile files: still documents when they look like one, never
+// a crash, a hang or an unbounded allocation.
+#include <filesystem>
+
+#include <gtest/gtest.h>
+
+#include "host/readers/docreader.h"
+#include "host/readers/samplewriter.h"
+#include "host/readers/ziparchive.h"
+#include "tests/host/readers_fixtures.h"
+#include "tests/support/tempdir.h"
+
+using namespace readertest;
+
+namespace {
+
+// Read as a document that carries no information at all.
+void ExpectEmptyDocument(const std::string& path)
+{
+    auto info = ReadDocInfo(path);
+    ASSERT_NE(info, nullptr) << path;
+    EXPECT_TRUE(info->HasInfo());
+    EXPECT_EQ(info->title, "") << path;
+    EXPECT_EQ(info->author, "") << path;
+    EXPECT_EQ(info->createdDate, Date()) << path;
+    EXPECT_EQ(info->info, (std::array<std::string, 4>{})) << path;
+}
+
+}  // namespace
+
+TEST(ReadersDamaged, BrokenPackagesAreDocumentsWithoutInformation)
+{
+    TempDir dir;
+    std::string error;
+    ASSERT_TRUE(WriteSampleOdt(dir.PathOf("whole.odt"), FullSample(), error)) << error;
+    const std::string whole = dir.Read("whole.odt");
+    dir.MakeFile("truncated.odt", whole.substr(0, whole.size() / 2));
+    dir.MakeFile("garbage.docx", "PK\3\4 this is not really a zip");
+    dir.MakeFile("text.xlsx", "plain text with an office name");
+    WriteZip(dir.PathOf("nometa.odt"), {{"mimetype", "application/vnd.oasis.opendocument.text"},
+                                        {"content.xml", "<office:document-content/>"}});
+    WriteOdfMeta(dir.PathOf("malformed.odt"), "<dc:title>Unclosed</dc:titel>");
+    for (const char* name : {"truncated.odt", "garbage.docx", "text.xlsx", "nometa.odt", "malformed.odt"}) {
+        SCOPED_TRACE(name);
+        ExpectEmptyDocument(dir.PathOf(name));
+        EXPECT_EQ(ReadDocInfo(dir.PathOf(name))->size, dir.Size(name));
+    }
+    // A truncated zip under a name that says nothing is not a document.
+    dir.MakeFile("truncated.dat", whole.substr(0, whole.size() / 2));
+    EXPECT_EQ(ReadDocInfo(dir.PathOf("truncated.dat")), nullptr);
+}
+
+TEST(ReadersDamaged, OneBadPartDoesNotLoseTheOthers)
+{
+    TempDir dir;
+    std::string error;
+    SampleDoc doc = FullSample();
+    ASSERT_TRUE(WriteSampleDocx(dir.PathOf("whole.docx"), doc, error)) << error;
+    // Rebuild the package with a broken core part and the custom part intact.
+    std::vector<std::pair<std::string, std::string>> entries;
+    ZipArchive source;
+    ASSERT_TRUE(source.Open(dir.PathOf("whole.docx"), ZipArchive::Mode::Read));
+    for (const char* part : {"[Content_Types].xml", "_rels/.rels", "docProps/custom.xml"}) {
+        std::string bytes;
+        ASSERT_EQ(source.Read(part, kMaxXmlPart, bytes), ZipRead::Ok);
+        entries.emplace_back(part, bytes);
+    }
+    entries.emplace_back("docProps/core.xml", "<cp:coreProperties><dc:title>no namespaces");
+    WriteZip(dir.PathOf("halfbroken.docx"), entries);
+    auto info = ReadDocInfo(dir.PathOf("halfbroken.docx"));
+    ASSERT_NE(info, nullptr);
+    EXPECT_EQ(info->title, "");
+    EXPECT_EQ(info->info[0], "Crème");
+}
+
+TEST(ReadersDamaged, AZipBombStopsAtTheCap)
+{
+    TempDir dir;
+    // 40 MiB of blanks inside meta.xml deflate to a few kilobytes.
+    const std::string head =
+        "<office:document-meta xmlns:office=\"urn:oasis:names:tc:opendocument:xmlns:office:1.0\" "
+        "xmlns:dc=\"http://purl.org/dc/elements/1.1/\"><office:meta><dc:title>Bomb</dc:title>";
+    std::string meta = head + std::string(40u << 20, ' ') + "</office:meta></office:document-meta>";
+    WriteZip(dir.PathOf("bomb.odt"), {{"mimetype", "application/vnd.oasis.opendocument.text"}, {"meta.xml", meta}});
+    meta = std::string();
+    ASSERT_LT(dir.Size("bomb.odt"), 1u << 20);
+
+    ZipArchive zip;
+    ASSERT_TRUE(zip.Open(dir.PathOf("bomb.odt"), ZipArchive::Mode::Read));
+    std::string read;
+    EXPECT_EQ(zip.Read("meta.xml", kMaxXmlPart, read), ZipRead::TooLarge);
+    EXPECT_EQ(read.size(), kMaxXmlPart);
+    // A part past the cap is not parsed at all, but the file is still a document.
+    ExpectEmptyDocument(dir.PathOf("bomb.odt"));
+}
+
+TEST(ReadersDamaged, EncryptedAndBrokenPdfs)
+{
+    TempDir dir;
+    WritePdf(dir.PathOf("locked.pdf"), "<< /Title (Secret) >>", "user-password");
+    ExpectEmptyDocument(dir.PathOf("locked.pdf"));
+
+    // Encrypted only against changes: anyone may open it, so its information is read.
+    WritePdf(dir.PathOf("owner.pdf"), "<< /Title (Open Book) /Author (Zo\\353) >>", "", "owner-password");
+    auto owner = ReadDocInfo(dir.PathOf("owner.pdf"));
+    ASSERT_NE(owner, nullptr);
+    EXPECT_EQ(owner->title, "Open Book");
+    EXPECT_EQ(owner->author, "Zoë");
+
+    dir.MakeFile("garbage.pdf", "%PDF-1.7\n\x01\x02 not objects at all \xff\xfe");
+    dir.MakeFile("header-only.bin", "%PDF-");
+    dir.MakeFile("empty.pdf", "");
+    for (const char* name : {"garbage.pdf", "header-only.bin", "empty.pdf"}) {
+        SCOPED_TRACE(name);
+        ExpectEmptyDocument(dir.PathOf(name));
+    }
+
+    // A wrong cross-reference offset: qpdf's repair finds the objects and the trailer.
+    WritePdf(dir.PathOf("whole.pdf"), "<< /Title (Recovered) >>");
+    std::string moved = dir.Read("whole.pdf");
+    const size_t offset = moved.rfind("startxref\n") + 10;
+    moved.replace(offset, moved.find('\n', offset) - offset, "12");
+    dir.MakeFile("moved.pdf", moved);
+    auto repaired = ReadDocInfo(dir.PathOf("moved.pdf"));
+    ASSERT_NE(repaired, nullptr);
+    EXPECT_EQ(repaired->title, "Recovered");
+
+    // A header late in the first kilobyte still makes a PDF; none at all, under a PDF
+    // name, makes a document that is not even opened.
+    dir.MakeFile("late.bin", std::string(1000, 'x') + moved);
+    ASSERT_NE(ReadDocInfo(dir.PathOf("late.bin")), nullptr);
+    dir.MakeFile("noheader.pdf", std::string(2000, '\0'));
+    ExpectEmptyDocument(dir.PathOf("noheader.pdf"));
+}
+
+TEST(ReadersDamaged, PdfTextEncodingsAndDates)
+{
+    TempDir dir;
+    // PDFDocEncoding, UTF-16BE with byte order mark, a date without zone, a broken date.
+    WritePdf(dir.PathOf("enc.pdf"),
+             "<< /Title (Caf\\351) /Subject <FEFF005A006F00EB> /Keywords (a, b) /CreationDate (D:20010203040506) "
+             "/ModDate (D:2001xx) /Zeta (last) /Alpha (first) /Mid 7 /Trapped /False >>");
+    auto info = ReadDocInfo(dir.PathOf("enc.pdf"));
+    ASSERT_NE(info, nullptr);
+    EXPECT_EQ(info->title, "Café");
+    EXPECT_EQ(info->topic, "Zoë");
+    EXPECT_EQ(info->keywords, "a, b");
+    EXPECT_EQ(info->createdDate, Date(3, 2, 2001));
+    EXPECT_EQ(info->createdTime, Time(4, 5, 6));
+    EXPECT_EQ(info->modifiedDate, Date());
+    // Without a recorded order, the non-standard entries come by name.
+    EXPECT_EQ(info->info, (std::array<std::string, 4>{"first", "7", "last", ""}));
+}
+
+TEST(ReadersDamaged, PasswordProtectedOfficeFileAndHugeSize)
+{
+    TempDir dir;
+    // Office keeps a password-protected document in an OLE compound file.
+    dir.MakeFile("locked.docx", std::string("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1", 8) + std::string(504, '\0'));
+    ExpectEmptyDocument(dir.PathOf("locked.docx"));
+    EXPECT_EQ(ReadDocInfo(dir.PathOf("locked.docx"))->size, 512u);
+
+    // A sparse file past 4 GiB: the size is capped below the "no information" mark.
+    const std::string huge = dir.MakeFile("huge.pdf", "");
+    std::error_code ec;
+    std::filesystem::resize_file(huge, (5ull << 30), ec);
+    if (ec)
+        GTEST_SKIP() << "no sparse files here: " << ec.message();
+    auto info = ReadDocInfo(huge);
+    ASSERT_NE(info, nullptr);
+    EXPECT_EQ(info->size, 0xFFFFFFFEu);
+}

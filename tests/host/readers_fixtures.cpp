@@ -1,0 +1,126 @@
+#include "tests/host/readers_fixtures.h"
+
+#include <zip.h>
+
+#include <gtest/gtest.h>
+
+#include "host/readers/qpdfapi.h"
+#include "host/readers/ziparchive.h"
+
+#include <qpdf/QPDFPageDocumentHelper.hh>
+#include <qpdf/QPDFWriter.hh>
+
+namespace readertest {
+
+SampleDoc FullSample()
+{
+    SampleDoc doc;
+    doc.title = "Übersicht der Café-Umsätze";
+    doc.topic = "Finanzen";
+    doc.author = "Zoë Martin";
+    doc.modifiedBy = "José García";
+    doc.keywords = {"café", "budget", "2019"};
+    doc.comment = "Zahlen <geprüft> & freigegeben";
+    doc.created = QDateTime(QDate(2019, 5, 6), QTime(7, 8, 9));
+    doc.modified = QDateTime(QDate(2020, 11, 12), QTime(13, 14, 15));
+    doc.printed = QDateTime(QDate(2020, 12, 1), QTime(16, 17, 18));
+    doc.printedBy = "Jörg Müller";
+    doc.info = {{"Project", "Crème"}, {"Client", "ACME"}, {"Status", "open"}, {"Reviewer", "Li Wei"}};
+    doc.body = "First paragraph.\nZweiter Absatz mit Ümlauten.";
+    return doc;
+}
+
+void WriteZip(const std::string& path, const std::vector<std::pair<std::string, std::string>>& entries)
+{
+    ZipArchive zip;
+    ASSERT_TRUE(zip.Open(path, ZipArchive::Mode::Create)) << zip.Error();
+    for (const auto& [name, data] : entries)
+        ASSERT_TRUE(zip.Put(name, data, name != "mimetype")) << zip.Error();
+    ASSERT_TRUE(zip.Commit()) << zip.Error();
+}
+
+void WriteOdfMeta(const std::string& path, const std::string& metaChildren)
+{
+    const std::string meta =
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>"
+        "<office:document-meta xmlns:office=\"urn:oasis:names:tc:opendocument:xmlns:office:1.0\""
+        " xmlns:meta=\"urn:oasis:names:tc:opendocument:xmlns:meta:1.0\""
+        " xmlns:dc=\"http://purl.org/dc/elements/1.1/\" office:version=\"1.2\"><office:meta>"
+        + metaChildren + "</office:meta></office:document-meta>";
+    WriteZip(path, {{"mimetype", "application/vnd.oasis.opendocument.text"}, {"meta.xml", meta}});
+}
+
+void WriteOoxmlCore(const std::string& path, const std::string& coreChildren)
+{
+    const std::string types =
+        "<?xml version=\"1.0\"?><Types xmlns=\"http://schemas.openxmlformats.org/package/2006/content-types\">"
+        "<Default Extension=\"rels\" ContentType=\"application/vnd.openxmlformats-package.relationships+xml\"/>"
+        "<Default Extension=\"xml\" ContentType=\"application/xml\"/>"
+        "<Override PartName=\"/docProps/core.xml\" "
+        "ContentType=\"application/vnd.openxmlformats-package.core-properties+xml\"/></Types>";
+    const std::string rels =
+        "<?xml version=\"1.0\"?><Relationships xmlns=\"http://schemas.openxmlformats.org/package/2006/relationships\">"
+        "<Relationship Id=\"rId1\" Type=\"http://schemas.openxmlformats.org/package/2006/relationships/"
+        "metadata/core-properties\" Target=\"docProps/core.xml\"/></Relationships>";
+    const std::string core =
+        "<?xml version=\"1.0\"?><cp:coreProperties "
+        "xmlns:cp=\"http://schemas.openxmlformats.org/package/2006/metadata/core-properties\" "
+        "xmlns:dc=\"http://purl.org/dc/elements/1.1/\" xmlns:dcterms=\"http://purl.org/dc/terms/\">"
+        + coreChildren + "</cp:coreProperties>";
+    WriteZip(path, {{"[Content_Types].xml", types}, {"_rels/.rels", rels}, {"docProps/core.xml", core}});
+}
+
+void WritePdf(const std::string& path, const std::string& infoDict, const char* userPassword,
+              const char* ownerPassword)
+{
+    QPDF pdf;
+    pdf.emptyPDF();
+    QPDFObjectHandle page = pdf.makeIndirectObject(QPDFObjectHandle::parse("<< /Type /Page /MediaBox [0 0 200 200] >>"));
+    QPDFPageDocumentHelper(pdf).addPage(page, false);
+    pdf.getTrailer().replaceKey("/Info", pdf.makeIndirectObject(QPDFObjectHandle::parse(infoDict)));
+    QPDFWriter writer(pdf, path.c_str());
+    if (userPassword || ownerPassword)
+        writer.setR6EncryptionParameters(userPassword ? userPassword : "", ownerPassword ? ownerPassword : "owner",
+                                         true, true, true, true, true, true, qpdf_r3p_full, true);
+    writer.write();
+}
+
+Date DateOf(const QDateTime& stamp)
+{
+    const QDate d = stamp.toLocalTime().date();
+    return Date(unsigned(d.day()), unsigned(d.month()), unsigned(d.year()));
+}
+
+Time TimeOf(const QDateTime& stamp)
+{
+    const QTime t = stamp.toLocalTime().time();
+    return Time(unsigned(t.hour()), unsigned(t.minute()), unsigned(t.second()), unsigned(t.msec() / 10));
+}
+
+std::vector<RawEntry> RawEntries(const std::string& path)
+{
+    std::vector<RawEntry> entries;
+    int code = 0;
+    zip_t* zip = zip_open(path.c_str(), ZIP_RDONLY, &code);
+    if (!zip) {
+        ADD_FAILURE() << "cannot open " << path;
+        return entries;
+    }
+    for (zip_int64_t i = 0; i < zip_get_num_entries(zip, 0); ++i) {
+        zip_stat_t st;
+        zip_stat_index(zip, zip_uint64_t(i), 0, &st);
+        RawEntry entry{st.name, st.comp_method, st.crc, {}};
+        entry.raw.resize(size_t(st.comp_size));
+        zip_file_t* file = zip_fopen_index(zip, zip_uint64_t(i), ZIP_FL_COMPRESSED);
+        if (file) {
+            const zip_int64_t got = zip_fread(file, entry.raw.data(), entry.raw.size());
+            entry.raw.resize(got < 0 ? 0 : size_t(got));
+            zip_fclose(file);
+        }
+        entries.push_back(std::move(entry));
+    }
+    zip_discard(zip);
+    return entries;
+}
+
+}  // namespace readertest

@@ -1,0 +1,46 @@
+#pragma once
+// Building documents for the reader and writer tests: full samples, hand-made packages
+// and the raw entries of a zip.
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <QDateTime>
+
+#include "docmgr/records/docinfo.h"
+#include "host/readers/samplewriter.h"
+
+namespace readertest {
+
+// A sample with every field set, non-ASCII text included, printed once.
+SampleDoc FullSample();
+
+// Writes a zip with these entries in this order, each deflated unless its name is
+// "mimetype".
+void WriteZip(const std::string& path, const std::vector<std::pair<std::string, std::string>>& entries);
+// An ODF package holding only a mimetype entry and a meta.xml with `metaChildren` inside
+// <office:meta>.
+void WriteOdfMeta(const std::string& path, const std::string& metaChildren);
+// An OOXML package with the usual part lists and a core part with `coreChildren`.
+void WriteOoxmlCore(const std::string& path, const std::string& coreChildren);
+
+// A one-page PDF whose Info dictionary is `infoDict` (PDF syntax), encrypted when a
+// password is given.
+void WritePdf(const std::string& path, const std::string& infoDict, const char* userPassword = nullptr,
+              const char* ownerPassword = nullptr);
+
+// The local Date and Time of a stamp.
+Date DateOf(const QDateTime& stamp);
+Time TimeOf(const QDateTime& stamp);
+
+struct RawEntry {
+    std::string name;
+    int method = 0;       // compression method
+    uint32_t crc = 0;
+    std::string raw;      // the stored (compressed) bytes
+};
+// Every entry of a zip in central directory order, with its bytes as stored.
+std::vector<RawEntry> RawEntries(const std::string& path);
+
+}  // namespace readertest

@@ -1,0 +1,228 @@
+// Reading document information from each format, through files the sample writer and
+// the tests build.
+#include <gtest/gtest.h>
+
+#include <QTimeZone>
+
+#include "host/readers/docreader.h"
+#include "host/readers/samplewriter.h"
+#include "tests/host/readers_fixtures.h"
+#include "tests/support/tempdir.h"
+
+using namespace readertest;
+
+namespace {
+
+using Infos = std::array<std::string, 4>;
+
+std::unique_ptr<DocInfo> WriteAndRead(TempDir& dir, const std::string& name, const SampleDoc& doc)
+{
+    std::string error;
+    EXPECT_TRUE(WriteSample(dir.PathOf(name), doc, error)) << error;
+    auto info = ReadDocInfo(dir.PathOf(name));
+    EXPECT_NE(info, nullptr) << name;
+    return info;
+}
+
+// The fields all three formats keep.
+void ExpectCommonFields(const DocInfo& info, TempDir& dir, const std::string& name)
+{
+    const SampleDoc doc = FullSample();
+    EXPECT_EQ(info.entry, dir.PathOf(name));
+    EXPECT_EQ(info.size, dir.Size(name));
+    EXPECT_EQ(info.title, doc.title);
+    EXPECT_EQ(info.topic, doc.topic);
+    EXPECT_EQ(info.author, doc.author);
+    EXPECT_EQ(info.keywords, "café, budget, 2019");
+    EXPECT_EQ(info.createdDate, Date(6, 5, 2019));
+    EXPECT_EQ(info.createdTime, Time(7, 8, 9));
+    EXPECT_EQ(info.modifiedDate, Date(12, 11, 2020));
+    EXPECT_EQ(info.modifiedTime, Time(13, 14, 15));
+    EXPECT_EQ(info.info, (Infos{"Crème", "ACME", "open", "Li Wei"}));
+}
+
+}  // namespace
+
+TEST(ReadersFormats, OdfTextGivesEveryMappedField)
+{
+    TempDir dir;
+    auto info = WriteAndRead(dir, "full.odt", FullSample());
+    ASSERT_NE(info, nullptr);
+    ExpectCommonFields(*info, dir, "full.odt");
+    EXPECT_EQ(info->modifiedBy, "José García");
+    EXPECT_EQ(info->comment, "Zahlen <geprüft> & freigegeben");
+    EXPECT_EQ(info->printedDate, Date(1, 12, 2020));
+    EXPECT_EQ(info->printedTime, Time(16, 17, 18));
+    EXPECT_EQ(info->printedBy, "Jörg Müller");
+    EXPECT_FALSE(info->NeverPrinted());
+}
+
+TEST(ReadersFormats, DocxGivesCoreAndCustomProperties)
+{
+    TempDir dir;
+    auto info = WriteAndRead(dir, "full.docx", FullSample());
+    ASSERT_NE(info, nullptr);
+    ExpectCommonFields(*info, dir, "full.docx");
+    EXPECT_EQ(info->modifiedBy, "José García");
+    EXPECT_EQ(info->comment, "Zahlen <geprüft> & freigegeben");
+    // Stored in UTC, shown in local time again.
+    EXPECT_EQ(info->printedDate, Date(1, 12, 2020));
+    EXPECT_EQ(info->printedTime, Time(16, 17, 18));
+    EXPECT_EQ(info->printedBy, "");  // OOXML does not record who printed
+}
+
+TEST(ReadersFormats, PdfGivesTheInfoDictionary)
+{
+    TempDir dir;
+    auto info = WriteAndRead(dir, "full.pdf", FullSample());
+    ASSERT_NE(info, nullptr);
+    ExpectCommonFields(*info, dir, "full.pdf");
+    EXPECT_EQ(info->modifiedBy, "");
+    EXPECT_EQ(info->comment, "");
+    // A PDF has no printed stamp, so it counts as never printed.
+    EXPECT_TRUE(info->NeverPrinted());
+    EXPECT_EQ(info->printedBy, "Zoë Martin");
+}
+
+TEST(ReadersFormats, NeverPrintedShowsCreatedStampAndAuthor)
+{
+    TempDir dir;
+    SampleDoc doc = FullSample();
+    doc.printed.reset();
+    doc.printedBy.clear();
+    for (const char* name : {"never.odt", "never.docx", "never.pdf"}) {
+        auto info = WriteAndRead(dir, name, doc);
+        ASSERT_NE(info, nullptr);
+        EXPECT_EQ(info->printedDate, Date(6, 5, 2019)) << name;
+        EXPECT_EQ(info->printedTime, Time(7, 8, 9)) << name;
+        EXPECT_EQ(info->printedBy, "Zoë Martin") << name;
+    }
+    // Without any stamp at all, the printed stamp stays unset like the created one.
+    dir.MakeFile("bare.odt", "");
+    WriteOdfMeta(dir.PathOf("bare.odt"), "<dc:title>Bare</dc:title>");
+    auto bare = ReadDocInfo(dir.PathOf("bare.odt"));
+    ASSERT_NE(bare, nullptr);
+    EXPECT_EQ(bare->createdDate, Date());
+    EXPECT_EQ(bare->printedDate, Date());
+    EXPECT_EQ(bare->printedTime, Time());
+    EXPECT_EQ(bare->printedBy, "");
+}
+
+TEST(ReadersFormats, ZonedStampsBecomeLocalTime)
+{
+    TempDir dir;
+    const QDateTime india(QDate(2021, 3, 4), QTime(5, 6, 7, 890), QTimeZone(5 * 3600 + 1800));
+    const QDateTime pacific(QDate(2021, 12, 31), QTime(23, 30, 0), QTimeZone(-8 * 3600));
+    const QDateTime utc(QDate(2022, 7, 1), QTime(0, 15, 0), QTimeZone::utc());
+
+    WriteOdfMeta(dir.PathOf("zones.odt"),
+                 "<meta:creation-date>2021-03-04T05:06:07.89+05:30</meta:creation-date>"
+                 "<dc:date>2021-12-31T23:30:00-08:00</dc:date>"
+                 "<meta:print-date>2022-07-01T00:15:00Z</meta:print-date>");
+    auto odf = ReadDocInfo(dir.PathOf("zones.odt"));
+    ASSERT_NE(odf, nullptr);
+    EXPECT_EQ(odf->createdDate, DateOf(india));
+    EXPECT_EQ(odf->createdTime, TimeOf(india));
+    EXPECT_EQ(odf->createdTime.Get100Sec(), 89u);
+    EXPECT_EQ(odf->modifiedDate, DateOf(pacific));
+    EXPECT_EQ(odf->modifiedTime, TimeOf(pacific));
+    EXPECT_EQ(odf->printedDate, DateOf(utc));
+    EXPECT_EQ(odf->printedTime, TimeOf(utc));
+
+    WriteOoxmlCore(dir.PathOf("zones.docx"),
+                   "<dcterms:created>2021-12-31T23:30:00-08:00</dcterms:created>"
+                   "<dcterms:modified>2022-07-01T00:15:00Z</dcterms:modified>");
+    auto ooxml = ReadDocInfo(dir.PathOf("zones.docx"));
+    ASSERT_NE(ooxml, nullptr);
+    EXPECT_EQ(ooxml->createdDate, DateOf(pacific));
+    EXPECT_EQ(ooxml->createdTime, TimeOf(pacific));
+    EXPECT_EQ(ooxml->modifiedDate, DateOf(utc));
+    EXPECT_EQ(ooxml->modifiedTime, TimeOf(utc));
+
+    // A stamp without zone is local already and kept as it stands.
+    WriteOdfMeta(dir.PathOf("local.odt"), "<meta:creation-date>1999-12-31T23:59:58</meta:creation-date>");
+    auto local = ReadDocInfo(dir.PathOf("local.odt"));
+    ASSERT_NE(local, nullptr);
+    EXPECT_EQ(local->createdDate, Date(31, 12, 1999));
+    EXPECT_EQ(local->createdTime, Time(23, 59, 58));
+}
+
+TEST(ReadersFormats, ContentDecidesWhetherAFileIsADocument)
+{
+    TempDir dir;
+    std::string error;
+    ASSERT_TRUE(WriteSamplePdf(dir.PathOf("pdf.bin"), FullSample(), error)) << error;
+    ASSERT_TRUE(WriteSampleOdt(dir.PathOf("odf-without-extension"), FullSample(), error)) << error;
+    ASSERT_TRUE(WriteSampleDocx(dir.PathOf("ooxml.odt"), FullSample(), error)) << error;
+    for (const char* name : {"pdf.bin", "odf-without-extension", "ooxml.odt"}) {
+        auto info = ReadDocInfo(dir.PathOf(name));
+        ASSERT_NE(info, nullptr) << name;
+        EXPECT_EQ(info->title, FullSample().title) << name;
+    }
+
+    dir.MakeFile("notes.txt", "Not a document.\n");
+    dir.MakeFile("empty", "");
+    WriteZip(dir.PathOf("archive.zip"), {{"readme.txt", "old files"}});
+    dir.MakeDir("folder.odt");
+    EXPECT_EQ(ReadDocInfo(dir.PathOf("notes.txt")), nullptr);
+    EXPECT_EQ(ReadDocInfo(dir.PathOf("empty")), nullptr);
+    EXPECT_EQ(ReadDocInfo(dir.PathOf("archive.zip")), nullptr);
+    EXPECT_EQ(ReadDocInfo(dir.PathOf("folder.odt")), nullptr);
+    EXPECT_EQ(ReadDocInfo(dir.PathOf("missing.pdf")), nullptr);
+}
+
+TEST(ReadersFormats, OoxmlPartsAreFoundThroughTheRelationships)
+{
+    TempDir dir;
+    const std::string rels =
+        "<Relationships xmlns=\"http://schemas.openxmlformats.org/package/2006/relationships\">"
+        "<Relationship Id=\"a\" Type=\"http://schemas.openxmlformats.org/package/2006/relationships/"
+        "metadata/core-properties\" Target=\"/meta/props.xml\"/>"
+        "<Relationship Id=\"b\" Type=\"http://schemas.openxmlformats.org/officeDocument/2006/relationships/"
+        "custom-properties\" Target=\"meta/user.xml\"/></Relationships>";
+    // Other prefixes than the usual ones, keywords per language, typed custom values.
+    const std::string core =
+        "<p:coreProperties xmlns:p=\"http://schemas.openxmlformats.org/package/2006/metadata/core-properties\" "
+        "xmlns:e=\"http://purl.org/dc/elements/1.1/\"><e:title>Moved</e:title>"
+        "<p:keywords><p:value xml:lang=\"en\">alpha</p:value><p:value xml:lang=\"de\">Äpfel</p:value></p:keywords>"
+        "<title>not in a namespace</title></p:coreProperties>";
+    const std::string custom =
+        "<Properties xmlns=\"http://schemas.openxmlformats.org/officeDocument/2006/custom-properties\" "
+        "xmlns:vt=\"http://schemas.openxmlformats.org/officeDocument/2006/docPropsVTypes\">"
+        "<property fmtid=\"x\" pid=\"2\" name=\"Count\"><vt:i4>42</vt:i4></property>"
+        "<property fmtid=\"x\" pid=\"3\" name=\"Done\"><vt:bool>true</vt:bool></property></Properties>";
+    WriteZip(dir.PathOf("moved.docx"), {{"[Content_Types].xml", "<Types/>"}, {"_rels/.rels", rels},
+                                        {"meta/props.xml", core}, {"meta/user.xml", custom},
+                                        {"docProps/core.xml", "<wrong/>"}});
+    auto info = ReadDocInfo(dir.PathOf("moved.docx"));
+    ASSERT_NE(info, nullptr);
+    EXPECT_EQ(info->title, "Moved");
+    EXPECT_EQ(info->keywords, "alpha, Äpfel");
+    EXPECT_EQ(info->info, (Infos{"42", "true", "", ""}));
+}
+
+TEST(ReadersFormats, OnlyTheFirstFourUserFieldsAreRead)
+{
+    TempDir dir;
+    std::string children;
+    for (int i = 1; i <= 6; ++i)
+        children += "<meta:user-defined meta:name=\"F" + std::to_string(i) + "\">v" + std::to_string(i)
+            + "</meta:user-defined>";
+    WriteOdfMeta(dir.PathOf("six.odt"), "<meta:keyword>one</meta:keyword>" + children
+                                            + "<meta:keyword>two</meta:keyword><meta:keyword></meta:keyword>");
+    auto info = ReadDocInfo(dir.PathOf("six.odt"));
+    ASSERT_NE(info, nullptr);
+    EXPECT_EQ(info->info, (Infos{"v1", "v2", "v3", "v4"}));
+    // Keywords are joined wherever they stand; empty ones are left out.
+    EXPECT_EQ(info->keywords, "one, two");
+}
+
+TEST(ReadersFormats, PdfFieldsComeInRecordedOrderThenByName)
+{
+    TempDir dir;
+    SampleDoc doc = FullSample();
+    doc.info = {{"Zulu", "z"}, {"Alpha", "a"}};
+    auto ordered = WriteAndRead(dir, "ordered.pdf", doc);
+    ASSERT_NE(ordered, nullptr);
+    EXPECT_EQ(ordered->info, (Infos{"z", "a", "", ""}));
+}

@@ -1,0 +1,244 @@
+// Writing the editable fields back and reading them again.
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+
+#include <gtest/gtest.h>
+
+#include "host/readers/docreader.h"
+#include "host/readers/docwriter.h"
+#include "host/readers/samplewriter.h"
+#include "host/readers/ziparchive.h"
+#include "tests/host/readers_fixtures.h"
+#include "tests/support/tempdir.h"
+
+using namespace readertest;
+
+namespace {
+
+using Infos = std::array<std::string, 4>;
+
+DocMeta EditedMeta()
+{
+    DocMeta meta;
+    meta.title = "Neuer Titel – überarbeitet";
+    meta.topic = "Planung";
+    meta.keywords = "eins, zwei, drei";
+    meta.comment = "Kommentar mit <Zeichen> & \"Anführung\"";
+    meta.info = {"Nordlicht", "", "done", "Zoë"};
+    meta.infoNames = {"Project", "Client", "Status", "Reviewer"};
+    return meta;
+}
+
+void ExpectEdited(const DocInfo& info, bool hasComment)
+{
+    const DocMeta meta = EditedMeta();
+    EXPECT_EQ(info.title, meta.title);
+    EXPECT_EQ(info.topic, meta.topic);
+    EXPECT_EQ(info.keywords, meta.keywords);
+    EXPECT_EQ(info.comment, hasComment ? meta.comment : "");
+    EXPECT_EQ(info.info, meta.info);
+}
+
+std::string Entry(const std::string& path, const std::string& name)
+{
+    ZipArchive zip;
+    std::string bytes;
+    EXPECT_TRUE(zip.Open(path, ZipArchive::Mode::Read));
+    EXPECT_EQ(zip.Read(name, kMaxXmlPart, bytes), ZipRead::Ok) << name;
+    return bytes;
+}
+
+// Files in the directory other than the expected ones: left-over temporary files.
+std::vector<std::string> StrayFiles(const TempDir& dir, const std::vector<std::string>& expected)
+{
+    std::vector<std::string> stray;
+    for (const auto& entry : std::filesystem::directory_iterator(dir.Path())) {
+        const std::string name = entry.path().filename().string();
+        if (std::find(expected.begin(), expected.end(), name) == expected.end())
+            stray.push_back(name);
+    }
+    return stray;
+}
+
+}  // namespace
+
+TEST(WriterRoundTrip, EachFormatReadsBackWhatWasWritten)
+{
+    TempDir dir;
+    for (const char* name : {"doc.odt", "doc.docx", "doc.pdf"}) {
+        SCOPED_TRACE(name);
+        const std::string path = dir.PathOf(name);
+        std::string error;
+        ASSERT_TRUE(WriteSample(path, FullSample(), error)) << error;
+        ::chmod(path.c_str(), 0640);
+        ASSERT_TRUE(WriteDocMeta(path, EditedMeta(), error)) << error;
+        EXPECT_EQ(error, "");
+        auto info = ReadDocInfo(path);
+        ASSERT_NE(info, nullptr);
+        ExpectEdited(*info, std::string(name) != "doc.pdf");
+        // Fields the writer does not touch stay as they were.
+        EXPECT_EQ(info->author, FullSample().author);
+        EXPECT_EQ(info->createdDate, Date(6, 5, 2019));
+        EXPECT_EQ(info->modifiedTime, Time(13, 14, 15));
+        struct stat st;
+        ASSERT_EQ(::stat(path.c_str(), &st), 0);
+        EXPECT_EQ(st.st_mode & 07777, 0640u);
+    }
+    EXPECT_EQ(StrayFiles(dir, {"doc.odt", "doc.docx", "doc.pdf"}), std::vector<std::string>{});
+}
+
+TEST(WriterRoundTrip, OtherPackageEntriesStayByteIdentical)
+{
+    TempDir dir;
+    const std::string path = dir.PathOf("keep.odt");
+    std::string error;
+    ASSERT_TRUE(WriteSampleOdt(path, FullSample(), error)) << error;
+    const std::vector<RawEntry> before = RawEntries(path);
+    ASSERT_TRUE(WriteDocMeta(path, EditedMeta(), error)) << error;
+    const std::vector<RawEntry> after = RawEntries(path);
+    ASSERT_EQ(after.size(), before.size());
+    // The mimetype entry stays first and stored, so the package type is still found by offset.
+    EXPECT_EQ(after[0].name, "mimetype");
+    EXPECT_EQ(after[0].method, 0);
+    EXPECT_EQ(dir.Read("keep.odt").substr(30, 8), "mimetype");
+    for (size_t i = 0; i < after.size(); ++i) {
+        SCOPED_TRACE(after[i].name);
+        EXPECT_EQ(after[i].name, before[i].name);
+        if (after[i].name == "meta.xml")
+            continue;
+        EXPECT_EQ(after[i].method, before[i].method);
+        EXPECT_EQ(after[i].crc, before[i].crc);
+        EXPECT_EQ(after[i].raw, before[i].raw);
+    }
+}
+
+TEST(WriterRoundTrip, UserFieldsGoFirstAndReplaceTheirNamesakes)
+{
+    TempDir dir;
+    const std::string path = dir.PathOf("fields.odt");
+    WriteOdfMeta(path, "<meta:generator>Kept</meta:generator>"
+                       "<meta:user-defined meta:name=\"Other\">stays</meta:user-defined>"
+                       "<meta:user-defined meta:name=\"Status\" meta:value-type=\"float\">1</meta:user-defined>"
+                       "<dc:title>Old</dc:title><dc:title>Duplicate</dc:title><meta:keyword>old</meta:keyword>");
+    std::string error;
+    DocMeta meta = EditedMeta();
+    meta.infoNames[1] = "";  // an unnamed field gets a name of its own
+    ASSERT_TRUE(WriteDocMeta(path, meta, error)) << error;
+    auto info = ReadDocInfo(path);
+    ASSERT_NE(info, nullptr);
+    EXPECT_EQ(info->info, meta.info);
+    EXPECT_EQ(info->title, meta.title);
+    EXPECT_EQ(info->keywords, meta.keywords);
+    const std::string xml = Entry(path, "meta.xml");
+    EXPECT_NE(xml.find("<meta:generator>Kept</meta:generator>"), std::string::npos);
+    EXPECT_NE(xml.find("meta:name=\"Info 2\""), std::string::npos);
+    EXPECT_NE(xml.find("meta:name=\"Other\">stays<"), std::string::npos);
+    EXPECT_EQ(xml.find("Duplicate"), std::string::npos);
+    EXPECT_EQ(xml.find("float"), std::string::npos);
+    // The remaining field follows the four written ones.
+    EXPECT_LT(xml.find("\"Reviewer\""), xml.find("\"Other\""));
+
+    // Empty values remove the fields; user fields are not added where there were none.
+    const std::string docx = dir.PathOf("plain.docx");
+    SampleDoc doc = FullSample();
+    doc.info.clear();
+    ASSERT_TRUE(WriteSampleDocx(docx, doc, error)) << error;
+    ASSERT_TRUE(WriteDocMeta(docx, DocMeta{}, error)) << error;
+    auto cleared = ReadDocInfo(docx);
+    ASSERT_NE(cleared, nullptr);
+    EXPECT_EQ(cleared->title, "");
+    EXPECT_EQ(cleared->keywords, "");
+    EXPECT_EQ(cleared->author, doc.author);
+    ZipArchive zip;
+    ASSERT_TRUE(zip.Open(docx, ZipArchive::Mode::Read));
+    EXPECT_FALSE(zip.Has("docProps/custom.xml"));
+}
+
+TEST(WriterRoundTrip, MissingPropertyPartsAreCreatedAndRegistered)
+{
+    TempDir dir;
+    std::string error;
+    // A DOCX without custom part gets one, with its content type and relationship.
+    const std::string docx = dir.PathOf("nocustom.docx");
+    SampleDoc doc = FullSample();
+    doc.info.clear();
+    ASSERT_TRUE(WriteSampleDocx(docx, doc, error)) << error;
+    ASSERT_TRUE(WriteDocMeta(docx, EditedMeta(), error)) << error;
+    EXPECT_NE(Entry(docx, "[Content_Types].xml").find("/docProps/custom.xml"), std::string::npos);
+    EXPECT_NE(Entry(docx, "_rels/.rels").find("custom-properties"), std::string::npos);
+    auto info = ReadDocInfo(docx);
+    ASSERT_NE(info, nullptr);
+    ExpectEdited(*info, true);
+
+    // An ODF package without meta.xml gets one, listed in its manifest.
+    const std::string odt = dir.PathOf("nometa.odt");
+    WriteZip(odt, {{"mimetype", "application/vnd.oasis.opendocument.text"},
+                   {"META-INF/manifest.xml",
+                    "<manifest:manifest xmlns:manifest=\"urn:oasis:names:tc:opendocument:xmlns:manifest:1.0\">"
+                    "<manifest:file-entry manifest:full-path=\"/\" manifest:media-type=\"x\"/></manifest:manifest>"},
+                   {"content.xml", "<c/>"}});
+    ASSERT_TRUE(WriteDocMeta(odt, EditedMeta(), error)) << error;
+    EXPECT_NE(Entry(odt, "META-INF/manifest.xml").find("manifest:full-path=\"meta.xml\""), std::string::npos);
+    info = ReadDocInfo(odt);
+    ASSERT_NE(info, nullptr);
+    ExpectEdited(*info, true);
+
+    // A PDF without Info dictionary gets one.
+    const std::string pdf = dir.PathOf("noinfo.pdf");
+    WritePdf(pdf, "<< >>");
+    ASSERT_TRUE(WriteDocMeta(pdf, EditedMeta(), error)) << error;
+    info = ReadDocInfo(pdf);
+    ASSERT_NE(info, nullptr);
+    ExpectEdited(*info, false);
+}
+
+TEST(WriterRoundTrip, RefusalsLeaveTheOriginalUntouched)
+{
+    TempDir dir;
+    std::string error;
+    ASSERT_TRUE(WriteSampleOdt(dir.PathOf("readonly.odt"), FullSample(), error)) << error;
+    ::chmod(dir.PathOf("readonly.odt").c_str(), 0444);
+    WritePdf(dir.PathOf("locked.pdf"), "<< /Title (Secret) >>", "user-password");
+    WritePdf(dir.PathOf("owner.pdf"), "<< /Title (Guarded) >>", "", "owner-password");
+    dir.MakeFile("locked.docx", std::string("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1", 8) + std::string(504, '\0'));
+    dir.MakeFile("notes.txt", "plain text");
+    dir.MakeFile("broken.pdf", "%PDF-1.4\nnothing else");
+    dir.MakeFile("broken.odt", "not a zip");
+    WriteOdfMeta(dir.PathOf("malformed.odt"), "<dc:title>x</dc:titel>");
+
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        {"readonly.odt", "read-only"}, {"locked.pdf", "encrypted"}, {"owner.pdf", "encrypted"},
+        {"locked.docx", "encrypted"},  {"notes.txt", "cannot be changed"}, {"broken.pdf", "damaged"},
+        {"broken.odt", "damaged"},     {"malformed.odt", "damaged"},  {"missing.odt", "does not exist"}};
+    std::vector<std::string> names;
+    for (const auto& [name, reason] : cases) {
+        SCOPED_TRACE(name);
+        const bool exists = dir.Exists(name);
+        const std::string before = exists ? dir.Read(name) : "";
+        EXPECT_FALSE(WriteDocMeta(dir.PathOf(name), EditedMeta(), error));
+        EXPECT_NE(error.find(reason), std::string::npos) << error;
+        if (exists) {
+            EXPECT_EQ(dir.Read(name), before);
+            names.push_back(name);
+        }
+    }
+    EXPECT_EQ(StrayFiles(dir, names), std::vector<std::string>{});
+}
+
+TEST(WriterRoundTrip, AReadOnlyFolderIsReported)
+{
+    if (::geteuid() == 0)
+        GTEST_SKIP() << "the superuser writes into read-only folders";
+    TempDir dir;
+    std::string error;
+    const std::string path = dir.PathOf("sub/doc.docx");
+    dir.MakeDir("sub");
+    ASSERT_TRUE(WriteSampleDocx(path, FullSample(), error)) << error;
+    const std::string before = testfs::ReadFile(path);
+    ::chmod(dir.PathOf("sub").c_str(), 0555);
+    EXPECT_FALSE(WriteDocMeta(path, EditedMeta(), error));
+    EXPECT_NE(error.find("read-only"), std::string::npos) << error;
+    EXPECT_EQ(testfs::ReadFile(path), before);
+}
