@@ -1,0 +1,137 @@
+// The filter dialog: what it shows of a group's filter, what OK writes back, and that
+// Cancel writes nothing.
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLineEdit>
+#include <QStackedWidget>
+#include <QTimeEdit>
+
+#include "docmgr/dialogs/docfilterdialog.h"
+#include "tests/support/managerfixture.h"
+
+class FilterDialogTest : public ManagerTest {
+protected:
+    void SetUp() override
+    {
+        WriteDefaultConfig();
+        Start();
+    }
+    template <class W>
+    static W* In(QDialog& dialog, const QString& name)
+    {
+        W* widget = dialog.findChild<W*>(name);
+        EXPECT_NE(widget, nullptr) << name.toStdString();
+        return widget;
+    }
+    static QWidget* ShownEntry(QDialog& dialog, int row)
+    {
+        return In<QStackedWidget>(dialog, "entryStack" + QString::number(row))->currentWidget();
+    }
+};
+
+TEST_F(FilterDialogTest, ShowsTheGroupsFilterWithTheFittingEntries)
+{
+    DocGroupConfig& group = Settings().WorkingGroup();
+    group.filterTitle = "*Plan*";
+    group.filterSensitive = true;
+    group.filterField = {5, 6, 3};  // created date, created time, title
+    group.filterCondition = {4, 0, 6};
+    group.filterDate[0] = 20240315;
+    group.filterTime[1] = uint32_t(Time(9, 30, 15).GetTime());
+    group.filterValue[2] = "Re*";
+    group.filterLink = {1, 7};  // any code but 0 and 1 means "or"
+
+    DocFilterDialog dialog(host.get(), &Settings(), WORKING_GROUP);
+    EXPECT_EQ(In<QLineEdit>(dialog, "titleEdit")->text(), "*Plan*");
+    EXPECT_TRUE(In<QCheckBox>(dialog, "sensitiveBox")->isChecked());
+    // Row 0 begins with "no condition": position = field id; rows 1 and 2: id - 1.
+    EXPECT_EQ(In<QComboBox>(dialog, "fieldList0")->currentIndex(), 5);
+    EXPECT_EQ(In<QComboBox>(dialog, "fieldList1")->currentIndex(), 5);
+    EXPECT_EQ(In<QComboBox>(dialog, "fieldList2")->currentIndex(), 2);
+    EXPECT_EQ(In<QComboBox>(dialog, "fieldList0")->count(), 21);
+    EXPECT_EQ(In<QComboBox>(dialog, "fieldList1")->count(), 20);
+    EXPECT_EQ(In<QComboBox>(dialog, "conditionList0")->currentIndex(), 4);
+    EXPECT_EQ(In<QComboBox>(dialog, "linkList0")->currentIndex(), 1);
+    EXPECT_EQ(In<QComboBox>(dialog, "linkList1")->currentIndex(), 2);
+
+    EXPECT_EQ(ShownEntry(dialog, 0), In<QDateEdit>(dialog, "dateEdit0"));
+    EXPECT_EQ(In<QDateEdit>(dialog, "dateEdit0")->date(), QDate(2024, 3, 15));
+    EXPECT_EQ(ShownEntry(dialog, 1), In<QTimeEdit>(dialog, "timeEdit1"));
+    EXPECT_EQ(In<QTimeEdit>(dialog, "timeEdit1")->time(), QTime(9, 30, 15));
+    EXPECT_EQ(ShownEntry(dialog, 2), In<QLineEdit>(dialog, "valueEdit2"));
+
+    // A pattern is typed as text even for a date; a title compares with text.
+    In<QComboBox>(dialog, "conditionList0")->setCurrentIndex(6);
+    EXPECT_EQ(ShownEntry(dialog, 0), In<QLineEdit>(dialog, "valueEdit0"));
+    In<QComboBox>(dialog, "fieldList1")->setCurrentIndex(2);
+    EXPECT_EQ(ShownEntry(dialog, 1), In<QLineEdit>(dialog, "valueEdit1"));
+
+    // Rows after an end link are not in use.
+    In<QComboBox>(dialog, "linkList0")->setCurrentIndex(0);
+    EXPECT_FALSE(In<QComboBox>(dialog, "fieldList1")->isEnabled());
+    EXPECT_FALSE(In<QComboBox>(dialog, "fieldList2")->isEnabled());
+    In<QComboBox>(dialog, "fieldList0")->setCurrentIndex(0);
+    EXPECT_FALSE(In<QComboBox>(dialog, "conditionList0")->isEnabled());
+}
+
+TEST_F(FilterDialogTest, OkWritesTheEditsAndKeepsWhatWasNotTouched)
+{
+    DocGroupConfig& group = Settings().Group(0);
+    group.filterLink = {5, 0};
+    group.filterField = {65535, 20, 1};
+    group.filterDate = {0, 0, 0};
+
+    DocFilterDialog dialog(host.get(), &Settings(), 0);  // user group 0
+    In<QLineEdit>(dialog, "authorEdit")->setText("Ann*");
+    In<QLineEdit>(dialog, "filesEdit")->setText("*.odt;*.pdf");
+    In<QComboBox>(dialog, "fieldList0")->setCurrentIndex(11);  // printed date
+    In<QComboBox>(dialog, "conditionList0")->setCurrentIndex(3);
+    In<QDateEdit>(dialog, "dateEdit0")->setDate(QDate(2001, 2, 3));
+    In<QComboBox>(dialog, "fieldList2")->setCurrentIndex(0);   // file name
+    In<QLineEdit>(dialog, "valueEdit2")->setText("x");
+    In<QPushButton>(dialog, "okButton")->click();
+
+    EXPECT_EQ(dialog.result(), 1);
+    EXPECT_EQ(group.filterAuthor, "Ann*");
+    EXPECT_EQ(group.filterFiles, "*.odt;*.pdf");
+    EXPECT_EQ(group.filterField[0], 11);
+    EXPECT_EQ(group.filterCondition[0], 3);
+    EXPECT_EQ(group.filterDate[0], 20010203u);
+    EXPECT_EQ(group.filterField[1], 20);  // the directory entry stays id 20
+    EXPECT_EQ(group.filterField[2], 1);
+    EXPECT_EQ(group.filterValue[2], "x");
+    EXPECT_EQ(group.filterDate[1], 0u);   // the unset dates nobody touched
+    EXPECT_EQ(group.filterLink[0], 5);    // shown as "or", left as it was
+    EXPECT_EQ(Settings().WorkingGroup().filterAuthor, "");  // another group
+}
+
+TEST_F(FilterDialogTest, CancelWritesNothing)
+{
+    DocFilterDialog dialog(host.get(), &Settings(), WORKING_GROUP);
+    In<QLineEdit>(dialog, "titleEdit")->setText("changed");
+    In<QComboBox>(dialog, "fieldList0")->setCurrentIndex(3);
+    In<QPushButton>(dialog, "cancelButton")->click();
+    EXPECT_EQ(dialog.result(), 0);
+    EXPECT_EQ(Settings().WorkingGroup().filterTitle, "");
+    EXPECT_EQ(Settings().WorkingGroup().filterField[0], NO_COLUMN);
+}
+
+TEST_F(FilterDialogTest, AConfirmedFilterMarksTheSettingsAndCollectsAgain)
+{
+    dir.MakeFile("docs/plan.odt", "x");
+    dir.MakeFile("docs/other.odt", "x");
+    host->CollectFiles();
+    ASSERT_EQ(Browser().GetRowCount(), 2);
+    OnNextModal([](QDialog& dialog) {
+        dialog.findChild<QLineEdit*>("titleEdit")->setText("plan*");
+        dialog.findChild<QPushButton*>("okButton")->click();
+    });
+    host->FilterHdl();
+    EXPECT_TRUE(host->IsChanged());
+    EXPECT_EQ(RowNames(), std::vector<std::string>{"plan.odt"});
+
+    OnNextModal([](QDialog& dialog) { dialog.findChild<QPushButton*>("cancelButton")->click(); });
+    host->FilterHdl();
+    EXPECT_EQ(Browser().GetRowCount(), 1);
+}
