@@ -9,12 +9,12 @@ constexpr ResEntry kTexts[] = {
     // Paths dialog.
     {D, 15701, 0, "Directories of the Group", "Verzeichnisse der Gruppe"},
     {D, 15701, 20, "&Chosen directories:", "&Gewählte Verzeichnisse:"},
-    {D, 15701, 22, "&Directories:", "&Verzeichnisse:"},
+    {D, 15701, 22, "All &directories:", "&Alle Verzeichnisse:"},
     {D, 15701, 26, "&Remove", "&Entfernen"},
     {D, 15701, 226, "&Include subdirectories", "&Unterverzeichnisse einbeziehen"},  // check box 26
-    {D, 15701, 27, "Directories", "Verzeichnisse"},
+    {D, 15701, 27, "Where the group's documents are", "Wo die Dokumente der Gruppe liegen"},
     {D, 15701, 32, "&Add >>", "&Hinzufügen >>"},
-    {D, 15701, 33, "Remove a&ll", "&Alle entfernen"},
+    {D, 15701, 33, "Remove a&ll", "A&lle entfernen"},
     {D, 15701, 18, "OK", "OK"},
     {D, 15701, 19, "Cancel", "Abbrechen"},
     // Sort dialog.

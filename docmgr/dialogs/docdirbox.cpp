@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "docmgr/config/impldocconfig.h"
+#include "docmgr/dialogs/docdirdelegate.h"
 #include "docmgr/dialogs/waitcursor.h"
 #include "docmgr/tools/fsutil.h"
 #include "docmgr/tools/textcase.h"
@@ -93,6 +94,7 @@ DocDirBox::DocDirBox(QWidget* parent, const ImplDocConfig* config)
     setObjectName(QStringLiteral("dirTree"));
     setSelectionMode(QAbstractItemView::SingleSelection);
     setUniformItemSizes(true);  // large directories lay out without measuring each line
+    setItemDelegate(new DocDirDelegate(this));
     connect(this, &QListWidget::currentRowChanged, this,
             [this](int) { emit DirSelected(GetSelectedPos()); });
     connect(this, &QListWidget::itemDoubleClicked, this, [this](QListWidgetItem*) { DoubleClick(); });

@@ -78,6 +78,8 @@ DocGroupsDialog::DocGroupsDialog(DocManager* parent)
         action->setData(item);
     }
     settingsButton_->setMenu(settingsMenu_);
+    // Room for the menu arrow beside the text.
+    settingsButton_->setMinimumWidth(settingsButton_->sizeHint().width() + 12);
     moreButton_ = Named(new QPushButton(this), "moreButton");
     moreButton_->setCheckable(true);
     newButton_ = Named(new QPushButton(DialogText(kDialog, 20), this), "newButton");
