@@ -48,7 +48,7 @@ DocCopyDialog::DocCopyDialog(DocManager* parent) : QDialog(parent), d(std::make_
     d->folderButton->setObjectName(QStringLiteral("folderButton"));
     d->moveBox->setObjectName(QStringLiteral("moveBox"));
     d->caption->setBuddy(d->tree);
-    d->tree->setMinimumSize(d->tree->fontMetrics().averageCharWidth() * 45,
+    d->tree->setMinimumSize(d->tree->fontMetrics().averageCharWidth() * 55,
                             d->tree->fontMetrics().height() * 16);
     d->okButton->setDefault(true);
 

@@ -17,6 +17,8 @@ uint16_t Characters(const std::string& text)
 DocListPrinter::DocListPrinter(const DocBrowser& browser, QPrinter& printer)
     : browser_(browser), printer_(printer)
 {
+    // The table starts at the top left corner of the sheet; no margin of any kind.
+    printer_.setFullPage(true);
 }
 
 DocListPrinter::~DocListPrinter()
@@ -28,8 +30,7 @@ bool DocListPrinter::StartJob(const QString& name)
 {
     EndJob();
     printer_.setDocName(name);
-    // The table starts at the top left corner of the sheet; no margin of any kind.
-    printer_.setFullPage(true);
+    printer_.setFullPage(true);  // whatever the set-up dialog made of it
     auto painter = std::make_unique<QPainter>();
     if (!painter->begin(&printer_))
         return false;

@@ -59,10 +59,11 @@ DocPrintDialog::DocPrintDialog(QWidget* parent, DocBrowser& browser)
     d->columnLabel->setBuddy(d->columnList);
     d->columnList->setSelectionMode(QAbstractItemView::MultiSelection);
     d->okButton->setDefault(true);
-    // The widths are counted in characters, so a font whose characters are all equally
-    // wide keeps the columns from running into each other.
-    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    font.setPointSize(9);
+    // Columns are as wide as their longest text counted in letters "X", with no gap
+    // between them. In a font whose letters are narrower than "X" on average the longest
+    // texts still leave room before the next column; a fixed font would run them together.
+    QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+    font.setPointSize(10);
     d->listPrinter.SetFont(font);
 
     for (unsigned short pos = 0; pos < browser.ColCount(); ++pos) {
