@@ -1,0 +1,28 @@
+#include "host/app/hostmanager.h"
+
+#include <QMessageBox>
+
+#include "docmgr/config/impldocconfig.h"
+#include "host/app/docpropertiesdialog.h"
+#include "host/readers/docreader.h"
+
+std::unique_ptr<DocInfo> HostManager::CreateDocInfo(const std::string& file)
+{
+    return ReadDocInfo(file);
+}
+
+bool HostManager::ChangeDocInfo(QWidget* parent, const std::string& file)
+{
+    std::array<std::string, 4> captions;
+    if (const ImplDocConfig* settings = GetSettings())
+        captions = settings->WorkingGroup().infoLabel;
+    DocPropertiesDialog dialog(parent, file, captions);
+    if (!dialog.IsLoaded()) {
+        QMessageBox::warning(parent, dialog.windowTitle(),
+                             tr("The document information of \"%1\" cannot be changed: "
+                                "this program cannot read it as a document.")
+                                 .arg(QString::fromStdString(file)));
+        return false;
+    }
+    return dialog.exec() == QDialog::Accepted;
+}

@@ -1,0 +1,55 @@
+// docmanager: the document manager window, or with --list / --export-config the same
+// listing and configuration for scripts, without a display.
+#include <QCoreApplication>
+#include <exception>
+#include <iostream>
+
+#include "host/app/windowmode.h"
+#include "host/cli/commandline.h"
+#include "host/cli/headless.h"
+
+namespace {
+
+int RunHeadlessMode(int& argc, char** argv, const CommandLine& cmd)
+{
+    QCoreApplication app(argc, argv);
+    const HeadlessResult result = RunHeadless(cmd);
+    std::cerr << result.err;
+    if (result.status == 0)
+        std::cout << result.out;
+    std::cout.flush();
+    if (!std::cout) {
+        std::cerr << "docmanager: the output could not be written\n";
+        return 1;
+    }
+    return result.status;
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    const std::vector<std::string> args(argv + 1, argv + argc);
+    CommandLine cmd;
+    std::string error;
+    if (!ParseCommandLine(args, cmd, error)) {
+        std::cerr << "docmanager: " << error << "\n\n" << UsageText();
+        return 2;
+    }
+    try {
+        switch (cmd.mode) {
+        case RunMode::Help:
+            std::cout << UsageText();
+            return 0;
+        case RunMode::List:
+        case RunMode::ExportConfig:
+            return RunHeadlessMode(argc, argv, cmd);
+        case RunMode::Window:
+            break;
+        }
+        return RunWindow(argc, argv, cmd);
+    } catch (const std::exception& e) {
+        std::cerr << "docmanager: " << e.what() << '\n';
+        return 1;
+    }
+}

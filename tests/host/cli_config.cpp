@@ -1,0 +1,117 @@
+// docmanager --list and --export-config on the user's configuration: groups, a new or
+// empty configuration, where it lives.
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+
+#include "tests/host/cli_fixture.h"
+
+namespace clitest {
+namespace {
+
+using CliConfigTest = CliTest;
+
+TEST_F(CliConfigTest, GroupOptionChoosesANamedGroup)
+{
+    WriteDoc("first/1.odt", "In first", "A", 1);
+    WriteDoc("second/2.odt", "In second", "A", 2);
+    const std::string config = WriteConfig(ConfigText(
+        {{.name = "First", .paths = dir.PathOf("first"), .columns = {3}},
+         {.name = "Second Group", .paths = dir.PathOf("second"), .columns = {3}}}));
+
+    EXPECT_EQ(List(config, {"--format", "tsv"}).out, "Title\nIn first\n");
+    const RunResult second = List(config, {"--format", "tsv", "--group", "Second Group"});
+    EXPECT_EQ(second.status, 0) << second.err;
+    EXPECT_EQ(second.out, "Title\nIn second\n");
+
+    // Names match exactly; an unknown one is a usage error naming the known groups.
+    const RunResult unknown = List(config, {"--group", "second group"});
+    EXPECT_EQ(unknown.status, 2);
+    EXPECT_EQ(unknown.out, "");
+    EXPECT_NE(unknown.err.find("second group"), std::string::npos) << unknown.err;
+    EXPECT_NE(unknown.err.find("\"First\""), std::string::npos) << unknown.err;
+    EXPECT_NE(unknown.err.find("\"Second Group\""), std::string::npos) << unknown.err;
+
+    // Listing leaves the configuration as it was.
+    EXPECT_EQ(dir.Read("docmanager.cfg"), ConfigText(
+        {{.name = "First", .paths = dir.PathOf("first"), .columns = {3}},
+         {.name = "Second Group", .paths = dir.PathOf("second"), .columns = {3}}}));
+}
+
+TEST_F(CliConfigTest, AnEmptyConfigurationGetsItsFirstGroup)
+{
+    WriteDoc("lib/a.docx", "Alpha", "A", 1);
+    const std::string config = WriteConfig("");
+    const RunResult run = List(config, {"--format", "tsv", "--columns", "3",
+                                        QString::fromStdString(dir.PathOf("lib"))});
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(run.out, "Title\nAlpha\n");
+    EXPECT_NE(run.err.find("No document manager settings were found"), std::string::npos)
+        << run.err;
+    const std::string saved = dir.Read("docmanager.cfg");
+    EXPECT_NE(saved.find("[GROUPS]\n0=Standard\n"), std::string::npos) << saved;
+    EXPECT_NE(saved.find("FILLTERCONDITION0="), std::string::npos);
+
+    // The next run finds the group and says nothing.
+    const RunResult again = List(config, {"--group", "Standard", "--columns", "3",
+                                          QString::fromStdString(dir.PathOf("lib"))});
+    EXPECT_EQ(again.status, 0);
+    EXPECT_EQ(again.err, "");
+    EXPECT_EQ(again.out, "Title\nAlpha\n");
+}
+
+TEST_F(CliConfigTest, DefaultConfigurationIsMadeUnderTheUsersConfigDirectory)
+{
+    ASSERT_FALSE(dir.Exists("xdg"));
+    const RunResult run = RunDocmanager({"--list", QString::fromStdString(dir.Path())}, ConfigHome());
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_TRUE(dir.Exists("xdg/docmanager/docmanager.cfg"));
+    EXPECT_NE(dir.Read("xdg/docmanager/docmanager.cfg").find("GROUPNAME=Standard"),
+              std::string::npos);
+
+    // --config with a missing folder: the folder is made too.
+    const std::string nested = dir.PathOf("a/b/c.cfg");
+    const RunResult exported = RunDocmanager({"--export-config", "--config",
+                                              QString::fromStdString(nested)}, ConfigHome());
+    EXPECT_EQ(exported.status, 0) << exported.err;
+    EXPECT_TRUE(dir.Exists("a/b/c.cfg"));
+}
+
+TEST_F(CliConfigTest, ExportConfigPrintsTheOneLineImage)
+{
+    const std::string config = WriteConfig(ConfigText(
+        {{.name = "Reports", .section = "Work", .paths = "/data/reports/**", .guis = "1"}},
+        0));
+    const RunResult run = RunDocmanager({"--export-config", "--config",
+                                         QString::fromStdString(config)}, ConfigHome());
+    ASSERT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(run.out.rfind("@DocManager[2.1][F][0][2][", 0), 0u) << run.out;
+    EXPECT_EQ(run.out.substr(run.out.size() - 3), "}!\n");
+    EXPECT_NE(run.out.find("[Reports;Work;"), std::string::npos) << run.out;
+    EXPECT_NE(run.out.find("[/data/reports/**][1]}"), std::string::npos) << run.out;
+    EXPECT_EQ(std::count(run.out.begin(), run.out.end(), '\n'), 1);
+}
+
+TEST_F(CliConfigTest, AConfigurationThatCannotBeReadIsLeftAlone)
+{
+    dir.MakeDir("a-directory.cfg");
+    RunResult run = List(dir.PathOf("a-directory.cfg"), {});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.out, "");
+    EXPECT_NE(run.err.find("a-directory.cfg"), std::string::npos) << run.err;
+
+    const std::string config = WriteConfig(ConfigText({{.name = "Kept"}}), "locked.cfg");
+    chmod(config.c_str(), 0);
+    if (access(config.c_str(), R_OK) == 0)
+        GTEST_SKIP() << "running with rights that read any file";
+    run = RunDocmanager({"--export-config", "--config", QString::fromStdString(config)},
+                        ConfigHome());
+    chmod(config.c_str(), 0644);
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.out, "");
+    EXPECT_EQ(dir.Read("locked.cfg"), ConfigText({{.name = "Kept"}}));
+}
+
+}  // namespace
+}  // namespace clitest

@@ -1,0 +1,124 @@
+#include "tests/host/cli_fixture.h"
+
+#include <QDateTime>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <cstdlib>
+
+#include "docmgr/tools/tokens.h"
+#include "host/readers/samplewriter.h"
+
+namespace clitest {
+
+std::string BinaryPath(const std::string& name)
+{
+    const char* dir = std::getenv("DOCMGR_BIN_DIR");
+    return std::string(dir && *dir ? dir : ".") + "/" + name;
+}
+
+RunResult RunDocmanager(const QStringList& args, const std::string& configHome)
+{
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.remove(QStringLiteral("DISPLAY"));
+    env.remove(QStringLiteral("WAYLAND_DISPLAY"));
+    env.remove(QStringLiteral("QT_QPA_PLATFORM"));
+    if (!configHome.empty())
+        env.insert(QStringLiteral("XDG_CONFIG_HOME"), QString::fromStdString(configHome));
+
+    QProcess process;
+    process.setProcessEnvironment(env);
+    process.start(QString::fromStdString(BinaryPath("docmanager")), args);
+    RunResult result;
+    if (!process.waitForStarted(30000)) {
+        ADD_FAILURE() << "docmanager could not be started from " << BinaryPath("docmanager");
+        return result;
+    }
+    if (!process.waitForFinished(120000)) {
+        process.kill();
+        process.waitForFinished();
+        ADD_FAILURE() << "docmanager did not finish";
+        return result;
+    }
+    result.out = process.readAllStandardOutput().toStdString();
+    result.err = process.readAllStandardError().toStdString();
+    result.status = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    return result;
+}
+
+std::string ConfigText(const std::vector<GroupSpec>& groups, int actualGroup)
+{
+    std::string text = "[GENERAL]\nVIEWMODE=MULTI\nACTUALGROUP=" + std::to_string(actualGroup)
+        + "\n[GROUPS]\n";
+    for (size_t g = 0; g < groups.size(); ++g)
+        text += std::to_string(g) + "=" + groups[g].name + "\n";
+    for (size_t g = 0; g < groups.size(); ++g) {
+        const GroupSpec& spec = groups[g];
+        text += "[" + std::to_string(g) + "]\n";
+        text += "GROUPNAME=" + spec.name + "\nSECTION=" + spec.section + "\n";
+        text += "FILTERTITLE=" + spec.filterTitle + "\nFILTERTOPIC=\nFILTERAUTHOR=\n";
+        text += "FILTERKEYWORDS=\nFILTERFILES=" + spec.filterFiles + "\nFILTERSENSITIVE=FALSE\n";
+        text += "FILTERFIELD0=65535\nFILLTERCONDITION0=0\nFILTERLINK0=0\n";
+        text += "SORTCOLUMNID=" + std::to_string(spec.sortColumn) + "\n";
+        text += std::string("SORTORDER=") + (spec.ascending ? "UP" : "DOWN") + "\n";
+        for (size_t slot = 0; slot < 20; ++slot) {
+            const uint16_t id = slot < spec.columns.size() ? spec.columns[slot]
+                                : spec.columns.empty()     ? uint16_t(slot + 1)
+                                                           : 0;
+            text += "COLUMNID" + std::to_string(slot) + "=" + std::to_string(id) + "\n";
+            text += "COLUMNWIDTH" + std::to_string(slot) + "=65535\n";
+        }
+        text += "FROZENCOLUMNS=1\nINFO0=Project\nINFO1=Client\nINFO2=Status\nINFO3=Ref\n";
+        text += "PATHS=" + spec.paths + "\nGUIS=" + spec.guis + "\n";
+    }
+    return text;
+}
+
+std::vector<std::string> Lines(const std::string& text)
+{
+    std::vector<std::string> lines = tokens::Split(text, '\n');
+    if (!lines.empty() && lines.back().empty())
+        lines.pop_back();
+    return lines;
+}
+
+std::vector<std::vector<std::string>> TsvRows(const std::string& text)
+{
+    std::vector<std::vector<std::string>> rows;
+    for (const std::string& line : Lines(text))
+        rows.push_back(tokens::Split(line, '\t'));
+    return rows;
+}
+
+std::string CliTest::WriteDoc(const std::string& relative, const std::string& title,
+                              const std::string& author, int day)
+{
+    SampleDoc doc;
+    doc.title = title;
+    doc.author = author;
+    doc.modifiedBy = author;
+    doc.created = QDateTime(QDate(2021, 3, day), QTime(9, 30, 0));
+    doc.modified = QDateTime(QDate(2021, 3, day), QTime(17, 45, 10));
+    doc.body = "Some text.";
+    const std::string path = dir.PathOf(relative);
+    if (const size_t slash = relative.rfind('/'); slash != std::string::npos)
+        dir.MakeDir(relative.substr(0, slash));
+    std::string error;
+    EXPECT_TRUE(WriteSample(path, doc, error)) << error;
+    testfs::SetMTime(path, 1600000000 + day * 100);
+    return path;
+}
+
+std::string CliTest::WriteConfig(const std::string& text, const std::string& relative)
+{
+    return dir.MakeFile(relative, text);
+}
+
+RunResult CliTest::List(const std::string& config, const QStringList& args)
+{
+    QStringList all{QStringLiteral("--list"), QStringLiteral("--config"),
+                    QString::fromStdString(config)};
+    all += args;
+    return RunDocmanager(all, ConfigHome());
+}
+
+}  // namespace clitest

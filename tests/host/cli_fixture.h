@@ -1,0 +1,64 @@
+#pragma once
+// Driving the docmanager binary as a user would: real sample documents, real
+// configuration files, a private configuration home, no display.
+#include <QStringList>
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "tests/support/tempdir.h"
+
+namespace clitest {
+
+struct RunResult {
+    int status = -1;
+    std::string out;
+    std::string err;
+};
+
+// Path of a program built next to docmanager ($DOCMGR_BIN_DIR).
+std::string BinaryPath(const std::string& name);
+
+// Runs docmanager with `args`; DISPLAY, WAYLAND_DISPLAY and QT_QPA_PLATFORM are removed
+// from its environment and XDG_CONFIG_HOME is `configHome` (when not empty).
+RunResult RunDocmanager(const QStringList& args, const std::string& configHome);
+
+// A group section with every key written, so that nothing falls back to empty values.
+struct GroupSpec {
+    std::string name;
+    std::string section = "Tests";
+    std::string paths;
+    std::string guis = "1";
+    std::string filterTitle;
+    std::string filterFiles = "*.odt;*.docx;*.pdf";
+    uint16_t sortColumn = 65535;
+    bool ascending = true;
+    std::vector<uint16_t> columns;  // empty: 1..20
+};
+
+// A whole configuration file: GENERAL (ACTUALGROUP as given), GROUPS and the sections.
+std::string ConfigText(const std::vector<GroupSpec>& groups, int actualGroup = 1);
+
+// The lines of `text`, each split at tabs.
+std::vector<std::vector<std::string>> TsvRows(const std::string& text);
+std::vector<std::string> Lines(const std::string& text);
+
+class CliTest : public ::testing::Test {
+protected:
+    // A document written by the sample writer (format by extension) with this title and
+    // author, created and modified on 2021-03-`day`, its file time set in the past so that
+    // an index written now is younger than it.
+    std::string WriteDoc(const std::string& relative, const std::string& title,
+                         const std::string& author = "Ann Author", int day = 1);
+    // Writes `text` as the configuration file `relative`; returns its path.
+    std::string WriteConfig(const std::string& text, const std::string& relative = "docmanager.cfg");
+    // docmanager --list --config CONFIG ARGS...
+    RunResult List(const std::string& config, const QStringList& args);
+    std::string ConfigHome() const { return dir.PathOf("xdg"); }
+
+    TempDir dir;
+};
+
+}  // namespace clitest

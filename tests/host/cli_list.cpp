@@ -1,0 +1,211 @@
+// docmanager --list: the three output formats, sorting, filtering and which paths are read.
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <filesystem>
+
+#include "tests/host/cli_fixture.h"
+
+namespace clitest {
+namespace {
+
+class CliListTest : public CliTest {
+protected:
+    // b.docx "Alpha memo", a.odt "Beta plan", c.pdf "Gamma", and a file that is no document.
+    void MakeLibrary()
+    {
+        WriteDoc("lib/a.odt", "Beta plan", "Ann Author", 3);
+        WriteDoc("lib/b.docx", "Alpha memo", "Bob Builder", 2);
+        WriteDoc("lib/c.pdf", "Gamma", "Zoë Ünal", 1);
+        dir.MakeFile("lib/notes.txt", "not a document");
+    }
+    std::string Lib() const { return dir.PathOf("lib"); }
+};
+
+TEST_F(CliListTest, TsvTextAndJsonShowTheSameSortedRows)
+{
+    MakeLibrary();
+    GroupSpec group{.name = "Lib", .paths = Lib(), .sortColumn = 3, .columns = {1, 3, 7}};
+    const std::string config = WriteConfig(ConfigText({group}));
+
+    const RunResult tsv = List(config, {"--format", "tsv"});
+    ASSERT_EQ(tsv.status, 0) << tsv.err;
+    const auto rows = TsvRows(tsv.out);
+    ASSERT_EQ(rows.size(), 4u) << tsv.out;
+    EXPECT_EQ(rows[0], (std::vector<std::string>{"File name", "Title", "Author"}));
+    EXPECT_EQ(rows[1], (std::vector<std::string>{"b.docx", "Alpha memo", "Bob Builder"}));
+    EXPECT_EQ(rows[2], (std::vector<std::string>{"a.odt", "Beta plan", "Ann Author"}));
+    EXPECT_EQ(rows[3], (std::vector<std::string>{"c.pdf", "Gamma", "Zoë Ünal"}));
+
+    // Text: the same cells, each column starting at the same character on every line.
+    const RunResult text = List(config, {"--format", "text"});
+    ASSERT_EQ(text.status, 0) << text.err;
+    const auto lines = Lines(text.out);
+    ASSERT_EQ(lines.size(), 4u) << text.out;
+    const auto column = [](const std::string& line, const std::string& cell) -> size_t {
+        const size_t bytes = line.find(cell);
+        if (bytes == std::string::npos)
+            return std::string::npos;
+        return size_t(QString::fromStdString(line.substr(0, bytes)).size());
+    };
+    EXPECT_EQ(column(lines[0], "File name"), 0u);
+    for (size_t i = 1; i < lines.size(); ++i) {
+        EXPECT_EQ(column(lines[i], rows[i][1]), column(lines[0], "Title")) << lines[i];
+        EXPECT_EQ(column(lines[i], rows[i][2]), column(lines[0], "Author")) << lines[i];
+    }
+    EXPECT_EQ(lines[3].substr(lines[3].size() - std::string("Zoë Ünal").size()), "Zoë Ünal");
+
+    // JSON: raw values in list order.
+    const RunResult json = List(config, {"--format", "json"});
+    ASSERT_EQ(json.status, 0) << json.err;
+    QJsonParseError error{};
+    const QJsonDocument doc = QJsonDocument::fromJson(QByteArray::fromStdString(json.out), &error);
+    ASSERT_EQ(error.error, QJsonParseError::NoError) << json.out;
+    const QJsonArray array = doc.array();
+    ASSERT_EQ(array.size(), 3);
+    const QJsonObject first = array[0].toObject();
+    EXPECT_EQ(first["path"].toString().toStdString(), dir.PathOf("lib/b.docx"));
+    EXPECT_EQ(first["name"].toString(), "b.docx");
+    EXPECT_EQ(first["directory"].toString().toStdString(), Lib());
+    EXPECT_EQ(first["size"].toInteger(), qint64(dir.Size("lib/b.docx")));
+    EXPECT_EQ(first["title"].toString(), "Alpha memo");
+    EXPECT_EQ(first["author"].toString(), "Bob Builder");
+    EXPECT_EQ(first["created"].toString(), "2021-03-02T09:30:00");
+    EXPECT_EQ(first["modified"].toString(), "2021-03-02T17:45:10");
+    // Never printed: the printed stamp is the created one.
+    EXPECT_EQ(first["printed"].toString(), "2021-03-02T09:30:00");
+    EXPECT_EQ(first["info"].toArray().size(), 4);
+    for (const char* key : {"topic", "modifiedBy", "printedBy", "comment", "keywords"})
+        EXPECT_TRUE(first[key].isString()) << key;
+    EXPECT_EQ(array[2].toObject()["author"].toString(), QString::fromUtf8("Zoë Ünal"));
+}
+
+TEST_F(CliListTest, SortsByTheGroupsColumnAndDirection)
+{
+    WriteDoc("lib/1.odt", "apple", "A", 5);
+    WriteDoc("lib/2.odt", "Zebra", "A", 1);
+    WriteDoc("lib/3.odt", "Mango", "A", 9);
+    const auto titles = [this](const GroupSpec& group) {
+        const RunResult run = List(WriteConfig(ConfigText({group})), {"--format", "tsv"});
+        EXPECT_EQ(run.status, 0) << run.err;
+        std::vector<std::string> result;
+        for (const auto& row : TsvRows(run.out))
+            result.push_back(row.at(0));
+        return result;
+    };
+    GroupSpec group{.name = "Lib", .paths = Lib(), .sortColumn = 3, .columns = {3}};
+    // Byte-wise: upper case before lower case.
+    EXPECT_EQ(titles(group), (std::vector<std::string>{"Title", "Mango", "Zebra", "apple"}));
+    group.ascending = false;
+    EXPECT_EQ(titles(group), (std::vector<std::string>{"Title", "apple", "Zebra", "Mango"}));
+    group.sortColumn = 8;  // modified date, newest first
+    EXPECT_EQ(titles(group), (std::vector<std::string>{"Title", "Mango", "apple", "Zebra"}));
+}
+
+TEST_F(CliListTest, TheGroupsFilterDropsRows)
+{
+    WriteDoc("lib/1.odt", "Project PLAN 2021", "A", 1);
+    WriteDoc("lib/2.docx", "Budget", "A", 2);
+    WriteDoc("lib/3.pdf", "plan", "A", 3);
+    GroupSpec group{.name = "Plans", .paths = Lib(), .filterTitle = "*plan*", .sortColumn = 3,
+                    .columns = {3}};
+    const RunResult run = List(WriteConfig(ConfigText({group})), {"--format", "tsv"});
+    ASSERT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(run.out, "Title\nProject PLAN 2021\nplan\n");
+
+    // The file pattern acts on the listing: only the PDF is read.
+    group.filterTitle.clear();
+    group.filterFiles = "*.PDF";
+    const RunResult pdfs = List(WriteConfig(ConfigText({group})), {"--format", "tsv"});
+    EXPECT_EQ(pdfs.out, "Title\nplan\n");
+}
+
+TEST_F(CliListTest, StartPathsAreReadWhenTheGroupHasNoActivePath)
+{
+    WriteDoc("lib/top.odt", "Top", "A", 1);
+    WriteDoc("lib/sub/deep.docx", "Deep", "A", 2);
+    WriteDoc("other/else.pdf", "Elsewhere", "A", 3);
+    GroupSpec group{.name = "NoPaths", .sortColumn = 3, .columns = {3}};
+    const std::string noPaths = WriteConfig(ConfigText({group}), "nopaths.cfg");
+
+    RunResult run = List(noPaths, {"--format", "tsv", QString::fromStdString(Lib())});
+    EXPECT_EQ(run.out, "Title\nTop\n");
+    run = List(noPaths, {"--format", "tsv", QString::fromStdString(Lib() + "/**")});
+    EXPECT_EQ(run.out, "Title\nDeep\nTop\n");
+    run = List(noPaths, {"--format", "tsv", QString::fromStdString(Lib()),
+                         QString::fromStdString(dir.PathOf("other"))});
+    EXPECT_EQ(run.out, "Title\nElsewhere\nTop\n");
+
+    // A relative start path is taken from the current directory.
+    QStringList args{"--list", "--config", QString::fromStdString(noPaths), "--format", "tsv",
+                     "other"};
+    const std::string saved = std::filesystem::current_path();
+    std::filesystem::current_path(dir.Path());
+    run = RunDocmanager(args, ConfigHome());
+    std::filesystem::current_path(saved);
+    EXPECT_EQ(run.out, "Title\nElsewhere\n");
+
+    // An active path of the group wins over the start paths; an inactive one does not.
+    group.paths = dir.PathOf("other") + ";" + Lib();
+    group.guis = "01";
+    run = List(WriteConfig(ConfigText({group})), {"--format", "tsv",
+                                                 QString::fromStdString(dir.PathOf("other"))});
+    EXPECT_EQ(run.out, "Title\nTop\n");
+    group.guis = "00";
+    run = List(WriteConfig(ConfigText({group})), {"--format", "tsv",
+                                                 QString::fromStdString(dir.PathOf("other"))});
+    EXPECT_EQ(run.out, "Title\nElsewhere\n");
+
+    // A path that is no directory lists nothing and is named on standard error.
+    run = List(noPaths, {"--format", "tsv", QString::fromStdString(dir.PathOf("missing"))});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, "Title\n");
+    EXPECT_NE(run.err.find(dir.PathOf("missing")), std::string::npos) << run.err;
+}
+
+TEST_F(CliListTest, ColumnsOptionAndTheGroupsSlotsChooseTheColumns)
+{
+    WriteDoc("lib/a.odt", "Alpha", "Ann", 1);
+    GroupSpec group{.name = "Lib", .paths = Lib(), .columns = {7, 3}};
+    const std::string config = WriteConfig(ConfigText({group}));
+    RunResult run = List(config, {"--format", "tsv"});
+    EXPECT_EQ(run.out, "Author\tTitle\nAnn\tAlpha\n");
+    run = List(config, {"--format", "tsv", "--columns", "1,20,16"});
+    EXPECT_EQ(run.out, "File name\tDirectory\tProject\na.odt\t" + Lib() + "\t\n");
+
+    // Without column slots in the configuration: the 20 columns of a new group.
+    GroupSpec all{.name = "All", .paths = Lib()};
+    run = List(WriteConfig(ConfigText({all})), {"--format", "tsv"});
+    ASSERT_FALSE(TsvRows(run.out).empty());
+    EXPECT_EQ(TsvRows(run.out)[0].size(), 20u);
+    EXPECT_EQ(TsvRows(run.out)[0][19], "Directory");
+}
+
+TEST_F(CliListTest, AwkwardTextsKeepTheFormatsIntact)
+{
+    WriteDoc("lib/q.odt", "Say \"hi\" \\ then\ttab", "Ann", 1);
+    GroupSpec group{.name = "Lib", .paths = Lib(), .columns = {3, 7}};
+    const std::string config = WriteConfig(ConfigText({group}));
+
+    const RunResult tsv = List(config, {"--format", "tsv"});
+    EXPECT_EQ(tsv.out, "Title\tAuthor\nSay \"hi\" \\ then tab\tAnn\n");
+
+    const RunResult json = List(config, {"--format", "json"});
+    const QJsonDocument doc = QJsonDocument::fromJson(QByteArray::fromStdString(json.out));
+    ASSERT_TRUE(doc.isArray()) << json.out;
+    EXPECT_EQ(doc.array()[0].toObject()["title"].toString(), "Say \"hi\" \\ then\ttab");
+}
+
+TEST_F(CliListTest, AnEmptyListIsStillWellFormed)
+{
+    dir.MakeDir("empty");
+    GroupSpec group{.name = "Empty", .paths = dir.PathOf("empty"), .columns = {1, 3}};
+    const std::string config = WriteConfig(ConfigText({group}));
+    EXPECT_EQ(List(config, {"--format", "json"}).out, "[]\n");
+    EXPECT_EQ(List(config, {"--format", "tsv"}).out, "File name\tTitle\n");
+    EXPECT_EQ(List(config, {}).out, "File name Title\n");
+    EXPECT_FALSE(dir.Exists("empty/.docindex"));
+}
+
+}  // namespace
+}  // namespace clitest
