@@ -6,7 +6,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
-#include <QShortcut>
+#include <QKeyEvent>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <utility>
@@ -83,11 +83,7 @@ DocColumnsDialog::DocColumnsDialog(QWidget* parent, ImplDocConfig* config, unsig
     connect(cancelButton_, &QPushButton::clicked, this, &QDialog::reject);
     connect(upButton_, &QToolButton::clicked, this, &DocColumnsDialog::UpHdl);
     connect(downButton_, &QToolButton::clicked, this, &DocColumnsDialog::DownHdl);
-    // Moving by keyboard while the list keeps the focus.
-    auto* upKey = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Up), this);
-    connect(upKey, &QShortcut::activated, this, [this] { if (upButton_->isEnabled()) UpHdl(); });
-    auto* downKey = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Down), this);
-    connect(downKey, &QShortcut::activated, this, [this] { if (downButton_->isEnabled()) DownHdl(); });
+    columnList_->installEventFilter(this);
 
     for (uint16_t id : columnOrder_)
         columnList_->addItem(QString::fromStdString(GetColumnTitle(id, g)));
@@ -172,4 +168,21 @@ void DocColumnsDialog::OKHdl()
     g.columnId = columnOrder_;
     g.frozenColumns = static_cast<uint16_t>(SeparatorPos());
     done(1);
+}
+
+bool DocColumnsDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    // Ctrl+Up and Ctrl+Down move the selected entry while the list keeps the focus.
+    if (watched == columnList_ && event->type() == QEvent::KeyPress) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (key->modifiers() == Qt::ControlModifier &&
+            (key->key() == Qt::Key_Up || key->key() == Qt::Key_Down)) {
+            if (key->key() == Qt::Key_Up)
+                UpHdl();
+            else
+                DownHdl();
+            return true;
+        }
+    }
+    return QDialog::eventFilter(watched, event);
 }

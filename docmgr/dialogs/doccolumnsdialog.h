@@ -30,6 +30,9 @@ public:
     // The dialog's copy of the group's column ids, slot by slot.
     const std::array<uint16_t, 20>& GetColumnOrder() const { return columnOrder_; }
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     // Position of the first entry whose text is the separator's.
     int SeparatorPos() const;

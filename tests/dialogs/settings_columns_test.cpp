@@ -1,5 +1,6 @@
 // The columns dialog: the separator line, moves across and beside it, widths left in slots.
 #include <QPushButton>
+#include <QTest>
 #include <QToolButton>
 #include <numeric>
 
@@ -136,6 +137,20 @@ TEST_F(ColumnsDialogTest, CancelAndOtherGroupsAreLeftAlone)
     }
     EXPECT_EQ(config.Group(0).frozenColumns, 4);
     EXPECT_EQ(Working().frozenColumns, 3);
+}
+
+TEST_F(ColumnsDialogTest, CtrlArrowsMoveTheSelectedEntryAndEnterConfirms)
+{
+    DocColumnsDialog dialog(nullptr, &config, WORKING_GROUP);
+    dialog.show();
+    auto* list = Child<QListWidget>(dialog, "columnList");
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Down);
+    QTest::keyClick(list, Qt::Key_Down, Qt::ControlModifier);  // second column below the third
+    EXPECT_EQ(list->currentRow(), 2);
+    QTest::keyClick(list, Qt::Key_Return);
+    EXPECT_EQ(dialog.result(), 1);
+    EXPECT_EQ(Working().columnId, Ids({{1, 2}}));
 }
 
 TEST_F(ColumnsDialogTest, ATitleEqualToTheSeparatorIsTakenAsTheSeparator)

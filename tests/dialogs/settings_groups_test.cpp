@@ -172,6 +172,13 @@ TEST_F(GroupsDialogTest, RenamingDropsBlanksAndKeepsListAndGroupsInStep)
     EXPECT_EQ(Names(), (std::vector<std::string>{standard, "Beta", "Gamma", "NewAlpha"}));
     Type(NameEdit(), "Be ta");
     EXPECT_TRUE(Button("changeButton")->isEnabled());  // its own name
+
+    // Enter in the field applies the change and keeps the dialog open.
+    dialog->show();
+    Type(NameEdit(), "Delta");
+    QTest::keyClick(NameEdit(), Qt::Key_Return);
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_EQ(Listed().back(), "Delta");
 }
 
 TEST_F(GroupsDialogTest, SectionsFollowTheGroupsMovedBetweenThem)

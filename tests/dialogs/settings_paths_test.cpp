@@ -1,6 +1,7 @@
 // The paths dialog: shown and hidden entries, the subdirectory marker, adding from the tree.
 #include <QCheckBox>
 #include <QPushButton>
+#include <QTest>
 
 #include "docmgr/config/pathrules.h"
 #include "docmgr/dialogs/docdirbox.h"
@@ -80,6 +81,10 @@ TEST_F(PathsDialogTest, AddingTakesTheTreesDirectoryOnce)
 
     tree->SelectDir(dir.PathOf("one"));
     EXPECT_TRUE(add->isEnabled());
+    dialog.show();
+    QTest::keyClick(tree, Qt::Key_Return);  // opens the entry; the dialog stays
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(tree->item(tree->GetSelectedPos())->text().trimmed().toStdString(), "+ one");
     add->click();
     EXPECT_EQ(Texts(*List(dialog)), (std::vector<std::string>{WithSub(dir.PathOf("two")), dir.PathOf("one")}));
     EXPECT_EQ(List(dialog)->currentRow(), 1);
