@@ -166,6 +166,7 @@ DocFilterDialog::DocFilterDialog(QWidget* parent, ImplDocConfig* config, unsigne
             row.condition->addItem(text(uint16_t(TXT_CONDITION0 + c)));
         row.entries = new QStackedWidget(conditionFrame);
         row.entries->setObjectName("entryStack" + n);
+        row.entries->setMinimumWidth(fontMetrics().averageCharWidth() * 24);
         row.value = new QLineEdit(row.entries);
         row.value->setObjectName("valueEdit" + n);
         row.date = new QDateEdit(row.entries);

@@ -25,7 +25,7 @@ enum : uint16_t {
 // Width of the summary pane in dialog units.
 constexpr int SUMMARY_WIDTH = 240;
 // Default size of the dialog in dialog units; the list takes what the controls leave.
-constexpr int DEFAULT_WIDTH = 470;
+constexpr int DEFAULT_WIDTH = 560;
 constexpr int DEFAULT_HEIGHT = 300;
 // Rows the section and group lists show before they scroll.
 constexpr int LIST_ROWS = 5;
@@ -120,8 +120,7 @@ void DocManager::BuildControls()
     viewOptions->addWidget(d->readOnlyBox);
     viewOptions->addStretch(1);
     d->listRow = new QHBoxLayout;
-    d->listRow->setSpacing(0);
-    d->listRow->addWidget(d->browser, 1);
+    d->listRow->addWidget(d->browser, 2);
     auto* left = new QVBoxLayout;
     left->addLayout(choice);
     left->addLayout(viewOptions);
@@ -164,8 +163,9 @@ void DocManager::ResizeBrowser()
     if (single && !d->summary) {
         d->browser->SetSingleSelection(true);
         d->summary = new DocSummaryWindow(this);
-        d->summary->setFixedWidth(DialogUnitsX(this, SUMMARY_WIDTH));
-        d->listRow->addWidget(d->summary);
+        // At least its width; a wider dialog gives the pane the room its values want.
+        d->summary->setMinimumWidth(DialogUnitsX(this, SUMMARY_WIDTH));
+        d->listRow->addWidget(d->summary, 3);
         d->summary->show();
     } else if (!single && d->summary) {
         d->browser->SetSingleSelection(false);

@@ -96,7 +96,7 @@ DocBrowser::DocBrowser(DocManager* parent)
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     setWordWrap(false);
-    setShowGrid(false);
+    setShowGrid(true);  // cells are packed tightly; the lines keep neighbours apart
     setAlternatingRowColors(true);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);

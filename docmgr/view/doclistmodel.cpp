@@ -41,6 +41,9 @@ QVariant DocListModel::headerData(int section, Qt::Orientation orientation, int 
         return QAbstractTableModel::headerData(section, orientation, role);
     if (role == Qt::DisplayRole)
         return titles_[size_t(section)];
+    if (role == Qt::TextAlignmentRole)  // titles sit above their texts
+        return ids_[size_t(section)] == COL_SIZE ? int(Qt::AlignRight | Qt::AlignVCenter)
+                                                 : int(Qt::AlignLeft | Qt::AlignVCenter);
     return {};
 }
 

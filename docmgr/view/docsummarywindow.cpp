@@ -29,9 +29,10 @@ uint16_t TextWidth(const QFontMetrics& metrics, const QString& text)
 }
 }  // namespace
 
-DocSummaryWindow::DocSummaryWindow(DocManager* parent) : QWidget(parent), manager_(parent)
+DocSummaryWindow::DocSummaryWindow(DocManager* parent) : QFrame(parent), manager_(parent)
 {
     setObjectName("summaryPane");
+    setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     setAutoFillBackground(true);
     QPalette colours = palette();
     colours.setColor(QPalette::Window, Qt::white);
@@ -55,8 +56,9 @@ DocSummaryWindow::DocSummaryWindow(DocManager* parent) : QWidget(parent), manage
 
 DocSummaryWindow::~DocSummaryWindow() = default;
 
-void DocSummaryWindow::paintEvent(QPaintEvent*)
+void DocSummaryWindow::paintEvent(QPaintEvent* event)
 {
+    QFrame::paintEvent(event);  // the border
     const std::string* first = manager_->GetFirstDoc();
     if (!first)
         return;

@@ -2,12 +2,12 @@
 // The summary pane of single view: everything known about the first selected document
 // as a block of 13 label/value lines. It keeps no document data; every paint asks the
 // manager afresh.
-#include <QWidget>
+#include <QFrame>
 #include <cstdint>
 
 class DocManager;
 
-class DocSummaryWindow : public QWidget {
+class DocSummaryWindow : public QFrame {
     Q_OBJECT
 public:
     explicit DocSummaryWindow(DocManager* parent);

@@ -19,6 +19,7 @@ FrozenColumnsView::FrozenColumnsView(QTableView* table) : QTableView(table), tab
     setShowGrid(table->showGrid());
     setWordWrap(false);
     setFrameShape(QFrame::NoFrame);
+    setGridStyle(table->gridStyle());
     setContextMenuPolicy(Qt::NoContextMenu);  // the table underneath offers its menu
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);

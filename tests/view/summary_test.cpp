@@ -7,9 +7,10 @@
 
 namespace {
 // Pixels that are not the white background.
-int InkedPixels(QWidget& widget)
+int InkedPixels(QFrame& widget)
 {
-    const QImage image = widget.grab().toImage();
+    // Inside the border.
+    const QImage image = widget.grab(widget.contentsRect()).toImage();
     int inked = 0;
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x)
