@@ -1,5 +1,6 @@
 // Running the manager: results, the configuration it reads, its path line and what the
 // host gets back.
+#include "docmgr/manager/docmgrresid.h"
 #include "docmgr/view/docsummarywindow.h"
 #include "tests/support/managerfixture.h"
 
@@ -98,4 +99,22 @@ TEST_F(ManagerTest, WithoutAHostConfigurationDmgdumpCfgIsUsed)
     }
     EXPECT_TRUE(fsutil::IsFile(work + "/dmgdump.cfg"));
     EXPECT_FALSE(fsutil::Exists(work + "/ignored.cfg"));
+}
+
+TEST(ModuleObjectTest, HoldsTheResourceManagerInItsSlotWhileItLives)
+{
+    ASSERT_EQ(GetAppData(SHL_DOCMGR), nullptr);
+    EXPECT_EQ(DocMgrResId(15700).GetResMgr(), nullptr);
+    EXPECT_EQ(DocMgrResId(15700).String(), "");
+    {
+        DocManagerDll module;
+        ASSERT_NE(GetAppData(SHL_DOCMGR), nullptr);
+        const DocMgrResId id(15701);
+        EXPECT_EQ(id.GetResMgr(), GetModuleResMgr());
+        EXPECT_FALSE(id.String().empty());
+        EXPECT_FALSE(DocMgrResId(15700).Text(ResKind::Menu, CMD_DELETE).isEmpty());
+    }
+    EXPECT_EQ(GetAppData(SHL_DOCMGR), nullptr);
+    DocManagerDll again;
+    EXPECT_NE(GetAppData(SHL_DOCMGR), nullptr);
 }

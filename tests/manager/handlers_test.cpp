@@ -1,0 +1,119 @@
+// What the manager does after each settings and file dialog, whatever the dialog edited.
+#include <QContextMenuEvent>
+
+#include "docmgr/records/docfields.h"
+#include "docmgr/view/doccommandmenu.h"
+#include "tests/support/managerfixture.h"
+
+class HandlersTest : public ManagerTest {
+protected:
+    void SetUp() override
+    {
+        WriteDefaultConfig();
+        for (const char* name : {"b.odt", "c.odt", "a.odt"})
+            dir.MakeFile(std::string("docs/") + name, "x");
+        Start();
+    }
+    // Ends the next dialog with `result` without touching it.
+    static void Confirm(int result = 1)
+    {
+        OnNextModal([](QDialog&) {}, result);
+    }
+};
+
+TEST_F(HandlersTest, ConfirmedPathsMarkTheSettingsAndCollect)
+{
+    dir.MakeFile("docs/new.odt", "x");
+    Confirm(0);
+    host->PathsHdl();
+    EXPECT_FALSE(host->IsChanged());
+    EXPECT_EQ(Browser().GetRowCount(), 3);
+
+    Confirm(1);
+    host->PathsHdl();
+    EXPECT_TRUE(host->IsChanged());
+    EXPECT_EQ(Browser().GetRowCount(), 4);
+}
+
+TEST_F(HandlersTest, ConfirmedSortSortsOrCollectsWithoutSortColumn)
+{
+    Select({"c.odt"});
+    Settings().WorkingGroup().sortColumnId = COL_NAME;
+    Confirm();
+    host->SortHdl();
+    EXPECT_TRUE(host->IsChanged());
+    EXPECT_EQ(RowNames(), (std::vector<std::string>{"a.odt", "b.odt", "c.odt"}));
+    EXPECT_EQ(Browser().GetSelectedRowCount(), 0);
+
+    // No sort column: the list is collected again, in the order of the directory.
+    dir.MakeFile("docs/d.odt", "x");
+    Settings().WorkingGroup().sortColumnId = NO_COLUMN;
+    Confirm();
+    host->SortHdl();
+    EXPECT_EQ(Browser().GetRowCount(), 4);
+}
+
+TEST_F(HandlersTest, ConfirmedColumnsRebuildTheColumns)
+{
+    Settings().WorkingGroup().columnId[0] = COL_AUTHOR;
+    Confirm(0);
+    host->ColumnsHdl();
+    EXPECT_EQ(Browser().GetColumnId(0), COL_NAME);
+    Confirm(1);
+    host->ColumnsHdl();
+    EXPECT_TRUE(host->IsChanged());
+    EXPECT_EQ(Browser().GetColumnId(0), COL_AUTHOR);
+}
+
+TEST_F(HandlersTest, GroupsDialogTakesTheGroupAnewOnlyWhenItSaysSo)
+{
+    AnswerBoxes(RET_YES);
+    Confirm();
+    host->PathsHdl();  // changed settings: the groups dialog asks first
+    dir.MakeFile("docs/new.odt", "x");
+    Confirm(0);
+    host->GroupsHdl();
+    EXPECT_EQ(queries.size(), 1u);
+    EXPECT_FALSE(host->IsChanged());
+    EXPECT_EQ(Browser().GetRowCount(), 3);  // not collected
+    Confirm(1);
+    host->GroupsHdl();
+    EXPECT_EQ(Browser().GetRowCount(), 4);
+}
+
+TEST_F(HandlersTest, CopyAndRenameCollectOnlyWhenTheyChangedFiles)
+{
+    Select({"a.odt"});
+    dir.MakeFile("docs/new.odt", "x");
+    for (unsigned short command : {CMD_COPY, CMD_RENAME}) {
+        Confirm(1);  // confirmed, but nothing copied or renamed
+        host->Command(command);
+        EXPECT_EQ(Browser().GetRowCount(), 3) << command;
+    }
+}
+
+TEST_F(HandlersTest, RightClickOpensTheContextMenuOnlyOnASelection)
+{
+    host->resize(700, 500);
+    host->show();
+    QWidget* viewport = Browser().viewport();
+    const QPoint at(20, 10);
+    QStringList seen;
+    auto closePopup = [&seen] {
+        if (QWidget* popup = QApplication::activePopupWidget()) {
+            seen << popup->objectName();
+            popup->close();
+        }
+    };
+    QContextMenuEvent none(QContextMenuEvent::Mouse, at, viewport->mapToGlobal(at));
+    QTimer::singleShot(0, closePopup);
+    QApplication::sendEvent(viewport, &none);
+    QApplication::processEvents();
+    EXPECT_TRUE(seen.isEmpty());
+
+    Select({"a.odt"});
+    QContextMenuEvent some(QContextMenuEvent::Mouse, at, viewport->mapToGlobal(at));
+    QTimer::singleShot(0, closePopup);
+    QApplication::sendEvent(viewport, &some);
+    EXPECT_EQ(seen, QStringList{"commandMenu"});
+}
