@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -19,6 +20,15 @@
 namespace {
 constexpr uint16_t kDialog = 15706;
 constexpr unsigned short kNoEntry = 0xFFFF;
+
+// A failure message in the middle of the wait: the box gets the ordinary pointer, the
+// wait pointer comes back when it is closed.
+void TellDuringWait(QWidget* parent, const std::string& text)
+{
+    QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
+    DocInfoBox(parent, text);
+    QGuiApplication::restoreOverrideCursor();
+}
 }  // namespace
 
 struct DocCopyDialog::Impl {
@@ -102,12 +112,12 @@ void DocCopyDialog::OKHdl()
                 if (docfileops::MoveInto(source, target) == 0)
                     ++d->doneCount;
                 else
-                    DocInfoBox(this, JoinedMessage(15730, name, 15731));
+                    TellDuringWait(this, JoinedMessage(15730, name, 15731));
             } else {
                 if (docfileops::CopyInto(source, target) == 0)
                     ++d->doneCount;
                 else
-                    DocInfoBox(this, JoinedMessage(15728, name, 15729));
+                    TellDuringWait(this, JoinedMessage(15728, name, 15729));
             }
         }
     }
