@@ -2,6 +2,7 @@
 #include "host/cli/listformat.h"
 
 #include <algorithm>
+#include <string_view>
 
 #include "docmgr/config/docgroupconfig.h"
 #include "docmgr/records/docfields.h"
@@ -9,16 +10,17 @@
 namespace {
 
 // A tab or line break inside a cell would break the line and column structure.
-std::string OneLine(std::string text)
+void AppendOneLine(std::string& out, const std::string& text)
 {
-    for (char& c : text)
-        if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F)
-            c = ' ';
-    return text;
+    const size_t start = out.size();
+    out += text;
+    for (size_t i = start; i < out.size(); ++i)
+        if (static_cast<unsigned char>(out[i]) < 0x20 || out[i] == 0x7F)
+            out[i] = ' ';
 }
 
 // Characters (code points) of UTF-8 text: every byte that does not continue a sequence.
-size_t CharCount(const std::string& text)
+size_t CharCount(std::string_view text)
 {
     size_t count = 0;
     for (unsigned char c : text)
@@ -27,25 +29,14 @@ size_t CharCount(const std::string& text)
     return count;
 }
 
-// Titles in the first row, then the cells of every document.
-std::vector<std::vector<std::string>> Cells(const DocRows& rows,
-                                            const std::vector<uint16_t>& columns,
-                                            const DocGroupConfig& group)
+// Hands each cell of one line to `emit`: the titles when `info` is null, else the
+// document's texts.
+template <typename Emit>
+void ForEachCell(const DocInfo* info, const std::vector<uint16_t>& columns,
+                 const DocGroupConfig& group, Emit emit)
 {
-    std::vector<std::vector<std::string>> table;
-    table.reserve(rows.size() + 1);
-    std::vector<std::string> header;
-    for (uint16_t id : columns)
-        header.push_back(OneLine(GetColumnTitle(id, group)));
-    table.push_back(std::move(header));
-    for (const auto& row : rows) {
-        std::vector<std::string> line;
-        line.reserve(columns.size());
-        for (uint16_t id : columns)
-            line.push_back(OneLine(GetFieldString(*row, id)));
-        table.push_back(std::move(line));
-    }
-    return table;
+    for (size_t c = 0; c < columns.size(); ++c)
+        emit(c, info ? GetFieldString(*info, columns[c]) : GetColumnTitle(columns[c], group));
 }
 
 }  // namespace
@@ -67,24 +58,33 @@ std::vector<uint16_t> ListColumns(const DocGroupConfig& group, const std::vector
 std::string FormatTextList(const DocRows& rows, const std::vector<uint16_t>& columns,
                            const DocGroupConfig& group)
 {
-    const auto table = Cells(rows, columns, group);
+    // Every cell once, flat, row after row; the widths need them all before the first line.
+    std::vector<std::string> cells;
+    cells.reserve((rows.size() + 1) * columns.size());
     std::vector<size_t> widths(columns.size(), 0);
-    for (const auto& line : table)
-        for (size_t c = 0; c < line.size(); ++c)
-            widths[c] = std::max(widths[c], CharCount(line[c]));
+    const auto keep = [&](size_t c, const std::string& text) {
+        std::string cell;
+        AppendOneLine(cell, text);
+        widths[c] = std::max(widths[c], CharCount(cell));
+        cells.push_back(std::move(cell));
+    };
+    ForEachCell(nullptr, columns, group, keep);
+    for (const auto& row : rows)
+        ForEachCell(row.get(), columns, group, keep);
 
     std::string out;
-    for (const auto& line : table) {
-        std::string text;
-        for (size_t c = 0; c < line.size(); ++c) {
+    std::string line;
+    for (size_t at = 0; at < cells.size(); at += columns.size()) {
+        line.clear();
+        for (size_t c = 0; c < columns.size(); ++c) {
             if (c > 0)
-                text += ' ';
-            text += line[c];
-            text.append(widths[c] - CharCount(line[c]), ' ');
+                line += ' ';
+            line += cells[at + c];
+            line.append(widths[c] - CharCount(cells[at + c]), ' ');
         }
         // The last column is padded like the others; trailing blanks help no reader.
-        text.erase(text.find_last_not_of(' ') + 1);
-        out += text;
+        line.erase(line.find_last_not_of(' ') + 1);
+        out += line;
         out += '\n';
     }
     return out;
@@ -94,12 +94,15 @@ std::string FormatTsvList(const DocRows& rows, const std::vector<uint16_t>& colu
                           const DocGroupConfig& group)
 {
     std::string out;
-    for (const auto& line : Cells(rows, columns, group)) {
-        for (size_t c = 0; c < line.size(); ++c) {
-            if (c > 0)
-                out += '\t';
-            out += line[c];
-        }
+    const auto append = [&out](size_t c, const std::string& text) {
+        if (c > 0)
+            out += '\t';
+        AppendOneLine(out, text);
+    };
+    ForEachCell(nullptr, columns, group, append);
+    out += '\n';
+    for (const auto& row : rows) {
+        ForEachCell(row.get(), columns, group, append);
         out += '\n';
     }
     return out;
