@@ -72,6 +72,7 @@ void DocPropertiesDialog::BuildControls(const std::array<std::string, 4>& captio
     commentEdit_ = new QPlainTextEdit(this);
     commentEdit_->setObjectName(QStringLiteral("commentEdit"));
     commentEdit_->setTabChangesFocus(true);
+    commentEdit_->setMaximumHeight(commentEdit_->fontMetrics().lineSpacing() * 6);
     form->addRow(tr("&Comment:"), commentEdit_);
     static const char* const infoNames[4] = {"info0Edit", "info1Edit", "info2Edit", "info3Edit"};
     for (size_t i = 0; i < infoEdits_.size(); ++i) {
@@ -129,8 +130,11 @@ void DocPropertiesDialog::OKHdl()
         accept();
         return;
     }
+    // The reason continues a sentence: "The file is read-only." becomes "the file is read-only".
     while (reason.endsWith(QLatin1Char('.')))
         reason.chop(1);
+    if (reason.size() > 1 && reason[0].isUpper() && reason[1].isLower())
+        reason[0] = reason[0].toLower();
     QMessageBox box(QMessageBox::Warning, windowTitle(),
                     tr("The document information of \"%1\" could not be changed: %2.\n"
                        "The file was left as it was.")
