@@ -6,9 +6,11 @@
 #include <iostream>
 
 #include "docmgr/tools/config.h"
-#include "host/app/documenthandoff.h"
+#include "host/app/documentopener.h"
 #include "host/app/hostmanager.h"
 #include "host/cli/collectpaths.h"
+#include "host/cli/printcommand.h"
+#include "host/cli/readonlycopies.h"
 #include "host/cli/userconfig.h"
 
 namespace {
