@@ -121,6 +121,9 @@ std::string FormatJsonList(const DocRows& rows)
         if (i > 0)
             out += ",\n";
         AppendRow(out, *rows[i]);
+        // Sized once from the first row, so that a long list is not copied while it grows.
+        if (i == 0)
+            out.reserve(out.size() * rows.size() * 5 / 4);
     }
     out += "\n]\n";
     return out;

@@ -101,9 +101,12 @@ std::string FormatTsvList(const DocRows& rows, const std::vector<uint16_t>& colu
     };
     ForEachCell(nullptr, columns, group, append);
     out += '\n';
-    for (const auto& row : rows) {
-        ForEachCell(row.get(), columns, group, append);
+    for (size_t r = 0; r < rows.size(); ++r) {
+        ForEachCell(rows[r].get(), columns, group, append);
         out += '\n';
+        // Sized once from the first row, so that a long list is not copied while it grows.
+        if (r == 0)
+            out.reserve(out.size() * (rows.size() + 1) * 5 / 4);
     }
     return out;
 }
