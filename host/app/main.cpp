@@ -1,6 +1,7 @@
 // docmanager: the document manager window, or with --list / --export-config the same
 // listing and configuration for scripts, without a display.
 #include <QCoreApplication>
+#include <cstdlib>
 #include <exception>
 #include <iostream>
 
@@ -12,6 +13,11 @@ namespace {
 
 int RunHeadlessMode(int& argc, char** argv, const CommandLine& cmd)
 {
+    // Without TZ the C library looks at /etc/localtime again for every local-time
+    // conversion, and reading documents converts several stamps each. A run of a few
+    // seconds can take the zone once.
+    if (!std::getenv("TZ"))
+        setenv("TZ", ":/etc/localtime", 0);
     QCoreApplication app(argc, argv);
     const HeadlessResult result = RunHeadless(cmd);
     std::cerr << result.err;
