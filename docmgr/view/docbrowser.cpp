@@ -9,6 +9,7 @@
 #include "docmgr/records/docfields.h"
 #include "docmgr/tools/resmgr.h"
 #include "docmgr/view/docbrowserimpl.h"
+#include "docmgr/view/docsummarywindow.h"
 #include "docmgr/view/doccelldelegate.h"
 #include "docmgr/view/doclistmodel.h"
 #include "docmgr/view/frozencolumns.h"
@@ -105,9 +106,9 @@ DocBrowser::DocBrowser(DocManager* parent)
     horizontalHeader()->setMinimumSectionSize(0);
     d->frozen = new FrozenColumnsView(this);
 
-    // A double click on a column's edge fits the column like one on its title.
-    disconnect(horizontalHeader(), &QHeaderView::sectionHandleDoubleClicked, this, nullptr);
     for (QTableView* view : {static_cast<QTableView*>(this), static_cast<QTableView*>(d->frozen)}) {
+        // A double click on a column's edge fits the column like one on its title.
+        disconnect(view->horizontalHeader(), &QHeaderView::sectionHandleDoubleClicked, view, nullptr);
         connect(view, &QAbstractItemView::doubleClicked, this, &DocBrowser::RowDoubleClicked);
         connect(view->horizontalHeader(), &QHeaderView::sectionDoubleClicked, this,
                 &DocBrowser::HeaderDoubleClicked);
@@ -230,6 +231,10 @@ void DocBrowser::CollectFiles(bool onlyIfNeeded)
     d->model->ShowRows(d->list);
     InsertColumns();
     d->manager->SetPathLine(std::to_string(GetRowCount()) + ResString(STR_COUNT_LINE) + paths);
+    // The rows are new and none is selected: the controls and the pane follow.
+    d->manager->WatchControls();
+    if (QWidget* summary = d->manager->GetSummaryWindow())
+        summary->update();
 }
 
 void DocBrowser::SortFiles(bool repaint)
