@@ -7,20 +7,11 @@
 #include <sys/stat.h>
 
 #include "docmgr/tools/config.h"
+#include "tests/support/tempdir.h"
 
 namespace {
-std::string ReadFile(const std::string& path)
-{
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
-}
-
-void WriteFile(const std::string& path, const std::string& text)
-{
-    std::ofstream(path, std::ios::binary) << text;
-}
+using testfs::ReadFile;
+using testfs::WriteFile;
 
 struct ConfigFile : ::testing::Test {
     QTemporaryDir dir;

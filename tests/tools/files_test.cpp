@@ -9,20 +9,11 @@
 #include "docmgr/tools/filestream.h"
 #include "docmgr/tools/fsutil.h"
 #include "docmgr/tools/resmgr.h"
+#include "tests/support/tempdir.h"
 
 namespace {
-std::string ReadFile(const std::string& path)
-{
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
-}
-
-void WriteFile(const std::string& path, const std::string& text)
-{
-    std::ofstream(path, std::ios::binary) << text;
-}
+using testfs::ReadFile;
+using testfs::WriteFile;
 
 struct Files : ::testing::Test {
     QTemporaryDir tmp;
