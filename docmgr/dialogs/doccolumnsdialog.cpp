@@ -13,7 +13,7 @@
 
 #include "docmgr/config/impldocconfig.h"
 #include "docmgr/dialogs/dialogtext.h"
-#include "docmgr/dialogs/waitcursor.h"
+#include "docmgr/view/waitcursor.h"
 #include "docmgr/records/docfields.h"
 
 namespace {
@@ -30,7 +30,7 @@ const QString& DocColumnsDialog::SeparatorText()
 DocColumnsDialog::DocColumnsDialog(QWidget* parent, ImplDocConfig* config, unsigned short group)
     : QDialog(parent), config_(config), group_(group)
 {
-    WaitCursor wait;
+    ScopedWaitCursor wait;
     setObjectName(QStringLiteral("columnsDialog"));
     setWindowTitle(DialogText(kDialog, 0));
 

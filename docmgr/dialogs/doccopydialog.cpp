@@ -12,7 +12,7 @@
 #include "docmgr/dialogs/docfileops.h"
 #include "docmgr/dialogs/docfolderdialog.h"
 #include "docmgr/dialogs/fileoptext.h"
-#include "docmgr/dialogs/waitcursor.h"
+#include "docmgr/view/waitcursor.h"
 #include "docmgr/manager/docmanager.h"
 #include "docmgr/manager/docmsgbox.h"
 #include "docmgr/tools/fsutil.h"
@@ -102,7 +102,7 @@ void DocCopyDialog::DirectoriesHdl()
 void DocCopyDialog::OKHdl()
 {
     {
-        WaitCursor wait;
+        ScopedWaitCursor wait;
         const std::string target = d->SelectedDir();
         const bool move = d->moveBox->isChecked();
         for (const std::string* doc = d->manager->GetFirstDoc(); doc; doc = d->manager->GetNextDoc()) {

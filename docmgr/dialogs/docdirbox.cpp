@@ -7,7 +7,7 @@
 
 #include "docmgr/config/impldocconfig.h"
 #include "docmgr/dialogs/docdirdelegate.h"
-#include "docmgr/dialogs/waitcursor.h"
+#include "docmgr/view/waitcursor.h"
 #include "docmgr/tools/fsutil.h"
 #include "docmgr/tools/textcase.h"
 
@@ -114,7 +114,7 @@ void DocDirBox::ToggleDir(unsigned short pos)
 {
     if (pos >= count())
         return;
-    WaitCursor wait;
+    ScopedWaitCursor wait;
     UpdatesOff updatesOff(this);
 
     const QString line = item(pos)->text();

@@ -14,7 +14,7 @@
 #include "docmgr/config/pathrules.h"
 #include "docmgr/dialogs/dialogtext.h"
 #include "docmgr/dialogs/docdirbox.h"
-#include "docmgr/dialogs/waitcursor.h"
+#include "docmgr/view/waitcursor.h"
 #include "docmgr/tools/tokens.h"
 
 namespace {
@@ -204,7 +204,7 @@ void DocPathsDialog::IncludeHdl()
 
 void DocPathsDialog::OKHdl()
 {
-    WaitCursor wait;
+    ScopedWaitCursor wait;
     DocGroupConfig& g = config_->Group(group_);
     g.paths.clear();
     g.guis.clear();

@@ -10,7 +10,7 @@
 
 #include "docmgr/config/impldocconfig.h"
 #include "docmgr/dialogs/dialogtext.h"
-#include "docmgr/dialogs/waitcursor.h"
+#include "docmgr/view/waitcursor.h"
 #include "docmgr/records/docfields.h"
 
 namespace {
@@ -25,7 +25,7 @@ void DocSortDialog::SetRememberedAscending(bool ascending) { rememberedAscending
 DocSortDialog::DocSortDialog(QWidget* parent, ImplDocConfig* config, unsigned short group)
     : QDialog(parent), config_(config), group_(group)
 {
-    WaitCursor wait;
+    ScopedWaitCursor wait;
     setObjectName(QStringLiteral("sortDialog"));
     setWindowTitle(DialogText(kDialog, 0));
 

@@ -11,7 +11,7 @@
 #include <QVBoxLayout>
 
 #include "docmgr/dialogs/fileoptext.h"
-#include "docmgr/dialogs/waitcursor.h"
+#include "docmgr/view/waitcursor.h"
 #include "docmgr/print/doclistprinter.h"
 #include "docmgr/print/docprintingdlg.h"
 #include "docmgr/view/docbrowser.h"
@@ -137,7 +137,7 @@ void DocPrintDialog::OkHdl()
         return;
     }
     {
-        WaitCursor wait;
+        ScopedWaitCursor wait;
         unsigned short page = 1;
         while (PrintPage(page) && page < 0xFFFF)
             ++page;
