@@ -16,6 +16,7 @@ void DocRowList::CollectFiles(const std::string& pathList)
 {
     Clear();
     dirsRead_ = 0;
+    probed_ = 0;
     for (const std::string& token : tokens::Split(pathList, ';')) {
         const std::string dir = WoutSub(token);
         // A file or a vanished directory among the paths is no error.

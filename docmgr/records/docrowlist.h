@@ -73,4 +73,5 @@ private:
     std::string currentDoc_;
     long currentRow_ = -1;
     size_t dirsRead_ = 0;
+    size_t probed_ = 0;  // documents read by the host in this collection
 };

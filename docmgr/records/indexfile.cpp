@@ -91,6 +91,9 @@ std::unique_ptr<DocInfo> DocRowList::Probe(const DirPass& pass, size_t file)
     const fsutil::DirItem& item = pass.files[file];
     const std::string path = fsutil::Join(pass.dir, item.name);
     std::unique_ptr<DocInfo> info = source_.CreateDocInfo(path);
+    // Reading documents is the slow part: a large directory reports as it goes.
+    if (++probed_ % 256 == 0)
+        source_.CollectProgress(dirsRead_, rows_.size() + pass.working.size());
     if (info) {
         info->size = FileSize32(item.size);
     } else {
