@@ -52,23 +52,23 @@ std::string ConfigText(const std::vector<GroupSpec>& groups, int actualGroup)
     for (size_t g = 0; g < groups.size(); ++g)
         text += std::to_string(g) + "=" + groups[g].name + "\n";
     for (size_t g = 0; g < groups.size(); ++g) {
-        const GroupSpec& spec = groups[g];
+        const GroupSpec& group = groups[g];
         text += "[" + std::to_string(g) + "]\n";
-        text += "GROUPNAME=" + spec.name + "\nSECTION=" + spec.section + "\n";
-        text += "FILTERTITLE=" + spec.filterTitle + "\nFILTERTOPIC=\nFILTERAUTHOR=\n";
-        text += "FILTERKEYWORDS=\nFILTERFILES=" + spec.filterFiles + "\nFILTERSENSITIVE=FALSE\n";
+        text += "GROUPNAME=" + group.name + "\nSECTION=" + group.section + "\n";
+        text += "FILTERTITLE=" + group.filterTitle + "\nFILTERTOPIC=\nFILTERAUTHOR=\n";
+        text += "FILTERKEYWORDS=\nFILTERFILES=" + group.filterFiles + "\nFILTERSENSITIVE=FALSE\n";
         text += "FILTERFIELD0=65535\nFILLTERCONDITION0=0\nFILTERLINK0=0\n";
-        text += "SORTCOLUMNID=" + std::to_string(spec.sortColumn) + "\n";
-        text += std::string("SORTORDER=") + (spec.ascending ? "UP" : "DOWN") + "\n";
+        text += "SORTCOLUMNID=" + std::to_string(group.sortColumn) + "\n";
+        text += std::string("SORTORDER=") + (group.ascending ? "UP" : "DOWN") + "\n";
         for (size_t slot = 0; slot < 20; ++slot) {
-            const uint16_t id = slot < spec.columns.size() ? spec.columns[slot]
-                                : spec.columns.empty()     ? uint16_t(slot + 1)
+            const uint16_t id = slot < group.columns.size() ? group.columns[slot]
+                                : group.columns.empty()     ? uint16_t(slot + 1)
                                                            : 0;
             text += "COLUMNID" + std::to_string(slot) + "=" + std::to_string(id) + "\n";
             text += "COLUMNWIDTH" + std::to_string(slot) + "=65535\n";
         }
         text += "FROZENCOLUMNS=1\nINFO0=Project\nINFO1=Client\nINFO2=Status\nINFO3=Ref\n";
-        text += "PATHS=" + spec.paths + "\nGUIS=" + spec.guis + "\n";
+        text += "PATHS=" + group.paths + "\nGUIS=" + group.guis + "\n";
     }
     return text;
 }

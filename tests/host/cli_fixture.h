@@ -27,15 +27,15 @@ RunResult RunDocmanager(const QStringList& args, const std::string& configHome);
 
 // A group section with every key written, so that nothing falls back to empty values.
 struct GroupSpec {
-    std::string name;
+    std::string name{};
     std::string section = "Tests";
-    std::string paths;
+    std::string paths{};
     std::string guis = "1";
-    std::string filterTitle;
+    std::string filterTitle{};
     std::string filterFiles = "*.odt;*.docx;*.pdf";
     uint16_t sortColumn = 65535;
     bool ascending = true;
-    std::vector<uint16_t> columns;  // empty: 1..20
+    std::vector<uint16_t> columns{};  // empty: 1..20
 };
 
 // A whole configuration file: GENERAL (ACTUALGROUP as given), GROUPS and the sections.
