@@ -26,9 +26,9 @@ enum : uint16_t {
 constexpr int SUMMARY_WIDTH = 240;
 // Default size of the dialog in dialog units; the list takes what the controls leave.
 constexpr int DEFAULT_WIDTH = 560;
-constexpr int DEFAULT_HEIGHT = 300;
+constexpr int DEFAULT_HEIGHT = 360;
 // Rows the section and group lists show before they scroll.
-constexpr int LIST_ROWS = 5;
+constexpr int LIST_ROWS = 4;
 
 template <class Control>
 Control* Make(QWidget* parent, const char* name)
