@@ -1,20 +1,32 @@
 #pragma once
-// Texts of the module's dialogs as Qt strings.
+// Texts of the module's dialogs and menus as Qt strings, through the module's resources.
 #include <QString>
 #include <cstdint>
-#include <string>
 
-#include "docmgr/tools/resmgr.h"
+#include "docmgr/manager/docmgrresid.h"
 
 // Title (local 0) or control text of dialog `dialog`.
-inline QString DialogText(uint16_t dialog, uint16_t local)
+inline QString DialogText(uint16_t dialog, uint16_t local = 0)
 {
-    return QString::fromStdString(ResText(ResKind::Dialog, dialog, local));
+    return DocMgrResId(dialog).DialogText(local);
 }
 
 inline QString MenuText(uint16_t menu, uint16_t item)
 {
-    return QString::fromStdString(ResText(ResKind::Menu, menu, item));
+    return DocMgrResId(menu).Text(ResKind::Menu, item);
 }
 
-inline QString StringText(uint16_t id) { return QString::fromStdString(ResString(id)); }
+#include <QPushButton>
+#include <tuple>  // callers take the pair apart with std::tie
+#include <utility>
+
+// The OK button (control 18, the default) and the cancel button (19) of dialog `dialog`.
+inline std::pair<QPushButton*, QPushButton*> MakeOkCancel(QWidget* parent, uint16_t dialog)
+{
+    auto* ok = new QPushButton(DialogText(dialog, 18), parent);
+    ok->setObjectName(QStringLiteral("okButton"));
+    ok->setDefault(true);
+    auto* cancel = new QPushButton(DialogText(dialog, 19), parent);
+    cancel->setObjectName(QStringLiteral("cancelButton"));
+    return {ok, cancel};
+}

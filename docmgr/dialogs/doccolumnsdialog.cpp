@@ -38,11 +38,7 @@ DocColumnsDialog::DocColumnsDialog(QWidget* parent, ImplDocConfig* config, unsig
     columnList_->setObjectName(QStringLiteral("columnList"));
     frame_ = new QGroupBox(DialogText(kDialog, 81), this);
     frame_->setObjectName(QStringLiteral("frame"));
-    okButton_ = new QPushButton(DialogText(kDialog, 18), this);
-    okButton_->setObjectName(QStringLiteral("okButton"));
-    okButton_->setDefault(true);
-    cancelButton_ = new QPushButton(DialogText(kDialog, 19), this);
-    cancelButton_->setObjectName(QStringLiteral("cancelButton"));
+    std::tie(okButton_, cancelButton_) = MakeOkCancel(this, kDialog);
     upButton_ = new QToolButton(this);
     upButton_->setObjectName(QStringLiteral("upButton"));
     upButton_->setArrowType(Qt::UpArrow);

@@ -208,7 +208,7 @@ unsigned short DocGroupsDialog::SelectedPos() const
 
 bool DocGroupsDialog::IsProtected(const QString& name) const
 {
-    return name == StringText(kProtectedName);
+    return name == DocResString(kProtectedName);
 }
 
 QString DocGroupsDialog::MainGroupName() const { return manager_->GetSelectedGroupName(); }
@@ -309,7 +309,7 @@ void DocGroupsDialog::ChangeHdl()
 
 void DocGroupsDialog::NewHdl()
 {
-    const QString stem = StringText(kNewNameStem);
+    const QString stem = DocResString(kNewNameStem);
     QString name;
     for (unsigned n = 1;; ++n) {
         name = stem + QString::number(n);

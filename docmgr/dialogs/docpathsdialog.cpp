@@ -49,11 +49,7 @@ DocPathsDialog::DocPathsDialog(QWidget* parent, ImplDocConfig* config, unsigned 
     includeBox_->setObjectName(QStringLiteral("includeBox"));
     frame_ = new QGroupBox(DialogText(kDialog, 27), this);
     frame_->setObjectName(QStringLiteral("frame"));
-    okButton_ = new QPushButton(DialogText(kDialog, 18), this);
-    okButton_->setObjectName(QStringLiteral("okButton"));
-    okButton_->setDefault(true);
-    cancelButton_ = new QPushButton(DialogText(kDialog, 19), this);
-    cancelButton_->setObjectName(QStringLiteral("cancelButton"));
+    std::tie(okButton_, cancelButton_) = MakeOkCancel(this, kDialog);
     for (QPushButton* button : {addButton_, removeButton_, removeAllButton_})
         button->setAutoDefault(false);  // Enter stays with OK
 

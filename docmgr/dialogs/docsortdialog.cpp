@@ -40,11 +40,7 @@ DocSortDialog::DocSortDialog(QWidget* parent, ImplDocConfig* config, unsigned sh
     ascendingButton_->setObjectName(QStringLiteral("ascendingButton"));
     descendingButton_ = new QRadioButton(DialogText(kDialog, 29), directionFrame_);
     descendingButton_->setObjectName(QStringLiteral("descendingButton"));
-    okButton_ = new QPushButton(DialogText(kDialog, 18), this);
-    okButton_->setObjectName(QStringLiteral("okButton"));
-    okButton_->setDefault(true);
-    cancelButton_ = new QPushButton(DialogText(kDialog, 19), this);
-    cancelButton_->setObjectName(QStringLiteral("cancelButton"));
+    std::tie(okButton_, cancelButton_) = MakeOkCancel(this, kDialog);
 
     auto* frameLayout = new QVBoxLayout(directionFrame_);
     frameLayout->addWidget(ascendingButton_);
