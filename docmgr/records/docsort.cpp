@@ -47,10 +47,53 @@ int CompareDirectory(const std::string& a, const std::string& b)
                        std::string_view(b).substr(0, b.rfind('/')));
 }
 
-bool SortLess(const std::unique_ptr<DocInfo>& a, const std::unique_ptr<DocInfo>& b)
+// The key of one row for the running sort: a number or a view of the row's own text
+// (the DocInfos are not moved while the sort runs, so the views stay valid).
+struct SortKey {
+    int64_t number = 0;
+    std::string_view text;
+    size_t row = 0;
+};
+
+bool IsTextColumn(uint16_t columnId)
 {
-    const int c = CompareByColumn(*a, *b, sortColumnId);
-    return sortAscending ? c < 0 : c > 0;
+    return columnId == 1 || columnId == 3 || columnId == 4 || columnId == 7 || columnId == 10 ||
+           (columnId >= 13 && columnId <= 20);
+}
+
+int64_t NumberKey(const DocInfo& info, uint16_t columnId)
+{
+    switch (columnId) {
+    case 2: return info.size;
+    case 5: return info.createdDate.GetDate();
+    case 6: return info.createdTime.GetTime();
+    case 8: return info.modifiedDate.GetDate();
+    case 9: return info.modifiedTime.GetTime();
+    case 11: return info.printedDate.GetDate();
+    case 12: return info.printedTime.GetTime();
+    default: return 0;
+    }
+}
+
+// `owned` keeps the directory texts of entries that are not absolute; it is reserved
+// for every row, so views into it stay valid.
+std::string_view TextKey(const DocInfo& info, uint16_t columnId, std::vector<std::string>& owned)
+{
+    switch (columnId) {
+    case 1: return NameOf(info.entry);
+    case 3: return info.title;
+    case 4: return info.topic;
+    case 7: return info.author;
+    case 10: return info.modifiedBy;
+    case 13: return info.printedBy;
+    case 14: return info.comment;
+    case 15: return info.keywords;
+    case 20:
+        if (!info.entry.empty() && info.entry.front() == '/')
+            return std::string_view(info.entry).substr(0, info.entry.rfind('/'));
+        return owned.emplace_back(fsutil::DirName(info.entry));
+    default: return info.info[size_t(columnId - 16)];
+    }
 }
 
 }  // namespace
@@ -86,6 +129,30 @@ void SortRows(std::vector<std::unique_ptr<DocInfo>>& rows, uint16_t columnId, bo
 {
     sortColumnId = columnId;
     sortAscending = ascending;
-    // Unstable on purpose: rows with equal keys keep no defined order.
-    std::sort(rows.begin(), rows.end(), SortLess);
+    if (columnId < 1 || columnId > 20)
+        return;  // every key is equal: no order is defined anyway
+    // Keys are taken once per row rather than once per comparison.
+    const bool text = IsTextColumn(columnId);
+    std::vector<std::string> owned;
+    owned.reserve(columnId == 20 ? rows.size() : 0);
+    std::vector<SortKey> keys(rows.size());
+    for (size_t i = 0; i < rows.size(); ++i) {
+        keys[i].row = i;
+        if (text)
+            keys[i].text = TextKey(*rows[i], columnId, owned);
+        else
+            keys[i].number = NumberKey(*rows[i], columnId);
+    }
+    // Unstable on purpose: rows with equal keys keep no defined order. Text compares
+    // byte-wise, as unsigned bytes, over the whole length.
+    auto less = [text](const SortKey& a, const SortKey& b) {
+        const int c = text ? CompareText(a.text, b.text) : Compare(a.number, b.number);
+        return sortAscending ? c < 0 : c > 0;
+    };
+    std::sort(keys.begin(), keys.end(), less);
+    std::vector<std::unique_ptr<DocInfo>> sorted;
+    sorted.reserve(rows.size());
+    for (const SortKey& key : keys)
+        sorted.push_back(std::move(rows[key.row]));
+    rows = std::move(sorted);
 }
