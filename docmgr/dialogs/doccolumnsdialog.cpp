@@ -12,8 +12,8 @@
 #include <utility>
 
 #include "docmgr/config/impldocconfig.h"
-#include "docmgr/dialogs/dialogtext.h"
-#include "docmgr/view/waitcursor.h"
+#include "docmgr/ui/dialogtext.h"
+#include "docmgr/ui/waitcursor.h"
 #include "docmgr/records/docfields.h"
 
 namespace {

@@ -3,7 +3,6 @@
 #include <array>
 #include <cstdint>
 
-class DocManager;
 class ImplDocConfig;
 class QListWidget;
 class QGroupBox;

@@ -11,10 +11,9 @@
 #include "docmgr/dialogs/docdirbox.h"
 #include "docmgr/dialogs/docfileops.h"
 #include "docmgr/dialogs/docfolderdialog.h"
-#include "docmgr/dialogs/fileoptext.h"
-#include "docmgr/view/waitcursor.h"
-#include "docmgr/manager/docmanager.h"
-#include "docmgr/manager/docmsgbox.h"
+#include "docmgr/ui/fileoptext.h"
+#include "docmgr/ui/waitcursor.h"
+#include "docmgr/ui/docmsgbox.h"
 #include "docmgr/tools/fsutil.h"
 
 namespace {
@@ -32,7 +31,7 @@ void TellDuringWait(QWidget* parent, const std::string& text)
 }  // namespace
 
 struct DocCopyDialog::Impl {
-    DocManager* manager;
+    std::vector<std::string> documents;
     QLabel* caption = new QLabel(DialogText(kDialog, 22));
     DocDirBox* tree = nullptr;
     QGroupBox* frame = new QGroupBox;
@@ -45,9 +44,10 @@ struct DocCopyDialog::Impl {
     std::string SelectedDir() const { return tree->GetDir(tree->GetSelectedPos()); }
 };
 
-DocCopyDialog::DocCopyDialog(DocManager* parent) : QDialog(parent), d(std::make_unique<Impl>())
+DocCopyDialog::DocCopyDialog(QWidget* parent, std::vector<std::string> documents)
+    : QDialog(parent), d(std::make_unique<Impl>())
 {
-    d->manager = parent;
+    d->documents = std::move(documents);
     d->tree = new DocDirBox(nullptr, nullptr);
     setWindowTitle(DialogText(kDialog));
     d->caption->setObjectName(QStringLiteral("caption"));
@@ -78,7 +78,7 @@ DocCopyDialog::DocCopyDialog(DocManager* parent) : QDialog(parent), d(std::make_
 
     // Start in the folder of the first document rather than at the root: the user moves
     // from there to a neighbour far more often than from "/".
-    if (const std::string* first = parent ? parent->GetFirstDoc() : nullptr)
+    if (const std::string* first = d->documents.empty() ? nullptr : &d->documents.front())
         d->tree->SelectDir(fsutil::DirName(*first));
 
     connect(d->okButton, &QPushButton::clicked, this, &DocCopyDialog::OKHdl);
@@ -105,8 +105,7 @@ void DocCopyDialog::OKHdl()
         ScopedWaitCursor wait;
         const std::string target = d->SelectedDir();
         const bool move = d->moveBox->isChecked();
-        for (const std::string* doc = d->manager->GetFirstDoc(); doc; doc = d->manager->GetNextDoc()) {
-            const std::string source = *doc;  // the walk may reuse the string
+        for (const std::string& source : d->documents) {
             const std::string name = fsutil::FileName(source);
             if (move) {
                 if (docfileops::MoveInto(source, target) == 0)

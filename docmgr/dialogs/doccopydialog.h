@@ -1,15 +1,14 @@
 #pragma once
 #include <QDialog>
 #include <memory>
+#include <string>
+#include <vector>
 
-class DocManager;
-class ImplDocConfig;
-
-// Copies or moves the selected documents into a directory chosen in a tree; result 1.
+// Copies or moves `documents` into a directory chosen in a tree; result 1.
 class DocCopyDialog : public QDialog {
     Q_OBJECT
 public:
-    DocCopyDialog(DocManager* parent);
+    DocCopyDialog(QWidget* parent, std::vector<std::string> documents);
     ~DocCopyDialog() override;
     // Files copied or moved successfully.
     unsigned short GetDoneCount() const;

@@ -7,7 +7,7 @@
 
 #include "docmgr/config/impldocconfig.h"
 #include "docmgr/dialogs/docdirdelegate.h"
-#include "docmgr/view/waitcursor.h"
+#include "docmgr/ui/waitcursor.h"
 #include "docmgr/tools/fsutil.h"
 #include "docmgr/tools/textcase.h"
 

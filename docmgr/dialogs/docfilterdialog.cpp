@@ -15,9 +15,9 @@
 #include <array>
 
 #include "docmgr/config/impldocconfig.h"
-#include "docmgr/manager/docmgrresid.h"
+#include "docmgr/ui/docmgrresid.h"
 #include "docmgr/records/docfields.h"
-#include "docmgr/view/waitcursor.h"
+#include "docmgr/ui/waitcursor.h"
 
 namespace {
 constexpr uint16_t DLG_FILTER = 15702;

@@ -2,7 +2,6 @@
 #include <QDialog>
 #include <memory>
 
-class DocManager;
 class ImplDocConfig;
 
 // Edits the filter fields of one group in place when confirmed with OK (result 1):

@@ -8,8 +8,8 @@
 #include <QVBoxLayout>
 
 #include "docmgr/dialogs/docfileops.h"
-#include "docmgr/dialogs/fileoptext.h"
-#include "docmgr/manager/docmsgbox.h"
+#include "docmgr/ui/fileoptext.h"
+#include "docmgr/ui/docmsgbox.h"
 #include "docmgr/tools/fsutil.h"
 
 namespace {

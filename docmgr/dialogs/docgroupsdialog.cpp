@@ -16,12 +16,11 @@
 #include <memory>
 
 #include "docmgr/config/impldocconfig.h"
-#include "docmgr/dialogs/dialogtext.h"
+#include "docmgr/ui/dialogtext.h"
 #include "docmgr/dialogs/doccolumnsdialog.h"
 #include "docmgr/dialogs/docfilterdialog.h"
 #include "docmgr/dialogs/docpathsdialog.h"
 #include "docmgr/dialogs/docsortdialog.h"
-#include "docmgr/manager/docmanager.h"
 #include "docmgr/tools/textcase.h"
 
 namespace {
@@ -44,8 +43,8 @@ W* Named(W* widget, const char* name)
 }
 }  // namespace
 
-DocGroupsDialog::DocGroupsDialog(DocManager* parent)
-    : QDialog(parent), manager_(parent), config_(parent->GetSettings())
+DocGroupsDialog::DocGroupsDialog(QWidget* parent, ImplDocConfig* config, const QString& mainGroupName)
+    : QDialog(parent), config_(config), mainGroupName_(mainGroupName)
 {
     setObjectName(QStringLiteral("groupsDialog"));
     setWindowTitle(DialogText(kDialog, 0));
@@ -211,7 +210,7 @@ bool DocGroupsDialog::IsProtected(const QString& name) const
     return name == DocResString(kProtectedName);
 }
 
-QString DocGroupsDialog::MainGroupName() const { return manager_->GetSelectedGroupName(); }
+QString DocGroupsDialog::MainGroupName() const { return mainGroupName_; }
 
 void DocGroupsDialog::SelectHdl()
 {

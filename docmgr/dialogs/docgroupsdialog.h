@@ -3,7 +3,6 @@
 #include <string>
 #include <vector>
 
-class DocManager;
 class ImplDocConfig;
 class QComboBox;
 class QGroupBox;
@@ -26,7 +25,8 @@ public:
         ITEM_PATHS = 10, ITEM_FILTER = 11, ITEM_SORT = 12, ITEM_COLUMNS = 13, ITEM_STORE = 14
     };
 
-    DocGroupsDialog(DocManager* parent);
+    // `mainGroupName` is the group chosen in the main dialog.
+    DocGroupsDialog(QWidget* parent, ImplDocConfig* config, const QString& mainGroupName);
     ~DocGroupsDialog() override;
 
     void SelectHdl();   // group list selection
@@ -60,8 +60,8 @@ private:
     QString MainGroupName() const;
     void AddSection(const QString& section);
 
-    DocManager* manager_;
     ImplDocConfig* config_;
+    QString mainGroupName_;
     unsigned short editedGroup_ = 0xFFFF;
     bool mainGroupChanged_ = false;
     bool nameModified_ = false;

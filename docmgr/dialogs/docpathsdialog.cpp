@@ -12,9 +12,9 @@
 
 #include "docmgr/config/impldocconfig.h"
 #include "docmgr/config/pathrules.h"
-#include "docmgr/dialogs/dialogtext.h"
+#include "docmgr/ui/dialogtext.h"
 #include "docmgr/dialogs/docdirbox.h"
-#include "docmgr/view/waitcursor.h"
+#include "docmgr/ui/waitcursor.h"
 #include "docmgr/tools/tokens.h"
 
 namespace {

@@ -3,7 +3,6 @@
 #include <string>
 
 class DocDirBox;
-class DocManager;
 class ImplDocConfig;
 class QCheckBox;
 class QGroupBox;

@@ -9,9 +9,8 @@
 #include <QVBoxLayout>
 
 #include "docmgr/dialogs/docfileops.h"
-#include "docmgr/dialogs/fileoptext.h"
-#include "docmgr/manager/docmanager.h"
-#include "docmgr/manager/docmsgbox.h"
+#include "docmgr/ui/fileoptext.h"
+#include "docmgr/ui/docmsgbox.h"
 #include "docmgr/tools/fsutil.h"
 
 namespace {
@@ -30,10 +29,10 @@ struct DocRenameDialog::Impl {
     unsigned renameCount = 0;
 };
 
-DocRenameDialog::DocRenameDialog(DocManager* parent) : QDialog(parent), d(std::make_unique<Impl>())
+DocRenameDialog::DocRenameDialog(QWidget* parent, const std::string& document)
+    : QDialog(parent), d(std::make_unique<Impl>())
 {
-    if (const std::string* first = parent ? parent->GetFirstDoc() : nullptr)
-        d->document = *first;
+    d->document = document;
     const QString name = QString::fromStdString(fsutil::FileName(d->document));
 
     setWindowTitle(DialogText(kDialog));

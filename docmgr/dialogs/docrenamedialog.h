@@ -1,15 +1,13 @@
 #pragma once
 #include <QDialog>
 #include <memory>
+#include <string>
 
-class DocManager;
-class ImplDocConfig;
-
-// Renames the first selected document in its directory; result 1.
+// Renames `document` in its directory; result 1.
 class DocRenameDialog : public QDialog {
     Q_OBJECT
 public:
-    DocRenameDialog(DocManager* parent);
+    DocRenameDialog(QWidget* parent, const std::string& document);
     ~DocRenameDialog() override;
     // 1 after a successful rename, else 0.
     unsigned GetRenameCount() const;

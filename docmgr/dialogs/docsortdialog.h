@@ -1,7 +1,6 @@
 #pragma once
 #include <QDialog>
 
-class DocManager;
 class ImplDocConfig;
 class QGroupBox;
 class QListWidget;

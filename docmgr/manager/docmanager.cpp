@@ -8,7 +8,7 @@
 
 #include "docmgr/config/impldocconfig.h"
 #include "docmgr/manager/docmanagerimpl.h"
-#include "docmgr/manager/docmsgbox.h"
+#include "docmgr/ui/docmsgbox.h"
 #include "docmgr/tools/config.h"
 #include "docmgr/tools/resmgr.h"
 #include "docmgr/view/docbrowser.h"
@@ -32,7 +32,7 @@ DocManager::DocManager(QWidget* parent, const std::string& name, const std::stri
 }
 
 DocManager::DocManager(QWidget* parent, Config* config, const std::string& startPaths, bool openMode)
-    : QDialog(parent), d(std::make_unique<Impl>())
+    : QDialog(parent), d(std::make_unique<Impl>(*this))
 {
     d->hostConfig = config;
     d->openMode = openMode;
@@ -76,7 +76,7 @@ void DocManager::Init()
     QWidget* host = parentWidget();
     d->settings = std::make_unique<ImplDocConfig>(
         config, d->defExtensions, [host](const std::string& message) { DocInfoBox(host, message); });
-    d->browser->Initialize();
+    d->browser->Initialize(d->settings.get());
     QFont pathFont = d->pathLine->font();
     pathFont.setWeight(QFont::Normal);
     d->pathLine->setFont(pathFont);
@@ -103,34 +103,45 @@ std::string DocManager::GetConfig() const
     return d->settings ? d->settings->Export() : std::string();
 }
 
-ImplDocConfig* DocManager::GetSettings() const { return d->settings.get(); }
-DocBrowser* DocManager::GetBrowser() const { return d->browser; }
-DocSummaryWindow* DocManager::GetSummaryWindow() const { return d->summary; }
-bool DocManager::IsOpenMode() const { return d->openMode; }
-bool DocManager::IsSingleView() const { return d->singleViewBox->isChecked(); }
-QListWidget* DocManager::GetGroupList() const { return d->groupList; }
-QPushButton* DocManager::GetOpenButton() const { return d->openButton; }
-bool DocManager::IsChanged() const { return d->changed; }
-
-QString DocManager::GetSelectedGroupName() const
+std::array<std::string, 4> DocManager::GetInfoLabels() const
 {
-    const QListWidgetItem* item = d->groupList->currentItem();
+    return d->settings ? d->settings->WorkingGroup().infoLabel : std::array<std::string, 4>();
+}
+
+std::unique_ptr<DocInfo> DocManager::Impl::CreateDocInfo(const std::string& path)
+{
+    return manager.CreateDocInfo(path);
+}
+
+bool DocManager::Impl::ChangeDocInfo(const std::string& path)
+{
+    return manager.ChangeDocInfo(&manager, path);
+}
+
+void DocManager::Impl::Command(unsigned short id)
+{
+    manager.Command(id);
+}
+
+bool DocManager::Impl::IsSingleView() const
+{
+    return singleViewBox->isChecked();
+}
+
+QString DocManager::Impl::SelectedGroupName() const
+{
+    const QListWidgetItem* item = groupList->currentItem();
     return item ? item->text() : QString();
 }
 
-std::string DocManager::GetCollectPaths() const
+std::string DocManager::Impl::GetCollectPaths() const
 {
-    return d->pathLineText.empty() ? d->startPaths : d->pathLineText;
+    return pathLineText.empty() ? startPaths : pathLineText;
 }
 
-void DocManager::SetPathLine(const std::string& text)
+void DocManager::Impl::SetPathLine(const std::string& text)
 {
-    d->pathLineText = text;
-    d->pathLine->setText(QString::fromStdString(text));
-    d->pathLine->setToolTip(d->pathLine->text());  // the line may be cut off at the right
-}
-
-std::string DocManager::GetPathLine() const
-{
-    return d->pathLineText;
+    pathLineText = text;
+    pathLine->setText(QString::fromStdString(text));
+    pathLine->setToolTip(pathLine->text());  // the line may be cut off at the right
 }

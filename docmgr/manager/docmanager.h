@@ -3,34 +3,22 @@
 // supplies CreateDocInfo and ChangeDocInfo, creates a DocManagerDll around its use,
 // runs Execute and walks the chosen documents with GetFirstDoc / GetNextDoc.
 #include <QDialog>
+#include <array>
 #include <memory>
 #include <string>
 
-#include "docmgr/records/docinfo.h"
+#include <docmgr/docmgr_export.h>
 
-class Config;
-class ImplDocConfig;
-class DocBrowser;
-class DocSummaryWindow;
-class QLabel;
-class QListWidget;
-class QCheckBox;
-class QPushButton;
-class QToolButton;
-class QMenu;
+#include "docmgr/records/docinfo.h"
+#include "docmgr/tools/config.h"
+
 class QAction;
 class ResModule;
 
-// Results of Execute besides 0 (closed) and 1 (open).
+// Result of Execute when the host is to print the chosen documents; 0 is closed, 1 open.
 constexpr int RET_PRINTDOCS = 10;
 
-// Command ids of the commands menu and of the list's context menu.
-enum DocCommand : unsigned short {
-    CMD_DELETE = 20, CMD_DOCINFO = 21, CMD_COPY = 22, CMD_RENAME = 23,
-    CMD_PRINTDOCS = 24, CMD_PRINTLIST = 25
-};
-
-class DocManager : public QDialog {
+class DOCMGR_EXPORT DocManager : public QDialog {
     Q_OBJECT
 public:
     // `name` is kept but the configuration file is "dmgdump.cfg" in the current directory.
@@ -44,49 +32,41 @@ public:
     // Host: lets the user edit the information of `file`; true when it changed.
     virtual bool ChangeDocInfo(QWidget* parent, const std::string& file) = 0;
 
+    // Name of the per-directory index file; set it before the first Execute.
     void SetDirFileName(const std::string& name);
     const std::string& GetDirFileName() const;
+    // ";"-separated file patterns of a new configuration; set them before the first Execute.
     void SetDefExtensions(const std::string& extensions);
     const std::string& GetDefExtensions() const;
 
     // First call: reads the settings and collects; later calls collect again. Then runs
     // the dialog modally: 0 closed, 1 open, RET_PRINTDOCS print the chosen documents.
     short Execute();
-    // The chosen documents' absolute paths one by one; null after the last.
+    // The chosen documents' absolute paths one by one, in list order; null after the last.
     const std::string* GetFirstDoc();
     const std::string* GetNextDoc();
+    // The user asked for read-only copies (open mode only).
     bool IsReadOnly() const;
     // One-line text of the whole configuration ("@DocManager[2.1]...").
     std::string GetConfig() const;
     bool IsAvailable() const { return true; }
 
-    // For the module's own views and dialogs.
-    ImplDocConfig* GetSettings() const;
-    DocBrowser* GetBrowser() const;
-    DocSummaryWindow* GetSummaryWindow() const;
-    bool IsOpenMode() const;
-    bool IsSingleView() const;          // the single-view box is checked
-    QString GetSelectedGroupName() const;  // selected entry of the group list
-    QListWidget* GetGroupList() const;
-    void Command(unsigned short id);
-    void WatchControls();
-    void CollectFiles();
-    // Path list for collecting: the path line's text (active paths) or the start paths.
-    std::string GetCollectPaths() const;
-    void SetPathLine(const std::string& text);
-    std::string GetPathLine() const;
-    QPushButton* GetOpenButton() const;
     // Escape and the window's close box act as the close button.
     void reject() override;
-    // Whether a confirmed settings dialog changed the working group since it was chosen.
-    bool IsChanged() const;
 
 protected:
+    // For ChangeDocInfo: the captions the group in force gives the four information
+    // fields (empty before the first Execute).
+    std::array<std::string, 4> GetInfoLabels() const;
+
     // The steps of the dialog, in the order a run uses them.
     void Init();
     void ResizeBrowser();
     void FillSectionBox(bool collect);
     void SelectSection(const std::string& section, bool collect);
+    void CollectFiles();
+    void WatchControls();
+    void Command(unsigned short id);
     // Asks whether changed settings are to be kept in the current group.
     void QuerySave();
 
@@ -103,20 +83,22 @@ protected:
     void SortHdl();
     void ColumnsHdl();
 
+    // The controls and settings; declared in the module's private header.
+    struct Impl;
+    std::unique_ptr<Impl> d;
+
 private:
     void BuildControls();
+    // What the list reports: its count line, its selection, a double click, printing.
+    void ConnectBrowser();
     void ConnectHandlers();
     void DeleteSelected();
     template <class Dialog> bool RunSettingsDialog();
-
-    struct Impl;
-    std::unique_ptr<Impl> d;
-    friend struct Impl;
 };
 
 // Brackets the use of the module: creates the resource manager of the module's texts
 // (application-data slot 36) in the system's language, and deletes it again.
-class DocManagerDll {
+class DOCMGR_EXPORT DocManagerDll {
 public:
     DocManagerDll();
     ~DocManagerDll();

@@ -1,23 +1,34 @@
 // The file commands of the document manager (commands menu and the list's context menu).
 #include <QPushButton>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "docmgr/config/impldocconfig.h"
 #include "docmgr/dialogs/doccopydialog.h"
 #include "docmgr/dialogs/docrenamedialog.h"
-#include "docmgr/manager/docmanager.h"
 #include "docmgr/manager/docmanagerimpl.h"
-#include "docmgr/manager/docmsgbox.h"
+#include "docmgr/ui/docmsgbox.h"
 #include "docmgr/tools/fsutil.h"
+#include "docmgr/print/docprintdialog.h"
 #include "docmgr/tools/resmgr.h"
 #include "docmgr/view/docbrowser.h"
 #include "docmgr/view/doccommandmenu.h"
-#include "docmgr/view/waitcursor.h"
+#include "docmgr/ui/waitcursor.h"
 
 namespace {
 constexpr uint16_t QUERY_DELETE = 15700;
 constexpr uint16_t STR_DELETE_FAILED = 15724;
 constexpr uint16_t STR_DELETE_FAILED_END = 15725;
+
+// Paths of the selected rows in list order.
+std::vector<std::string> SelectedDocs(DocBrowser& browser)
+{
+    std::vector<std::string> docs;
+    for (const std::string* doc = browser.GetFirstDoc(); doc; doc = browser.GetNextDoc())
+        docs.push_back(*doc);
+    return docs;
+}
 }  // namespace
 
 void DocManager::WatchControls()
@@ -46,13 +57,14 @@ void DocManager::Command(unsigned short id)
         d->browser->EditDocInfo();
         break;
     case CMD_COPY: {
-        auto dialog = std::make_unique<DocCopyDialog>(this);
+        auto dialog = std::make_unique<DocCopyDialog>(this, SelectedDocs(*d->browser));
         if (dialog->exec() == 1 && dialog->GetDoneCount() != 0)
             CollectFiles();
         break;
     }
     case CMD_RENAME: {
-        auto dialog = std::make_unique<DocRenameDialog>(this);
+        const std::string* first = d->browser->GetFirstDoc();
+        auto dialog = std::make_unique<DocRenameDialog>(this, first ? *first : std::string());
         if (dialog->exec() == 1 && dialog->GetRenameCount() != 0)
             CollectFiles();
         break;
@@ -85,9 +97,9 @@ void DocManager::DeleteSelected()
     WatchControls();
     // The line has always ended up as the remaining count written twice ("1212" for 12
     // rows); scripts that read it rely on that, so it stays.
-    std::string line = GetPathLine();
+    std::string line = d->pathLineText;
     line.erase(0, std::min(line.find(' '), line.size()));
     const std::string count = std::to_string(d->browser->GetRowCount());
     line = count + count;
-    SetPathLine(line);
+    d->SetPathLine(line);
 }

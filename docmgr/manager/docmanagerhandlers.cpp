@@ -10,14 +10,13 @@
 #include "docmgr/dialogs/docgroupsdialog.h"
 #include "docmgr/dialogs/docpathsdialog.h"
 #include "docmgr/dialogs/docsortdialog.h"
-#include "docmgr/manager/docmanager.h"
 #include "docmgr/manager/docmanagerimpl.h"
-#include "docmgr/manager/docmsgbox.h"
+#include "docmgr/ui/docmsgbox.h"
 #include "docmgr/tools/resmgr.h"
 #include "docmgr/tools/tokens.h"
 #include "docmgr/view/docbrowser.h"
 #include "docmgr/view/doccommandmenu.h"
-#include "docmgr/view/waitcursor.h"
+#include "docmgr/ui/waitcursor.h"
 
 namespace {
 constexpr uint16_t STR_SAVE_QUESTION = 15736;
@@ -100,7 +99,9 @@ void DocManager::CollectFiles()
             active += tokens::Get(group.paths, i, ';');
         }
     }
-    SetPathLine(active);
+    d->SetPathLine(active);
+    d->browser->SetDirFileName(d->dirFileName);
+    d->browser->SetCollectPaths(d->GetCollectPaths());
     d->browser->CollectFiles(false);
     WatchControls();
 }
@@ -141,7 +142,7 @@ void DocManager::SectionHdl()
 void DocManager::GroupHdl()
 {
     QuerySave();
-    d->settings->SetCurGroup(GetSelectedGroupName().toStdString());
+    d->settings->SetCurGroup(d->SelectedGroupName().toStdString());
     d->changed = false;
     CollectFiles();
 }
@@ -177,7 +178,7 @@ void DocManager::GroupsHdl()
 {
     QuerySave();
     d->changed = false;
-    auto dialog = std::make_unique<DocGroupsDialog>(this);
+    auto dialog = std::make_unique<DocGroupsDialog>(this, d->settings.get(), d->SelectedGroupName());
     FillSectionBox(dialog->exec() == 1);
 }
 

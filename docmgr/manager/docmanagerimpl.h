@@ -1,18 +1,41 @@
 #pragma once
-// Inside of DocManager, shared by its files: the controls in the order of the dialog,
-// then the settings and the strings the host gave.
+// Inside of DocManager, shared by its files and by the module's tests: the controls in the
+// order of the dialog, then the settings and the strings the host gave. It is the list's
+// host: the list asks the manager's virtual operations and commands through it.
 #include <QFontMetrics>
 #include <QWidget>
 #include <memory>
 #include <string>
 
+#include "docmgr/config/impldocconfig.h"
 #include "docmgr/manager/docmanager.h"
+#include "docmgr/view/doclisthost.h"
 
+class DocBrowser;
 class DocCommandMenu;
 class DocSummaryWindow;
+class QCheckBox;
 class QHBoxLayout;
+class QLabel;
+class QListWidget;
+class QPushButton;
+class QToolButton;
 
-struct DocManager::Impl {
+struct DocManager::Impl final : DocListHost {
+    explicit Impl(DocManager& owner) : manager(owner) {}
+
+    // DocListHost: the host's operations, with the manager as the editor's parent.
+    std::unique_ptr<DocInfo> CreateDocInfo(const std::string& path) override;
+    bool ChangeDocInfo(const std::string& path) override;
+    void Command(unsigned short id) override;
+
+    // Path list for collecting: the path line's text (active paths) or the start paths.
+    std::string GetCollectPaths() const;
+    void SetPathLine(const std::string& text);
+    QString SelectedGroupName() const;
+    bool IsSingleView() const;
+
+    DocManager& manager;
     QLabel* sectionLabel = nullptr;
     QListWidget* sectionList = nullptr;
     QLabel* groupLabel = nullptr;

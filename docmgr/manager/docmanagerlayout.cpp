@@ -6,9 +6,9 @@
 #include <QPushButton>
 #include <QToolButton>
 
-#include "docmgr/manager/docmanager.h"
 #include "docmgr/manager/docmanagerimpl.h"
-#include "docmgr/manager/docmgrresid.h"
+#include "docmgr/ui/docmgrresid.h"
+#include "docmgr/print/docprintdialog.h"
 #include "docmgr/view/docbrowser.h"
 #include "docmgr/view/doccommandmenu.h"
 #include "docmgr/view/docsummarywindow.h"
@@ -86,7 +86,8 @@ void DocManager::BuildControls()
     d->pathLine->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     d->pathLine->setMinimumWidth(1);
 
-    d->browser = new DocBrowser(this);
+    d->browser = new DocBrowser(this, *d);
+    ConnectBrowser();
 
     struct Settings {
         QPushButton*& button;
@@ -142,6 +143,25 @@ void DocManager::BuildControls()
     resize(DialogUnitsX(this, DEFAULT_WIDTH), DialogUnitsY(this, DEFAULT_HEIGHT));
 }
 
+void DocManager::ConnectBrowser()
+{
+    connect(d->browser, &DocBrowser::countLineChanged, this,
+            [this](const QString& line) { d->SetPathLine(line.toStdString()); });
+    connect(d->browser, &DocBrowser::selectionStateChanged, this, [this] {
+        WatchControls();
+        if (d->summary)
+            d->summary->update();  // shows the newly selected document
+    });
+    connect(d->browser, &DocBrowser::rowActivated, this, [this] {
+        if (d->openButton->isEnabled())
+            d->openButton->click();
+    });
+    connect(d->browser, &DocBrowser::printListRequested, this, [this] {
+        DocPrintDialog dialog(d->browser, *d->browser);
+        dialog.exec();
+    });
+}
+
 void DocManager::ConnectHandlers()
 {
     connect(d->commandMenu, &QMenu::triggered, this, &DocManager::CommandsHdl);
@@ -161,14 +181,14 @@ void DocManager::ResizeBrowser()
 {
     const bool single = d->singleViewBox->isChecked();
     if (single && !d->summary) {
-        d->browser->SetSingleSelection(true);
-        d->summary = new DocSummaryWindow(this);
+        d->browser->SetSingleView(true);
+        d->summary = new DocSummaryWindow(this, *d->browser, *d);
         // At least its width; a wider dialog gives the pane the room its values want.
         d->summary->setMinimumWidth(DialogUnitsX(this, SUMMARY_WIDTH));
         d->listRow->addWidget(d->summary, 3);
         d->summary->show();
     } else if (!single && d->summary) {
-        d->browser->SetSingleSelection(false);
+        d->browser->SetSingleView(false);
         delete d->summary;
         d->summary = nullptr;
     }

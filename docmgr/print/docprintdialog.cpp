@@ -10,8 +10,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "docmgr/dialogs/fileoptext.h"
-#include "docmgr/view/waitcursor.h"
+#include "docmgr/ui/fileoptext.h"
+#include "docmgr/ui/waitcursor.h"
 #include "docmgr/print/doclistprinter.h"
 #include "docmgr/print/docprintingdlg.h"
 #include "docmgr/view/docbrowser.h"

@@ -7,7 +7,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include "docmgr/dialogs/fileoptext.h"
+#include "docmgr/ui/fileoptext.h"
 
 namespace {
 constexpr uint16_t kDialog = 15710;

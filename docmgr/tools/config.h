@@ -9,7 +9,9 @@
 #include <string>
 #include <vector>
 
-class Config {
+#include <docmgr/docmgr_export.h>
+
+class DOCMGR_EXPORT Config {
 public:
     // Opens the file at `path`; a missing file is an empty configuration.
     explicit Config(std::string path);

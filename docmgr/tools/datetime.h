@@ -4,7 +4,9 @@
 // hours*1000000 + minutes*10000 + seconds*100 + hundredths (it may be negative).
 #include <cstdint>
 
-class Date {
+#include <docmgr/docmgr_export.h>
+
+class DOCMGR_EXPORT Date {
 public:
     Date() = default;
     explicit Date(uint32_t number) : number_(number) {}
@@ -26,7 +28,7 @@ private:
     uint32_t number_ = 0;
 };
 
-class Time {
+class DOCMGR_EXPORT Time {
 public:
     Time() = default;
     explicit Time(int32_t number) : number_(number) {}

@@ -5,26 +5,28 @@
 #include <algorithm>
 
 #include "docmgr/config/impldocconfig.h"
-#include "docmgr/manager/docmanager.h"
 #include "docmgr/records/docfields.h"
 #include "docmgr/tools/resmgr.h"
 #include "docmgr/view/docbrowserimpl.h"
-#include "docmgr/view/docsummarywindow.h"
 #include "docmgr/view/doccelldelegate.h"
+#include "docmgr/view/doclisthost.h"
 #include "docmgr/view/doclistmodel.h"
 #include "docmgr/view/frozencolumns.h"
-#include "docmgr/view/waitcursor.h"
+#include "docmgr/ui/waitcursor.h"
 
 namespace {
 constexpr uint16_t STR_COUNT_LINE = 15718;
 constexpr uint16_t DEFAULT_WIDTH = 0xFFFF;
 }  // namespace
 
-DocBrowser::Impl::Impl(DocBrowser* b, DocManager* m) : browser(b), manager(m), list(*this), progress(m) {}
+DocBrowser::Impl::Impl(DocBrowser* b, DocListHost& h)
+    : browser(b), host(h), list(*this), progress(b->parentWidget())
+{
+}
 
 std::unique_ptr<DocInfo> DocBrowser::Impl::CreateDocInfo(const std::string& path)
 {
-    return manager->CreateDocInfo(path);
+    return host.CreateDocInfo(path);
 }
 
 void DocBrowser::Impl::CollectProgress(size_t dirs, size_t docs)
@@ -84,8 +86,8 @@ long DocBrowser::Impl::NextSelected(long row) const
     return next;
 }
 
-DocBrowser::DocBrowser(DocManager* parent)
-    : QTableView(parent), d(std::make_unique<Impl>(this, parent))
+DocBrowser::DocBrowser(QWidget* parent, DocListHost& host)
+    : QTableView(parent), d(std::make_unique<Impl>(this, host))
 {
     setObjectName("browser");
     d->model = new DocListModel(this);
@@ -122,14 +124,10 @@ DocBrowser::DocBrowser(DocManager* parent)
 
 DocBrowser::~DocBrowser() = default;
 
-DocManager* DocBrowser::GetMgr() const
+void DocBrowser::Initialize(ImplDocConfig* settings)
 {
-    return d->manager;
-}
-
-void DocBrowser::Initialize()
-{
-    d->list.SetConfig(d->manager->GetSettings());
+    d->settings = settings;
+    d->list.SetConfig(settings);
     QFont dataFont = font();
     dataFont.setWeight(QFont::Normal);
     setFont(dataFont);
@@ -152,12 +150,27 @@ int DocBrowser::DefaultColumnWidth(unsigned short columnId) const
     }
 }
 
+ImplDocConfig* DocBrowser::GetSettings() const
+{
+    return d->settings;
+}
+
+void DocBrowser::SetDirFileName(const std::string& name)
+{
+    d->dirFileName = name;
+}
+
+void DocBrowser::SetCollectPaths(const std::string& paths)
+{
+    d->collectPaths = paths;
+}
+
 void DocBrowser::InsertColumns()
 {
-    const ImplDocConfig* settings = d->manager->GetSettings();
+    const ImplDocConfig* settings = d->settings;
     if (!settings)
         return;
-    const bool single = d->manager->IsSingleView();
+    const bool single = d->singleView;
     auto selected = d->SelectedIntervals();
     if (single && !selected.empty())
         selected = {{selected.front().first, selected.front().first}};
@@ -221,20 +234,18 @@ void DocBrowser::CollectFiles(bool onlyIfNeeded)
         return;
     ScopedWaitCursor wait;
     d->model->HideRows();  // nothing to show while the list is rebuilt
-    const std::string paths = d->manager->GetCollectPaths();
-    d->list.SetConfig(d->manager->GetSettings());
-    if (!d->manager->GetDirFileName().empty())
-        d->list.SetDirFileName(d->manager->GetDirFileName());
+    const std::string paths = d->collectPaths;
+    d->list.SetConfig(d->settings);
+    if (!d->dirFileName.empty())
+        d->list.SetDirFileName(d->dirFileName);
     d->progress.Start();
     d->list.CollectFiles(paths);
     d->progress.Finish();
     d->model->ShowRows(d->list);
     InsertColumns();
-    d->manager->SetPathLine(std::to_string(GetRowCount()) + ResString(STR_COUNT_LINE) + paths);
+    emit countLineChanged(QString::fromStdString(std::to_string(GetRowCount()) + ResString(STR_COUNT_LINE) + paths));
     // The rows are new and none is selected: the controls and the pane follow.
-    d->manager->WatchControls();
-    if (QWidget* summary = d->manager->GetSummaryWindow())
-        summary->update();
+    emit selectionStateChanged();
 }
 
 void DocBrowser::SortFiles(bool repaint)
@@ -288,12 +299,17 @@ unsigned short DocBrowser::GetColumnId(unsigned short position) const
 
 std::string DocBrowser::GetColumnTitle(unsigned short columnId) const
 {
-    const ImplDocConfig* settings = d->manager->GetSettings();
-    return settings ? ::GetColumnTitle(columnId, settings->WorkingGroup()) : std::string();
+    return d->settings ? ::GetColumnTitle(columnId, d->settings->WorkingGroup()) : std::string();
 }
 
-void DocBrowser::SetSingleSelection(bool single)
+bool DocBrowser::IsSingleView() const
 {
+    return d->singleView;
+}
+
+void DocBrowser::SetSingleView(bool single)
+{
+    d->singleView = single;
     setSelectionMode(single ? QAbstractItemView::SingleSelection : QAbstractItemView::ExtendedSelection);
     d->frozen->setSelectionMode(selectionMode());
 }

@@ -7,8 +7,9 @@
 #include "docmgr/records/docinfo.h"
 #include "docmgr/records/docrowlist.h"
 
-class DocManager;
+class DocListHost;
 class DocCommandMenu;
+class ImplDocConfig;
 class DocListModel;
 class FrozenColumnsView;
 class CollectProgress;
@@ -17,12 +18,16 @@ class KxFileStream;
 class DocBrowser : public QTableView {
     Q_OBJECT
 public:
-    explicit DocBrowser(DocManager* parent);
+    DocBrowser(QWidget* parent, DocListHost& host);
     ~DocBrowser() override;
 
-    DocManager* GetMgr() const;
-    // Ties the list to the manager's settings and builds the columns.
-    void Initialize();
+    // Ties the list to the settings in force and builds the columns.
+    void Initialize(ImplDocConfig* settings);
+    ImplDocConfig* GetSettings() const;
+    // Name of the per-directory index file; the row list's default when never set.
+    void SetDirFileName(const std::string& name);
+    // The ";"-separated paths the next collection lists.
+    void SetCollectPaths(const std::string& paths);
     // Rebuilds all columns from the working group (one name column in single view);
     // the selected rows stay selected.
     void InsertColumns();
@@ -32,8 +37,7 @@ public:
     static bool WriteDirFileEntry(KxFileStream& stream, const DocInfo* info);
     // Drops the rows of the deleted file `path`.
     void RowRemoved(const std::string& path);
-    // Reads the manager's path list (or its start paths) afresh and shows the result;
-    // writes the count line into the manager's path line.
+    // Reads the collect paths afresh and shows the result; reports the count line.
     void CollectFiles(bool onlyIfNeeded);
     void SortFiles(bool repaint);
     // Paths of the selected rows in ascending row order; null after the last.
@@ -58,9 +62,11 @@ public:
     void FitColumn(unsigned short columnId);
     // Lets the host edit the first selected document's information and shows it anew.
     void EditDocInfo();
+    // Asks for the list to be printed (printListRequested).
     void PrintList();
-    // Multiple selection (extended) or single selection.
-    void SetSingleSelection(bool single);
+    // Single view: one name column and single selection; otherwise all columns, extended.
+    void SetSingleView(bool single);
+    bool IsSingleView() const;
 
     // Selection helpers for the manager's commands.
     long GetSelectedRowCount() const;
@@ -75,6 +81,15 @@ public:
     DocListModel* GetModel() const;
     FrozenColumnsView* GetFrozenView() const;
     CollectProgress& GetCollectProgress() const;
+
+signals:
+    // The row count line ("<count> documents in <paths>") after a collection.
+    void countLineChanged(const QString& line);
+    // The selection or the rows changed: the controls and the summary pane follow.
+    void selectionStateChanged();
+    // A row was double clicked: the dialog takes the selection as if Open was pressed.
+    void rowActivated();
+    void printListRequested();
 
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;

@@ -1,6 +1,6 @@
 #pragma once
 // Inside of DocBrowser, shared by its files: the row list with its source of document
-// information (the manager) and its view of the selection (the selection model).
+// information (the dialog's host) and its view of the selection (the selection model).
 #include <utility>
 #include <vector>
 
@@ -12,9 +12,9 @@
 class DocCellDelegate;
 
 struct DocBrowser::Impl final : DocSource, DocSelection {
-    explicit Impl(DocBrowser* browser, DocManager* manager);
+    Impl(DocBrowser* browser, DocListHost& host);
 
-    // DocSource: the manager's host supplies the information.
+    // DocSource: the dialog's host supplies the information.
     std::unique_ptr<DocInfo> CreateDocInfo(const std::string& path) override;
     void CollectProgress(size_t dirs, size_t docs) override;
     // DocSelection: the view's selected rows, ascending.
@@ -26,7 +26,11 @@ struct DocBrowser::Impl final : DocSource, DocSelection {
     void SelectIntervals(const std::vector<std::pair<long, long>>& intervals);
 
     DocBrowser* browser;
-    DocManager* manager;
+    DocListHost& host;
+    ImplDocConfig* settings = nullptr;
+    std::string dirFileName;
+    std::string collectPaths;
+    bool singleView = false;
     DocListModel* model = nullptr;
     DocCellDelegate* delegate = nullptr;
     FrozenColumnsView* frozen = nullptr;

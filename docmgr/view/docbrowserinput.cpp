@@ -1,27 +1,22 @@
 // What the document list does on the user's mouse and menu input.
 #include <QContextMenuEvent>
 #include <QHeaderView>
-#include <QPushButton>
 #include <QScrollBar>
 #include <algorithm>
 
 #include "docmgr/config/impldocconfig.h"
-#include "docmgr/manager/docmanager.h"
-#include "docmgr/print/docprintdialog.h"
 #include "docmgr/tools/fsutil.h"
 #include "docmgr/view/docbrowser.h"
 #include "docmgr/view/docbrowserimpl.h"
+#include "docmgr/view/doclisthost.h"
 #include "docmgr/view/doccommandmenu.h"
 #include "docmgr/view/doclistmodel.h"
-#include "docmgr/view/docsummarywindow.h"
 #include "docmgr/view/frozencolumns.h"
 
 void DocBrowser::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
 {
     QTableView::selectionChanged(selected, deselected);
-    d->manager->WatchControls();
-    if (DocSummaryWindow* summary = d->manager->GetSummaryWindow())
-        summary->update();  // shows the newly selected document
+    emit selectionStateChanged();  // the controls and the summary pane follow
 }
 
 void DocBrowser::RowDoubleClicked(const QModelIndex& index)
@@ -29,14 +24,12 @@ void DocBrowser::RowDoubleClicked(const QModelIndex& index)
     if (!index.isValid() || index.row() >= GetRowCount())
         return;
     selectRow(index.row());
-    QPushButton* open = d->manager->GetOpenButton();
-    if (open && open->isEnabled())
-        open->click();
+    emit rowActivated();
 }
 
 void DocBrowser::HeaderDoubleClicked(int column)
 {
-    if (column < 0 || d->manager->IsSingleView())
+    if (column < 0 || d->singleView)
         return;  // the single column always fills the list
     FitColumn(GetColumnId(static_cast<unsigned short>(column)));
 }
@@ -77,7 +70,7 @@ void DocBrowser::SectionResized(int column, int /*oldWidth*/, int newWidth)
         d->frozen->setColumnWidth(column, newWidth);
     d->settingColumns = false;
     d->frozen->UpdateGeometry();
-    if (d->manager->IsSingleView())
+    if (d->singleView)
         return;
     const unsigned short id = GetColumnId(static_cast<unsigned short>(column));
     if (std::find(d->pendingResize.begin(), d->pendingResize.end(), id) == d->pendingResize.end())
@@ -97,7 +90,7 @@ bool DocBrowser::eventFilter(QObject* watched, QEvent* event)
 
 void DocBrowser::ColumnResized(unsigned short columnId)
 {
-    ImplDocConfig* settings = d->manager->GetSettings();
+    ImplDocConfig* settings = d->settings;
     const int column = d->model->ColumnOf(columnId);
     if (!settings || column < 0)
         return;
@@ -142,7 +135,7 @@ std::unique_ptr<DocCommandMenu> DocBrowser::CreateContextMenu()
     if (GetSelectedRowCount() == 0)
         return nullptr;
     auto menu = std::make_unique<DocCommandMenu>(this);
-    const ImplDocConfig* settings = d->manager->GetSettings();
+    const ImplDocConfig* settings = d->settings;
     const uint16_t access = settings ? settings->access : 0;
     // The rights alone: neither the open mode nor the number of rows counts here.
     menu->Item(CMD_DELETE)->setEnabled(access & ACCESS_FILEDELETE);
@@ -160,7 +153,7 @@ void DocBrowser::contextMenuEvent(QContextMenuEvent* event)
         return;
     }
     if (QAction* item = menu->exec(event->globalPos()))
-        d->manager->Command(DocCommandMenu::ItemId(item));
+        d->host.Command(DocCommandMenu::ItemId(item));
 }
 
 void DocBrowser::EditDocInfo()
@@ -169,10 +162,10 @@ void DocBrowser::EditDocInfo()
     if (!first)
         return;
     const std::string doc = *first;
-    if (!d->manager->ChangeDocInfo(d->manager, doc))
+    if (!d->host.ChangeDocInfo(doc))
         return;
     const long row = d->FirstSelected();
-    std::unique_ptr<DocInfo> info = d->manager->CreateDocInfo(doc);
+    std::unique_ptr<DocInfo> info = d->host.CreateDocInfo(doc);
     if (!info)
         info = std::make_unique<DocInfo>();  // the host broke its word; show the file bare
     info->entry = fsutil::Absolute(doc);
@@ -183,6 +176,5 @@ void DocBrowser::EditDocInfo()
 
 void DocBrowser::PrintList()
 {
-    DocPrintDialog dialog(this, *this);
-    dialog.exec();
+    emit printListRequested();
 }

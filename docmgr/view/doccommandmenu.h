@@ -3,6 +3,12 @@
 // commands button carries one, the list opens one as its context menu.
 #include <QMenu>
 
+// Command ids of the commands menu and of the list's context menu.
+enum DocCommand : unsigned short {
+    CMD_DELETE = 20, CMD_DOCINFO = 21, CMD_COPY = 22, CMD_RENAME = 23,
+    CMD_PRINTDOCS = 24, CMD_PRINTLIST = 25
+};
+
 class DocCommandMenu : public QMenu {
     Q_OBJECT
 public:

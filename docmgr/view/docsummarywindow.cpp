@@ -5,7 +5,8 @@
 #include <memory>
 
 #include "docmgr/config/impldocconfig.h"
-#include "docmgr/manager/docmanager.h"
+#include "docmgr/view/docbrowser.h"
+#include "docmgr/view/doclisthost.h"
 #include "docmgr/tools/fsutil.h"
 #include "docmgr/tools/intl.h"
 #include "docmgr/tools/resmgr.h"
@@ -29,7 +30,8 @@ uint16_t TextWidth(const QFontMetrics& metrics, const QString& text)
 }
 }  // namespace
 
-DocSummaryWindow::DocSummaryWindow(DocManager* parent) : QFrame(parent), manager_(parent)
+DocSummaryWindow::DocSummaryWindow(QWidget* parent, DocBrowser& browser, DocListHost& host)
+    : QFrame(parent), browser_(browser), host_(host)
 {
     setObjectName("summaryPane");
     setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
@@ -59,7 +61,7 @@ DocSummaryWindow::~DocSummaryWindow() = default;
 void DocSummaryWindow::paintEvent(QPaintEvent* event)
 {
     QFrame::paintEvent(event);  // the border
-    const std::string* first = manager_->GetFirstDoc();
+    const std::string* first = browser_.GetFirstDoc();
     if (!first)
         return;
     const std::string path = *first;
@@ -67,7 +69,7 @@ void DocSummaryWindow::paintEvent(QPaintEvent* event)
     // and the block lands out of sight, as it always has.
     const uint16_t height = static_cast<uint16_t>(this->height());
     uint16_t y = static_cast<uint16_t>(static_cast<uint16_t>(height - LINE_COUNT * charHeight_) / 2);
-    const std::unique_ptr<DocInfo> info = manager_->CreateDocInfo(path);
+    const std::unique_ptr<DocInfo> info = host_.CreateDocInfo(path);
     if (!info)
         return;
 
@@ -118,7 +120,7 @@ void DocSummaryWindow::paintEvent(QPaintEvent* event)
     draw(Kind::Author, Res(STR_BY), printed ? text(info->printedBy) : none);
     draw(Kind::Line, Res(STR_COMMENT), text(info->comment));
     draw(Kind::Line, Res(STR_KEYWORDS), text(info->keywords));
-    const ImplDocConfig* settings = manager_->GetSettings();
+    const ImplDocConfig* settings = browser_.GetSettings();
     for (size_t i = 0; i < info->info.size(); ++i)
         draw(Kind::Line, settings ? text(settings->WorkingGroup().infoLabel[i]) : QString(),
              text(info->info[i]));

@@ -1,16 +1,18 @@
 #pragma once
 // The summary pane of single view: everything known about the first selected document
 // as a block of 13 label/value lines. It keeps no document data; every paint asks the
-// manager afresh.
+// dialog's host afresh.
 #include <QFrame>
 #include <cstdint>
 
-class DocManager;
+class DocBrowser;
+class DocListHost;
 
 class DocSummaryWindow : public QFrame {
     Q_OBJECT
 public:
-    explicit DocSummaryWindow(DocManager* parent);
+    // Shows the first selected row of `browser`, as `host` reads it.
+    DocSummaryWindow(QWidget* parent, DocBrowser& browser, DocListHost& host);
     ~DocSummaryWindow() override;
 
     // Lines of the block.
@@ -20,7 +22,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    DocManager* manager_;
+    DocBrowser& browser_;
+    DocListHost& host_;
     // Measured once with the pane's font.
     uint16_t labelWidth_ = 0;
     uint16_t charWidth_ = 0;

@@ -2,7 +2,6 @@
 
 #include <QMessageBox>
 
-#include "docmgr/config/impldocconfig.h"
 #include "host/app/docpropertiesdialog.h"
 #include "host/readers/docreader.h"
 
@@ -13,10 +12,7 @@ std::unique_ptr<DocInfo> HostManager::CreateDocInfo(const std::string& file)
 
 bool HostManager::ChangeDocInfo(QWidget* parent, const std::string& file)
 {
-    std::array<std::string, 4> captions;
-    if (const ImplDocConfig* settings = GetSettings())
-        captions = settings->WorkingGroup().infoLabel;
-    DocPropertiesDialog dialog(parent, file, captions);
+    DocPropertiesDialog dialog(parent, file, GetInfoLabels());
     if (!dialog.IsLoaded()) {
         QMessageBox::warning(parent, dialog.windowTitle(),
                              tr("The document information of \"%1\" cannot be changed: "

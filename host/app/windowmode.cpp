@@ -6,6 +6,7 @@
 #include <iostream>
 
 #include "docmgr/tools/config.h"
+#include "docmgr/tools/resmgr.h"
 #include "host/app/documentopener.h"
 #include "host/app/hostmanager.h"
 #include "host/cli/collectpaths.h"
@@ -103,5 +104,8 @@ int RunWindow(int& argc, char** argv, const CommandLine& cmd)
     }
     // The module's resources live from before the manager is built until after it is gone.
     DocManagerDll module;
+    // The command line is read with the same texts on this side of the module's boundary
+    // (the placeholder start path, for one).
+    const ResModule hostTexts;
     return RunManager(cmd, *config);
 }

@@ -12,7 +12,7 @@
 #include "docmgr/dialogs/docdirbox.h"
 #include "docmgr/dialogs/docfolderdialog.h"
 #include "docmgr/dialogs/docrenamedialog.h"
-#include "docmgr/manager/docmsgbox.h"
+#include "docmgr/ui/docmsgbox.h"
 #include "docmgr/tools/config.h"
 #include "docmgr/tools/resmgr.h"
 #include "tests/support/managerloop.h"
@@ -73,7 +73,7 @@ TEST_F(FileDialogTest, CopyKeepsTheSourcesAndCountsWhatItCopied)
     for (const char* name : {"a.odt", "b.odt", "c.odt"})
         dir.MakeFile(std::string("src/") + name, name);
     WithSelected({"a.odt", "c.odt"}, [&] {
-        DocCopyDialog dialog(&host);
+        DocCopyDialog dialog(&host, host.SelectedDocs());
         EXPECT_EQ(ChosenDir(dialog), src) << "starts in the documents' folder";
         ChooseTarget(dialog, dst);
         ASSERT_EQ(ChosenDir(dialog), dst);
@@ -95,7 +95,7 @@ TEST_F(FileDialogTest, MoveLeavesADocumentWhoseTargetExists)
     dir.MakeFile("src/b.odt", "mine b");
     dir.MakeFile("dst/b.odt", "theirs");
     WithSelected({"a.odt", "b.odt"}, [&] {
-        DocCopyDialog dialog(&host);
+        DocCopyDialog dialog(&host, host.SelectedDocs());
         ChooseTarget(dialog, dst);
         dialog.findChild<QCheckBox*>("moveBox")->setChecked(true);
         dialog.findChild<QPushButton*>("okButton")->click();
@@ -114,7 +114,7 @@ TEST_F(FileDialogTest, EveryDocumentFailingStillEndsWithOne)
     dir.MakeFile("src/a.odt", "a");
     dir.MakeFile("src/b.odt", "b");
     WithSelected({"a.odt", "b.odt"}, [&] {
-        DocCopyDialog dialog(&host);  // the tree starts in src: each target is its source
+        DocCopyDialog dialog(&host, host.SelectedDocs());  // the tree starts in src: each target is its source
         dialog.findChild<QPushButton*>("okButton")->click();
         EXPECT_EQ(dialog.result(), 1);
         EXPECT_EQ(dialog.GetDoneCount(), 0);
@@ -133,7 +133,7 @@ TEST_F(FileDialogTest, ANewFolderIsChosenAsTheTarget)
 {
     dir.MakeFile("src/a.odt", "a");
     WithSelected({"a.odt"}, [&] {
-        DocCopyDialog dialog(&host);
+        DocCopyDialog dialog(&host, host.SelectedDocs());
         ChooseTarget(dialog, dst);
         QTimer::singleShot(0, [] {
             auto* folderDialog = qobject_cast<DocFolderDialog*>(QApplication::activeModalWidget());
@@ -157,7 +157,7 @@ protected:
     {
         unsigned count = 99;
         WithSelected({"report.odt"}, [&] {
-            DocRenameDialog dialog(&host);
+            DocRenameDialog dialog(&host, host.SelectedDocs().front());
             EXPECT_EQ(dialog.findChild<QLineEdit*>("oldNameEdit")->text(), "report.odt");
             dialog.findChild<QLineEdit*>("newNameEdit")->setText(newName);
             dialog.findChild<QPushButton*>("okButton")->click();
@@ -210,7 +210,7 @@ TEST_F(RenameDialogTest, ANameWithASeparatorIsRefused)
 TEST_F(RenameDialogTest, AnEmptyNameDisablesOk)
 {
     WithSelected({"report.odt"}, [&] {
-        DocRenameDialog dialog(&host);
+        DocRenameDialog dialog(&host, host.SelectedDocs().front());
         auto* name = dialog.findChild<QLineEdit*>("newNameEdit");
         auto* ok = dialog.findChild<QPushButton*>("okButton");
         EXPECT_TRUE(ok->isEnabled());

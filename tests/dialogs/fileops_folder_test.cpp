@@ -6,7 +6,7 @@
 #include <filesystem>
 
 #include "docmgr/dialogs/docfolderdialog.h"
-#include "docmgr/manager/docmsgbox.h"
+#include "docmgr/ui/docmsgbox.h"
 #include "docmgr/tools/resmgr.h"
 #include "tests/support/tempdir.h"
 

@@ -10,7 +10,7 @@
 #include <QToolButton>
 
 #include "docmgr/dialogs/docgroupsdialog.h"
-#include "docmgr/manager/docmsgbox.h"
+#include "docmgr/ui/docmsgbox.h"
 #include "tests/dialogs/settings_fixture.h"
 #include "tests/support/testhost.h"
 
@@ -50,7 +50,7 @@ protected:
         host = std::make_unique<StartedHost>(nullptr, file.get(), dir.PathOf("docs"), false);
         host->Init();
         config = host->GetSettings();
-        dialog = std::make_unique<DocGroupsDialog>(host.get());
+        dialog = std::make_unique<DocGroupsDialog>(host.get(), host->GetSettings(), host->GetSelectedGroupName());
     }
 
     template <class W>

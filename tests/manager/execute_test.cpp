@@ -1,6 +1,6 @@
 // Running the manager: results, the configuration it reads, its path line and what the
 // host gets back.
-#include "docmgr/manager/docmgrresid.h"
+#include "docmgr/ui/docmgrresid.h"
 #include "docmgr/view/docsummarywindow.h"
 #include "tests/support/managerfixture.h"
 

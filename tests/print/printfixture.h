@@ -11,7 +11,7 @@
 #include <set>
 
 #include "docmgr/config/impldocconfig.h"
-#include "docmgr/manager/docmsgbox.h"
+#include "docmgr/ui/docmsgbox.h"
 #include "docmgr/print/docprintdialog.h"
 #include "docmgr/tools/config.h"
 #include "docmgr/tools/resmgr.h"

@@ -20,7 +20,7 @@
 #include <vector>
 
 #include "docmgr/config/impldocconfig.h"
-#include "docmgr/manager/docmsgbox.h"
+#include "docmgr/ui/docmsgbox.h"
 #include "docmgr/tools/config.h"
 #include "docmgr/tools/fsutil.h"
 #include "docmgr/tools/resmgr.h"

@@ -3,8 +3,12 @@
 // the file name, counts its calls, and its ChangeDocInfo answers as the test says.
 #include <map>
 #include <string>
+#include <vector>
 
-#include "docmgr/manager/docmanager.h"
+#include "docmgr/view/docbrowser.h"
+#include "docmgr/view/doccommandmenu.h"
+
+#include "docmgr/manager/docmanagerimpl.h"
 #include "docmgr/tools/fsutil.h"
 
 class TestHost : public DocManager {
@@ -28,6 +32,26 @@ public:
     using DocManager::FilterHdl;
     using DocManager::SortHdl;
     using DocManager::ColumnsHdl;
+    using DocManager::CollectFiles;
+    using DocManager::WatchControls;
+    using DocManager::Command;
+
+    // What the dialog holds, read through its inside.
+    DocBrowser* GetBrowser() const { return d->browser; }
+    ImplDocConfig* GetSettings() const { return d->settings.get(); }
+    DocSummaryWindow* GetSummaryWindow() const { return d->summary; }
+    const std::string& GetPathLine() const { return d->pathLineText; }
+    bool IsChanged() const { return d->changed; }
+    QString GetSelectedGroupName() const { return d->SelectedGroupName(); }
+    DocListHost& ListHost() const { return *d; }
+    // Paths of the selected rows in list order.
+    std::vector<std::string> SelectedDocs() const
+    {
+        std::vector<std::string> docs;
+        for (const std::string* doc = d->browser->GetFirstDoc(); doc; doc = d->browser->GetNextDoc())
+            docs.push_back(*doc);
+        return docs;
+    }
 
     // Information returned for a file name; files not listed get a title equal to their
     // name, created 2020-01-02 10:00:00 and never printed.

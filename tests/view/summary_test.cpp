@@ -55,7 +55,7 @@ TEST_F(ManagerTest, SummaryInAPaneLowerThanItsBlockIsDrawnOutOfSight)
     dir.MakeFile("docs/a.odt", "x");
     Start();
     Select({"a.odt"});
-    DocSummaryWindow pane(host.get());
+    DocSummaryWindow pane(host.get(), *host->GetBrowser(), host->ListHost());
     const int line = pane.fontMetrics().height();
     pane.resize(600, line * DocSummaryWindow::LINE_COUNT + 4);
     EXPECT_GT(InkedPixels(pane), 0);

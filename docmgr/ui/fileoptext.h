@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "docmgr/dialogs/dialogtext.h"
+#include "docmgr/ui/dialogtext.h"
 
 // A failure message: string `before`, `middle` and string `after` joined directly.
 inline std::string JoinedMessage(uint16_t before, const std::string& middle, uint16_t after)

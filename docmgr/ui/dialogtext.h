@@ -3,7 +3,7 @@
 #include <QString>
 #include <cstdint>
 
-#include "docmgr/manager/docmgrresid.h"
+#include "docmgr/ui/docmgrresid.h"
 
 // Title (local 0) or control text of dialog `dialog`.
 inline QString DialogText(uint16_t dialog, uint16_t local = 0)

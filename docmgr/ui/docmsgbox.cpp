@@ -1,4 +1,4 @@
-#include "docmgr/manager/docmsgbox.h"
+#include "docmgr/ui/docmsgbox.h"
 
 #include <QMessageBox>
 

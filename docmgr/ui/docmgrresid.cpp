@@ -1,4 +1,4 @@
-#include "docmgr/manager/docmgrresid.h"
+#include "docmgr/ui/docmgrresid.h"
 
 DocMgrResId::DocMgrResId(uint16_t id) : id_(id), resMgr_(GetModuleResMgr()) {}
 
