@@ -1,0 +1,78 @@
+# What `cmake --install` puts in place: the programs, the module with its public headers,
+# a CMake package and a pkg-config file for hosts, and the desktop entry, icon and man page.
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+
+set(DOCMGR_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/DocManager)
+set(DOCMGR_PUBLIC_HEADERS
+  docmgr/manager/docmanager.h
+  docmgr/records/docinfo.h
+  docmgr/tools/datetime.h
+  docmgr/tools/config.h)
+
+# Hosts get the module and what its public header needs. The layers built into the shared
+# library are no business of theirs, so they stay out of the exported link interface
+# (the package would otherwise have to export every internal static library too).
+get_target_property(_docmgr_links docmgr INTERFACE_LINK_LIBRARIES)
+set(_docmgr_public_links)
+set(DOCMGR_QT_COMPONENTS)
+foreach(_lib IN LISTS _docmgr_links)
+  if(TARGET ${_lib})
+    get_target_property(_imported ${_lib} IMPORTED)
+    if(NOT _imported)
+      set(_lib "$<BUILD_INTERFACE:${_lib}>")
+    elseif(_lib MATCHES "^Qt6::(.+)$")
+      list(APPEND DOCMGR_QT_COMPONENTS ${CMAKE_MATCH_1})
+    endif()
+  endif()
+  list(APPEND _docmgr_public_links "${_lib}")
+endforeach()
+if(_docmgr_links)
+  set_target_properties(docmgr PROPERTIES INTERFACE_LINK_LIBRARIES "${_docmgr_public_links}")
+endif()
+list(JOIN DOCMGR_QT_COMPONENTS " " DOCMGR_QT_COMPONENTS)
+
+# `#include <docmgr/manager/docmanager.h>` resolves against the installed include folder.
+get_target_property(_docmgr_includes docmgr INTERFACE_INCLUDE_DIRECTORIES)
+if(NOT _docmgr_includes MATCHES "INSTALL_INTERFACE")
+  target_include_directories(docmgr INTERFACE "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>")
+endif()
+
+# The installed program finds the installed module wherever the prefix is.
+file(RELATIVE_PATH _docmgr_bin_to_lib "/${CMAKE_INSTALL_BINDIR}" "/${CMAKE_INSTALL_LIBDIR}")
+set_target_properties(docmanager PROPERTIES INSTALL_RPATH "$ORIGIN/${_docmgr_bin_to_lib}")
+
+install(TARGETS docmanager docmanager-samples RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS docmgr EXPORT DocManagerTargets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+
+foreach(_header IN LISTS DOCMGR_PUBLIC_HEADERS)
+  get_filename_component(_dir ${_header} DIRECTORY)
+  install(FILES ${PROJECT_SOURCE_DIR}/${_header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${_dir})
+endforeach()
+# The export macros are generated with the module; a build without them installs none.
+if(DEFINED DOCMGR_GENERATED_INCLUDE)
+  install(FILES ${DOCMGR_GENERATED_INCLUDE}/docmgr/docmgr_export.h
+          DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/docmgr OPTIONAL)
+endif()
+
+install(EXPORT DocManagerTargets NAMESPACE DocManager:: DESTINATION ${DOCMGR_PACKAGE_DIR})
+configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/DocManagerConfig.cmake.in
+  ${PROJECT_BINARY_DIR}/package/DocManagerConfig.cmake
+  INSTALL_DESTINATION ${DOCMGR_PACKAGE_DIR})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/package/DocManagerConfigVersion.cmake
+  VERSION ${PROJECT_VERSION} COMPATIBILITY SameMajorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/package/DocManagerConfig.cmake
+              ${PROJECT_BINARY_DIR}/package/DocManagerConfigVersion.cmake
+        DESTINATION ${DOCMGR_PACKAGE_DIR})
+
+# pkg-config: paths relative to the .pc file, so the prefix given to `cmake --install` holds.
+file(RELATIVE_PATH DOCMGR_PC_TO_PREFIX "/prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/prefix")
+string(REGEX REPLACE "/$" "" DOCMGR_PC_TO_PREFIX "${DOCMGR_PC_TO_PREFIX}")
+configure_file(${PROJECT_SOURCE_DIR}/cmake/docmgr.pc.in ${PROJECT_BINARY_DIR}/package/docmgr.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/package/docmgr.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+
+install(FILES ${PROJECT_SOURCE_DIR}/host/desktop/docmanager.desktop
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES ${PROJECT_SOURCE_DIR}/host/desktop/docmanager.svg
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+install(FILES ${PROJECT_SOURCE_DIR}/host/desktop/docmanager.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
