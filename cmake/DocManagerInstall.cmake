@@ -10,33 +10,8 @@ set(DOCMGR_PUBLIC_HEADERS
   docmgr/tools/datetime.h
   docmgr/tools/config.h)
 
-# Hosts get the module and what its public header needs. The layers built into the shared
-# library are no business of theirs, so they stay out of the exported link interface
-# (the package would otherwise have to export every internal static library too).
-get_target_property(_docmgr_links docmgr INTERFACE_LINK_LIBRARIES)
-set(_docmgr_public_links)
-set(DOCMGR_QT_COMPONENTS)
-foreach(_lib IN LISTS _docmgr_links)
-  if(TARGET ${_lib})
-    get_target_property(_imported ${_lib} IMPORTED)
-    if(NOT _imported)
-      set(_lib "$<BUILD_INTERFACE:${_lib}>")
-    elseif(_lib MATCHES "^Qt6::(.+)$")
-      list(APPEND DOCMGR_QT_COMPONENTS ${CMAKE_MATCH_1})
-    endif()
-  endif()
-  list(APPEND _docmgr_public_links "${_lib}")
-endforeach()
-if(_docmgr_links)
-  set_target_properties(docmgr PROPERTIES INTERFACE_LINK_LIBRARIES "${_docmgr_public_links}")
-endif()
-list(JOIN DOCMGR_QT_COMPONENTS " " DOCMGR_QT_COMPONENTS)
-
-# `#include <docmgr/manager/docmanager.h>` resolves against the installed include folder.
-get_target_property(_docmgr_includes docmgr INTERFACE_INCLUDE_DIRECTORIES)
-if(NOT _docmgr_includes MATCHES "INSTALL_INTERFACE")
-  target_include_directories(docmgr INTERFACE "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>")
-endif()
+# The module's link interface holds only Qt Widgets: its own layers are linked privately.
+set(DOCMGR_QT_COMPONENTS Widgets)
 
 # The installed program finds the installed module wherever the prefix is.
 file(RELATIVE_PATH _docmgr_bin_to_lib "/${CMAKE_INSTALL_BINDIR}" "/${CMAKE_INSTALL_LIBDIR}")
@@ -49,11 +24,8 @@ foreach(_header IN LISTS DOCMGR_PUBLIC_HEADERS)
   get_filename_component(_dir ${_header} DIRECTORY)
   install(FILES ${PROJECT_SOURCE_DIR}/${_header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${_dir})
 endforeach()
-# The export macros are generated with the module; a build without them installs none.
-if(DEFINED DOCMGR_GENERATED_INCLUDE)
-  install(FILES ${DOCMGR_GENERATED_INCLUDE}/docmgr/docmgr_export.h
-          DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/docmgr OPTIONAL)
-endif()
+install(FILES ${DOCMGR_GENERATED_INCLUDE}/docmgr/docmgr_export.h
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/docmgr)
 
 install(EXPORT DocManagerTargets NAMESPACE DocManager:: DESTINATION ${DOCMGR_PACKAGE_DIR})
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/DocManagerConfig.cmake.in
