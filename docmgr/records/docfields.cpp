@@ -15,6 +15,16 @@ const char* const NOT_SET = "---";
 std::string DateText(const Date& date) { return intl::FormatDate(date); }
 std::string TimeText(const Time& time, const Date& date) { return intl::FormatTime(time, date); }
 
+// What the texts of a stamp show, as numbers: equal keys are equal texts. An unset date
+// shows nothing, and a time shows neither its hundredths nor anything when its date is unset.
+uint32_t DateKey(const Date& date) { return date.IsUnset() ? 0 : date.GetDate(); }
+int32_t TimeKey(const Time& time, const Date& date)
+{
+    return date.IsUnset() ? -1
+                          : int32_t((time.GetHour() % 24) * 10000 + (time.GetMin() % 60) * 100 +
+                                    time.GetSec() % 60);
+}
+
 }  // namespace
 
 std::string GetFieldString(const DocInfo& info, uint16_t columnId)
@@ -27,15 +37,14 @@ std::string GetFieldString(const DocInfo& info, uint16_t columnId)
     case COL_CREATED_DATE: return DateText(info.createdDate);
     case COL_CREATED_TIME: return TimeText(info.createdTime, info.createdDate);
     case COL_AUTHOR: return info.author;
-    case COL_MODIFIED_DATE: {
-        // The modified stamp is judged by its texts, the printed one by its values.
-        std::string text = DateText(info.modifiedDate);
-        return text == DateText(info.createdDate) ? NOT_SET : text;
-    }
-    case COL_MODIFIED_TIME: {
-        std::string text = TimeText(info.modifiedTime, info.modifiedDate);
-        return text == TimeText(info.createdTime, info.createdDate) ? NOT_SET : text;
-    }
+    // The modified stamp is judged by what its texts show, the printed one by its values.
+    case COL_MODIFIED_DATE:
+        return DateKey(info.modifiedDate) == DateKey(info.createdDate) ? NOT_SET
+                                                                        : DateText(info.modifiedDate);
+    case COL_MODIFIED_TIME:
+        return TimeKey(info.modifiedTime, info.modifiedDate) == TimeKey(info.createdTime, info.createdDate)
+                   ? NOT_SET
+                   : TimeText(info.modifiedTime, info.modifiedDate);
     case COL_MODIFIED_BY: return info.modifiedBy;
     case COL_PRINTED_DATE:
         return info.NeverPrinted() ? NOT_SET : DateText(info.printedDate);

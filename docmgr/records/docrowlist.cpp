@@ -6,6 +6,7 @@
 #include "docmgr/records/docsort.h"
 #include "docmgr/records/matches.h"
 #include "docmgr/tools/fsutil.h"
+#include "docmgr/tools/intl.h"
 #include "docmgr/tools/tokens.h"
 
 DocRowList::DocRowList(DocSource& source) : source_(source) {}
@@ -14,6 +15,7 @@ DocRowList::~DocRowList() = default;
 
 void DocRowList::CollectFiles(const std::string& pathList)
 {
+    intl::ReloadPatterns();  // once a listing, not once a stamp
     Clear();
     dirsRead_ = 0;
     probed_ = 0;

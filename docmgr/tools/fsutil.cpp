@@ -1,5 +1,6 @@
 #include "docmgr/tools/fsutil.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <dirent.h>
@@ -7,7 +8,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "docmgr/tools/textcase.h"
 #include "docmgr/tools/wildcard.h"
 
 namespace fs = std::filesystem;
@@ -30,12 +30,12 @@ std::vector<DirItem> List(const std::string& dir, std::string_view pattern, Kind
         return items;
     const int dirFd = dirfd(handle);
     const bool matchAll = pattern == "*";
-    const std::string upperPattern = textcase::ToUpper(pattern);
+    const wildcard::PatternList patterns(pattern, ';', true);
     while (const dirent* entry = readdir(handle)) {
         const std::string_view name = entry->d_name;
         if (name == "." || name == "..")
             continue;
-        if (!matchAll && !wildcard::MatchList(upperPattern, textcase::ToUpper(name), ';'))
+        if (!matchAll && !patterns.Matches(name))
             continue;
         struct stat st {};
         if (fstatat(dirFd, entry->d_name, &st, 0) != 0)
@@ -84,8 +84,34 @@ uint64_t FileSize(const std::string& path)
     return Stat(path, size, mtime) ? size : 0;
 }
 
+namespace {
+
+// Already absolute and lexically normal: no ".", ".." or empty segment, no trailing "/".
+// Every row's path is, so most calls need no work.
+bool IsNormalAbsolute(std::string_view path)
+{
+    if (path.empty() || path.front() != '/')
+        return false;
+    if (path.size() == 1)
+        return true;
+    if (path.back() == '/')
+        return false;
+    for (size_t start = 1; start <= path.size();) {
+        const size_t end = std::min(path.find('/', start), path.size());
+        const std::string_view segment = path.substr(start, end - start);
+        if (segment.empty() || segment == "." || segment == "..")
+            return false;
+        start = end + 1;
+    }
+    return true;
+}
+
+}  // namespace
+
 std::string Absolute(const std::string& path)
 {
+    if (IsNormalAbsolute(path))
+        return path;
     std::error_code error;
     fs::path absolute = fs::absolute(fs::path(path), error);
     if (error)

@@ -2,35 +2,68 @@
 
 #include <QDate>
 #include <QLocale>
-#include <QTime>
+#include <memory>
+
+#include "docmgr/tools/stamppattern.h"
 
 namespace intl {
+namespace {
+
+// The short date and the time with seconds of the system locale.
+struct Patterns {
+    Patterns() : locale(QLocale::system()), date(locale, DatePattern()), time(locale, TimePattern()) {}
+
+    QString DatePattern() const { return locale.dateFormat(QLocale::ShortFormat); }
+
+    QString TimePattern() const
+    {
+        // The short time format drops the seconds in most locales: put them back.
+        QString format = locale.timeFormat(QLocale::ShortFormat);
+        if (!format.contains(QLatin1Char('s'))) {
+            const qsizetype minutes = format.lastIndexOf(QLatin1String("mm"));
+            if (minutes >= 0)
+                format.insert(minutes + 2, QLatin1String(":ss"));
+            else
+                format = QStringLiteral("HH:mm:ss");
+        }
+        return format;
+    }
+
+    QLocale locale;
+    StampPattern date;
+    StampPattern time;
+};
+
+std::unique_ptr<Patterns>& Current()
+{
+    static std::unique_ptr<Patterns> patterns;
+    if (!patterns)
+        patterns = std::make_unique<Patterns>();
+    return patterns;
+}
+
+}  // namespace
+
+void ReloadPatterns()
+{
+    Current() = std::make_unique<Patterns>();
+}
 
 std::string FormatDate(const Date& date)
 {
     if (date.IsUnset())
         return {};
+    const int year = int(date.GetYear()), month = int(date.GetMonth()), day = int(date.GetDay());
     // Years beyond what QDate keeps sensible still get a text from their parts.
-    const QDate qdate(int(date.GetYear()), int(date.GetMonth()), int(date.GetDay()));
-    if (!qdate.isValid())
-        return std::to_string(date.GetYear()) + "-" + std::to_string(date.GetMonth()) + "-" +
-               std::to_string(date.GetDay());
-    return QLocale::system().toString(qdate, QLocale::ShortFormat).toStdString();
+    if (!QDate::isValid(year, month, day))
+        return std::to_string(year) + "-" + std::to_string(month) + "-" + std::to_string(day);
+    return Current()->date.FormatDate(year, month, day);
 }
 
 std::string FormatTime(const Time& time)
 {
-    const QTime qtime(int(time.GetHour() % 24), int(time.GetMin() % 60), int(time.GetSec() % 60));
-    // The short time format drops the seconds in most locales: put them back.
-    QString format = QLocale::system().timeFormat(QLocale::ShortFormat);
-    if (!format.contains(QLatin1Char('s'))) {
-        const qsizetype minutes = format.lastIndexOf(QLatin1String("mm"));
-        if (minutes >= 0)
-            format.insert(minutes + 2, QLatin1String(":ss"));
-        else
-            format = QStringLiteral("HH:mm:ss");
-    }
-    return QLocale::system().toString(qtime, format).toStdString();
+    return Current()->time.FormatTime(int(time.GetHour() % 24), int(time.GetMin() % 60),
+                                       int(time.GetSec() % 60));
 }
 
 std::string FormatTime(const Time& time, const Date& date)

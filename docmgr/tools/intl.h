@@ -4,6 +4,8 @@
 #include "docmgr/tools/datetime.h"
 
 namespace intl {
+// Takes the system locale's patterns afresh; they are taken once and kept until then.
+void ReloadPatterns();
 // Short date of the system locale; empty for an unset date (month or day 0).
 std::string FormatDate(const Date& date);
 // Time with seconds, without hundredths; empty when `date` is unset.

@@ -1,5 +1,6 @@
 #include "docmgr/tools/wildcard.h"
 
+#include <algorithm>
 #include <string>
 
 #include "docmgr/tools/textcase.h"
@@ -67,22 +68,42 @@ bool Match(std::string_view pattern, std::string_view text)
 
 bool MatchList(std::string_view patterns, std::string_view text, char separator)
 {
-    const std::u32string decodedText = Decode(text);
-    size_t start = 0;
-    for (;;) {
-        const size_t end = patterns.find(separator, start);
-        const std::string_view one = patterns.substr(start, end == std::string_view::npos ? std::string_view::npos : end - start);
-        if (MatchDecoded(Decode(one), decodedText))
-            return true;
-        if (end == std::string_view::npos)
-            return false;
-        start = end + 1;
-    }
+    return PatternList(patterns, separator, false).Matches(text);
 }
 
 bool MatchListNoCase(std::string_view patterns, std::string_view text, char separator)
 {
-    return MatchList(textcase::ToUpper(patterns), textcase::ToUpper(text), separator);
+    return PatternList(patterns, separator, true).Matches(text);
+}
+
+PatternList::PatternList(std::string_view patterns, char separator, bool ignoreCase)
+    : ignoreCase_(ignoreCase)
+{
+    const std::string cased = ignoreCase ? textcase::ToUpper(patterns) : std::string(patterns);
+    const std::string_view all = cased;
+    for (size_t start = 0;;) {
+        const size_t end = all.find(separator, start);
+        patterns_.push_back(Decode(all.substr(start, end == std::string_view::npos ? end : end - start)));
+        if (end == std::string_view::npos)
+            break;
+        start = end + 1;
+    }
+}
+
+bool PatternList::Matches(std::string_view text) const
+{
+    std::u32string decoded;
+    const bool ascii = std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; });
+    if (ascii && ignoreCase_) {
+        // Most names are ASCII: upper-case them on the way instead of through Unicode tables.
+        decoded.reserve(text.size());
+        for (char c : text)
+            decoded.push_back(char32_t(c >= 'a' && c <= 'z' ? c - 'a' + 'A' : c));
+    } else {
+        decoded = Decode(ignoreCase_ ? std::string_view(textcase::ToUpper(text)) : text);
+    }
+    return std::any_of(patterns_.begin(), patterns_.end(),
+                       [&](const std::u32string& pattern) { return MatchDecoded(pattern, decoded); });
 }
 
 }  // namespace wildcard

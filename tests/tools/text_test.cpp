@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <QDate>
+#include <QTime>
+
 #include "docmgr/tools/datetime.h"
 #include "docmgr/tools/intl.h"
+#include "docmgr/tools/stamppattern.h"
 #include "docmgr/tools/textcase.h"
 #include "docmgr/tools/tokens.h"
 #include "docmgr/tools/wildcard.h"
@@ -72,4 +76,31 @@ TEST(DateTime, DecimalNumbersAndTexts)
     EXPECT_NE(intl::FormatTime(time).find("27"), std::string::npos);  // seconds are shown
     EXPECT_FALSE(intl::FormatDate(date).empty());
     EXPECT_GE(Date::Today().GetYear(), 2024u);
+}
+
+TEST(StampPattern, WritesWhatTheLocaleWrites)
+{
+    const char* const locales[] = {"C", "de_DE", "en_US", "ru_RU", "fi_FI", "ja_JP", "ar_EG"};
+    const char* const datePatterns[] = {"d MMM yyyy", "dd.MM.yy", "M/d/yy", "dddd, d. MMMM yyyy",
+                                        "'day' d 'of' MMM, ''yy", "yyyy-MM-dd ddd"};
+    const char* const timePatterns[] = {"HH:mm:ss", "h:mm:ss AP", "h:mm:ss ap", "H.mm.ss", "hh:mm:ss A t"};
+    const QDate dates[] = {QDate(2021, 3, 7), QDate(1999, 12, 31), QDate(2000, 1, 1), QDate(987, 5, 9)};
+    const QTime times[] = {QTime(0, 5, 9), QTime(12, 0, 0), QTime(23, 59, 58), QTime(9, 30, 1)};
+    for (const char* name : locales) {
+        const QLocale locale(QString::fromLatin1(name));
+        for (const char* pattern : datePatterns) {
+            const StampPattern compiled(locale, QString::fromLatin1(pattern));
+            for (const QDate& date : dates)
+                EXPECT_EQ(compiled.FormatDate(date.year(), date.month(), date.day()),
+                          locale.toString(date, QString::fromLatin1(pattern)).toStdString())
+                    << name << " " << pattern;
+        }
+        for (const char* pattern : timePatterns) {
+            const StampPattern compiled(locale, QString::fromLatin1(pattern));
+            for (const QTime& time : times)
+                EXPECT_EQ(compiled.FormatTime(time.hour(), time.minute(), time.second()),
+                          locale.toString(time, QString::fromLatin1(pattern)).toStdString())
+                    << name << " " << pattern;
+        }
+    }
 }
