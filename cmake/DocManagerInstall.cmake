@@ -13,11 +13,14 @@ set(DOCMGR_PUBLIC_HEADERS
 # The module's link interface holds only Qt Widgets: its own layers are linked privately.
 set(DOCMGR_QT_COMPONENTS Widgets)
 
-# The installed program finds the installed module wherever the prefix is.
-file(RELATIVE_PATH _docmgr_bin_to_lib "/${CMAKE_INSTALL_BINDIR}" "/${CMAKE_INSTALL_LIBDIR}")
-set_target_properties(docmanager PROPERTIES INSTALL_RPATH "$ORIGIN/${_docmgr_bin_to_lib}")
+# The window program, which docmanager starts, finds the installed module wherever the
+# prefix is.
+set(DOCMGR_WINDOW_DIR ${CMAKE_INSTALL_LIBEXECDIR}/docmanager)
+file(RELATIVE_PATH _docmgr_window_to_lib "/${DOCMGR_WINDOW_DIR}" "/${CMAKE_INSTALL_LIBDIR}")
+set_target_properties(docmanager-window PROPERTIES INSTALL_RPATH "$ORIGIN/${_docmgr_window_to_lib}")
 
 install(TARGETS docmanager docmanager-samples RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS docmanager-window RUNTIME DESTINATION ${DOCMGR_WINDOW_DIR})
 install(TARGETS docmgr EXPORT DocManagerTargets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 
 foreach(_header IN LISTS DOCMGR_PUBLIC_HEADERS)

@@ -1,37 +1,10 @@
-// docmanager: the document manager window, or with --list / --export-config the same
-// listing and configuration for scripts, without a display.
-#include <QCoreApplication>
-#include <cstdlib>
+// docmanager-window: the document manager window. `docmanager` starts it when no headless
+// mode is asked for, so that a listing never loads the window's libraries.
 #include <exception>
 #include <iostream>
 
 #include "host/app/windowmode.h"
 #include "host/cli/commandline.h"
-#include "host/cli/headless.h"
-
-namespace {
-
-int RunHeadlessMode(int& argc, char** argv, const CommandLine& cmd)
-{
-    // Without TZ the C library looks at /etc/localtime again for every local-time
-    // conversion, and reading documents converts several stamps each. A run of a few
-    // seconds can take the zone once.
-    if (!std::getenv("TZ"))
-        setenv("TZ", ":/etc/localtime", 0);
-    QCoreApplication app(argc, argv);
-    const HeadlessResult result = RunHeadless(cmd);
-    std::cerr << result.err;
-    if (result.status == 0)
-        std::cout << result.out;
-    std::cout.flush();
-    if (!std::cout) {
-        std::cerr << "docmanager: the output could not be written\n";
-        return 1;
-    }
-    return result.status;
-}
-
-}  // namespace
 
 int main(int argc, char** argv)
 {
@@ -43,16 +16,6 @@ int main(int argc, char** argv)
         return 2;
     }
     try {
-        switch (cmd.mode) {
-        case RunMode::Help:
-            std::cout << UsageText();
-            return 0;
-        case RunMode::List:
-        case RunMode::ExportConfig:
-            return RunHeadlessMode(argc, argv, cmd);
-        case RunMode::Window:
-            break;
-        }
         return RunWindow(argc, argv, cmd);
     } catch (const std::exception& e) {
         std::cerr << "docmanager: " << e.what() << '\n';

@@ -16,14 +16,18 @@ fail() { echo "install_test: $*" >&2; exit 1; }
 quiet() { "$@" >"$work/log" 2>&1 || { cat "$work/log" >&2; fail "failed: $*"; }; }
 
 quiet "$cmake" --install "$build" --prefix "$prefix"
-for file in bin/docmanager bin/docmanager-samples lib/libdocmgr.so.2 lib/libdocmgr.so \
+for file in bin/docmanager bin/docmanager-samples libexec/docmanager/docmanager-window \
+            lib/libdocmgr.so.2 lib/libdocmgr.so include/docmgr/docmgr_export.h \
             include/docmgr/manager/docmanager.h include/docmgr/records/docinfo.h \
             include/docmgr/tools/datetime.h include/docmgr/tools/config.h \
             share/icons/hicolor/scalable/apps/docmanager.svg share/man/man1/docmanager.1; do
   [[ -e $prefix/$file ]] || fail "$file was not installed"
 done
-# The installed program finds the installed library without help.
 quiet "$prefix/bin/docmanager" --help
+# The window program is found and finds the installed library without help: with no
+# display it starts and says so.
+window_says=$(env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM "$prefix/bin/docmanager" 2>&1 || true)
+[[ $window_says == *"no display"* ]] || fail "the window program did not start: $window_says"
 
 command -v desktop-file-validate >/dev/null || fail "desktop-file-validate is missing (run scripts/setup)"
 quiet desktop-file-validate "$prefix/share/applications/docmanager.desktop"

@@ -1,0 +1,69 @@
+// docmanager: the document manager window, or with --list / --export-config the same
+// listing and configuration for scripts, without a display. The window is a program of
+// its own (docmanager-window), so that a listing loads only Qt Core and the readers.
+#include <QCoreApplication>
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <exception>
+#include <iostream>
+#include <unistd.h>
+
+#include "host/cli/commandline.h"
+#include "host/cli/headless.h"
+#include "host/launcher/windowprogram.h"
+
+namespace {
+
+int RunHeadlessMode(int& argc, char** argv, const CommandLine& cmd)
+{
+    // Without TZ the C library looks at /etc/localtime again for every local-time
+    // conversion, and reading documents converts several stamps each. A run of a few
+    // seconds can take the zone once.
+    if (!std::getenv("TZ"))
+        setenv("TZ", ":/etc/localtime", 0);
+    QCoreApplication app(argc, argv);
+    const HeadlessResult result = RunHeadless(cmd);
+    std::cerr << result.err;
+    if (result.status == 0)
+        std::cout << result.out;
+    std::cout.flush();
+    if (!std::cout) {
+        std::cerr << "docmanager: the output could not be written\n";
+        return 1;
+    }
+    return result.status;
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    const std::vector<std::string> args(argv + 1, argv + argc);
+    CommandLine cmd;
+    std::string error;
+    if (!ParseCommandLine(args, cmd, error)) {
+        std::cerr << "docmanager: " << error << "\n\n" << UsageText();
+        return 2;
+    }
+    try {
+        switch (cmd.mode) {
+        case RunMode::Help:
+            std::cout << UsageText();
+            return 0;
+        case RunMode::List:
+        case RunMode::ExportConfig:
+            return RunHeadlessMode(argc, argv, cmd);
+        case RunMode::Window:
+            break;
+        }
+        const std::string window = WindowProgram();
+        execv(window.c_str(), argv);
+        std::cerr << "docmanager: the window program " << window
+                  << " could not be started: " << std::strerror(errno) << '\n';
+        return 1;
+    } catch (const std::exception& e) {
+        std::cerr << "docmanager: " << e.what() << '\n';
+        return 1;
+    }
+}
