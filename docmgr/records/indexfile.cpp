@@ -288,7 +288,14 @@ void DocRowList::RewriteIndex(DirPass& pass)
     // or the new one, never a mixture. The lock on the old file is held until the new one
     // is in place. The index is dated back to the listing, so that a document changed
     // while it was read is read again next time.
-    replacefile::Replace(pass.indexPath, image, pass.listedAtNs);
+    if (replacefile::Replace(pass.indexPath, image, pass.listedAtNs) != 0)
+        return;
+    // What a rewrite killed before its rename left behind.
+    const std::string temps = pass.indexName + std::string(replacefile::TEMP_INFIX) + "*";
+    for (const fsutil::DirItem& item : fsutil::List(pass.dir, temps, fsutil::Kind::Files)) {
+        if (replacefile::IsAbandonedTemp(item.name, pass.indexName))
+            fsutil::Remove(fsutil::Join(pass.dir, item.name));
+    }
 }
 
 // In-place updates leave the index dated back to the listing (see RewriteIndex); a failed

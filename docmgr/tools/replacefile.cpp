@@ -3,6 +3,7 @@
 #include <atomic>
 #include <cerrno>
 #include <chrono>
+#include <csignal>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -66,6 +67,20 @@ int Replace(const std::string& target, std::string_view contents, int64_t mtimeN
     if (error)
         unlink(temp.c_str());
     return error;
+}
+
+bool IsAbandonedTemp(const std::string& name, const std::string& targetName)
+{
+    const std::string prefix = targetName + std::string(TEMP_INFIX);
+    if (name.compare(0, prefix.size(), prefix) != 0)
+        return false;
+    long pid = 0;
+    size_t at = prefix.size();
+    for (; at < name.size() && name[at] >= '0' && name[at] <= '9' && pid < 1L << 30; ++at)
+        pid = pid * 10 + (name[at] - '0');
+    if (at == prefix.size() || at >= name.size() || name[at] != '-' || pid <= 0)
+        return false;
+    return kill(pid_t(pid), 0) != 0 && errno == ESRCH;
 }
 
 }  // namespace replacefile

@@ -17,4 +17,8 @@ inline constexpr std::string_view TEMP_INFIX = ".tmp-";
 // time. Returns 0 or an errno value; on failure no temporary file is left behind.
 int Replace(const std::string& target, std::string_view contents, int64_t mtimeNs = -1);
 
+// True when `name` is a temporary file of Replace for the file named `targetName` whose
+// process no longer runs (it was killed before the rename): nothing will ever use it.
+bool IsAbandonedTemp(const std::string& name, const std::string& targetName);
+
 }  // namespace replacefile

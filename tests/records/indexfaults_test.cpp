@@ -97,6 +97,8 @@ TEST_F(IndexTest, KilledRewriteNeverLeavesAMixedIndex)
             ASSERT_EQ(row->info[3], name) << "round " << round;
         }
     }
+    // The temporary files of killed rewrites went with the next rewrite.
+    EXPECT_EQ(fsutil::List(dir.Path(), "*", fsutil::Kind::Files).size(), size_t(COUNT) + 1);
 }
 
 TEST_F(IndexTest, FullDiskLeavesThePreviousIndexOrNone)
