@@ -152,10 +152,19 @@ TEST_F(IndexTest, ReadOnlyFolderUsesItsIndexAndWritesNothing)
                             rows.Row(1).comment == "changed.odt";
         return listed && source.CallsFor(dir.PathOf("current.odt")) == 0 ? 0 : 1;
     }, true);
+    // An index that can be neither read nor deleted: the documents are read from the files.
+    chmod(dir.PathOf(INDEX).c_str(), 0);
+    const int unreadable = InChild([&] {
+        ReadDir();
+        ReadDir();
+        return RowNames().size() == 3 ? 0 : 1;
+    }, true);
+    chmod(dir.PathOf(INDEX).c_str(), 0644);
     chmod(dir.Path().c_str(), 0755);
     if (status == 99)
         GTEST_SKIP() << "the folder cannot be made read-only here";
     EXPECT_EQ(status, 0);
+    EXPECT_EQ(unreadable, 0);
     EXPECT_EQ(Index(), original);
 }
 
