@@ -58,7 +58,10 @@ private:
     void ReadDir(const std::string& dir, bool withSubdirs, DirVisit& visit);
     void ReadOneDir(const std::string& absDir);
     void ReadSubdirs(const std::string& absDir, DirVisit& visit);
+    bool OpenIndex(DirPass& pass);
     void ReadIndex(DirPass& pass);
+    void WriteInPlace(DirPass& pass, uint64_t offset, const DocInfo& info);
+    void FinishInPlace(DirPass& pass);
     void ReadRecords(DirPass& pass, const std::string& data, int64_t indexMtimeNs);
     void RewriteIndex(DirPass& pass);
     void ProbeAll(DirPass& pass);

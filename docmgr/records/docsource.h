@@ -14,6 +14,9 @@ public:
     virtual std::unique_ptr<DocInfo> CreateDocInfo(const std::string& path) = 0;
     // Called now and then while a collection runs (directories and documents so far).
     virtual void CollectProgress(size_t /*dirs*/, size_t /*docs*/) {}
+    // Called for a directory that could not be listed (`error` is an errno value); it
+    // adds no rows.
+    virtual void DirectoryUnreadable(const std::string& /*dir*/, int /*error*/) {}
 };
 
 // The selected rows, in ascending order, as the list view reports them.

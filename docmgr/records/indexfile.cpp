@@ -1,7 +1,9 @@
 // Reading and maintaining the per-directory index file, and the recursion into
 // subdirectories.
 #include <algorithm>
+#include <cerrno>
 #include <cstring>
+#include <ctime>
 #include <unordered_map>
 #include <utility>
 
@@ -10,6 +12,7 @@
 #include "docmgr/records/docrowlist.h"
 #include "docmgr/tools/filestream.h"
 #include "docmgr/tools/fsutil.h"
+#include "docmgr/tools/replacefile.h"
 
 namespace {
 
@@ -28,6 +31,19 @@ uint32_t ReadLE32(const char* p)
 {
     const auto* u = reinterpret_cast<const unsigned char*>(p);
     return uint32_t(u[0]) | uint32_t(u[1]) << 8 | uint32_t(u[2]) << 16 | uint32_t(u[3]) << 24;
+}
+
+// Room for records beyond one per directory entry: files made while a listing ran, and
+// the cut-name records of long names.
+constexpr uint64_t SPARE_RECORDS = 64;
+
+// The clock file times are stamped from: a file changed after this moment carries a time
+// no earlier than it.
+int64_t FileClockNowNs()
+{
+    struct timespec now {};
+    clock_gettime(CLOCK_REALTIME_COARSE, &now);
+    return int64_t(now.tv_sec) * 1000000000 + now.tv_nsec;
 }
 
 std::string IndexHeader()
@@ -60,6 +76,8 @@ struct DocRowList::DirPass {
     std::string indexName;
     std::string indexPath;
     std::vector<fsutil::DirItem> files;
+    size_t dirEntries = 0;            // every entry of the directory, to bound the index
+    int64_t listedAtNs = 0;           // taken before the directory was listed
     std::vector<bool> consumed;
     std::unordered_map<std::string, size_t> byName;  // listed name -> position; no index
     std::vector<std::unique_ptr<DocInfo>> working;
@@ -67,10 +85,24 @@ struct DocRowList::DirPass {
     bool rewriteNeeded = false;
     bool reprobeAll = false;
     bool unusable = false;
-    bool mayWrite = true;             // false while another process holds the lock
+    // False while another process holds the lock, and where the index cannot be written
+    // (a read-only folder) or is not a plain file.
+    bool mayWrite = true;
+    bool wroteInPlace = false;
+    bool inPlaceFailed = false;       // a full disk: the index gets its old length back
+    uint64_t indexSize = 0;
+    int64_t indexMtimeNs = 0;
 
-    bool IsIndex(size_t i) const { return files[i].name == indexName; }
-    bool InPlaceUpdates() const { return !rewriteNeeded && !reprobeAll && mayWrite; }
+    // The index and the temporary files of its rewrites are never documents.
+    bool IsIndex(size_t i) const
+    {
+        const std::string& name = files[i].name;
+        return name.compare(0, indexName.size(), indexName) == 0 &&
+               (name.size() == indexName.size() ||
+                name.compare(indexName.size(), replacefile::TEMP_INFIX.size(),
+                             replacefile::TEMP_INFIX) == 0);
+    }
+    bool InPlaceUpdates() const { return !rewriteNeeded && !reprobeAll && mayWrite && !inPlaceFailed; }
 };
 
 bool DocRowList::WriteDirFileEntry(KxFileStream& stream, const DocInfo* info)
@@ -142,10 +174,8 @@ void DocRowList::ReadRecords(DirPass& pass, const std::string& data, int64_t ind
                 continue;  // not consumed: probed again with the new files
             info->entry = path;
             info->size = FileSize32(item.size);
-            if (pass.InPlaceUpdates()) {
-                pass.stream.Seek(offset);
-                WriteDirFileEntry(pass.stream, info.get());
-            }
+            if (pass.InPlaceUpdates())
+                WriteInPlace(pass, offset, *info);
         }
         pass.working.push_back(std::move(info));
         pass.consumed[file] = true;
@@ -156,12 +186,44 @@ void DocRowList::ReadRecords(DirPass& pass, const std::string& data, int64_t ind
             continue;
         std::unique_ptr<DocInfo> info = Probe(pass, i);
         // Non-documents reach the index only through a full rewrite.
-        if (info->HasInfo() && pass.InPlaceUpdates()) {
-            pass.stream.SeekToEnd();
-            WriteDirFileEntry(pass.stream, info.get());
-        }
+        if (info->HasInfo() && pass.InPlaceUpdates())
+            WriteInPlace(pass, pass.stream.Size(), *info);
         pass.working.push_back(std::move(info));
     }
+}
+
+void DocRowList::WriteInPlace(DirPass& pass, uint64_t offset, const DocInfo& info)
+{
+    pass.stream.Seek(offset);
+    if (WriteDirFileEntry(pass.stream, &info))
+        pass.wroteInPlace = true;
+    else
+        pass.inPlaceFailed = true;
+}
+
+// Opens and locks the index, for writing where it can be written. A rewrite by another
+// process renames a new file over the one opened here; the lock is then taken again on
+// the file the name holds now.
+bool DocRowList::OpenIndex(DirPass& pass)
+{
+    for (int attempt = 0; attempt < 8; ++attempt) {
+        pass.mayWrite = true;
+        if (!pass.stream.Open(pass.indexPath, KxFileStream::Mode::ReadWrite)) {
+            if (errno != EACCES && errno != EROFS && errno != EPERM && errno != ETXTBSY)
+                return false;
+            // A folder or index the user cannot write: read it, write nothing.
+            if (!pass.stream.Open(pass.indexPath, KxFileStream::Mode::Read))
+                return false;
+            pass.mayWrite = false;
+        }
+        // Another process busy with this directory: list it, but leave its index alone.
+        if (!pass.stream.LockExclusive(INDEX_LOCK_WAIT_MS))
+            pass.mayWrite = false;
+        if (pass.stream.IsFileAt(pass.indexPath))
+            return true;
+        pass.stream.Close();
+    }
+    return false;
 }
 
 void DocRowList::ReadIndex(DirPass& pass)
@@ -171,47 +233,47 @@ void DocRowList::ReadIndex(DirPass& pass)
         pass.rewriteNeeded = true;
         return;
     }
-    // Something other than a plain file under the index's name (a pipe would block the
-    // read) counts as an index that does not open.
-    if (!fsutil::IsFile(pass.indexPath) ||
-        !pass.stream.Open(pass.indexPath, KxFileStream::Mode::ReadWrite)) {
+    // A directory, a pipe or a link under the index's name is not ours to read, replace
+    // or delete: the documents are listed without an index.
+    if (!fsutil::IsPlainFile(pass.indexPath)) {
+        pass.mayWrite = false;
+        ProbeAll(pass);
+        return;
+    }
+    if (!OpenIndex(pass)) {
         pass.unusable = true;
         return;
     }
-    // Another process busy with this directory: list it, but leave its index alone.
-    pass.mayWrite = pass.stream.LockExclusive(INDEX_LOCK_WAIT_MS);
+    fsutil::Stat(pass.indexPath, pass.indexSize, pass.indexMtimeNs);
+    pass.indexSize = pass.stream.Size();
 
-    uint64_t indexSize = 0;
-    int64_t indexMtimeNs = 0;
-    fsutil::Stat(pass.indexPath, indexSize, indexMtimeNs);
-    std::string data;
-    if (!pass.stream.ReadAll(data) || data.size() < MAGIC_AND_VERSION) {
+    char header[MAGIC_AND_VERSION];
+    if (pass.stream.Read(header, sizeof header) < sizeof header) {
         pass.unusable = true;
         return;
     }
-    const bool badMagic = std::memcmp(data.data(), MAGIC, 4) != 0;
+    const bool badMagic = std::memcmp(header, MAGIC, 4) != 0;
     if (badMagic)
         pass.unusable = true;
-    const auto* header = reinterpret_cast<const unsigned char*>(data.data());
-    const uint16_t version = uint16_t(header[5] | header[6] << 8);
-    if (version != VERSION || badMagic) {
+    const auto* bytes = reinterpret_cast<const unsigned char*>(header);
+    const uint16_t version = uint16_t(bytes[5] | bytes[6] << 8);
+    // Larger than one record for every entry of the directory could make it: damaged
+    // (or hostile), and not worth the memory of reading it.
+    const uint64_t bound = HEADER_SIZE + (pass.dirEntries + SPARE_RECORDS + 1) * DocRecord::SIZE;
+    std::string data;
+    if (version != VERSION || badMagic || pass.indexSize > bound || !pass.stream.ReadAll(data) ||
+        data.size() > bound) {
         pass.reprobeAll = true;
         ProbeAll(pass);
         return;
     }
-    ReadRecords(pass, data, indexMtimeNs);
+    ReadRecords(pass, data, pass.indexMtimeNs);
 }
 
 void DocRowList::RewriteIndex(DirPass& pass)
 {
     if (!pass.mayWrite)
         return;
-    if (!pass.stream.IsOpen()) {
-        if (!pass.stream.Open(pass.indexPath, KxFileStream::Mode::ReadWriteCreate))
-            return;
-        if (!pass.stream.LockExclusive(INDEX_LOCK_WAIT_MS))
-            return;
-    }
     std::string image = IndexHeader();
     image.reserve(HEADER_SIZE + pass.working.size() * DocRecord::SIZE);
     char bytes[DocRecord::SIZE];
@@ -222,11 +284,32 @@ void DocRowList::RewriteIndex(DirPass& pass)
         DocRecord(*info).ToBytes(bytes);
         image.append(bytes, sizeof bytes);
     }
-    // Written over the open, locked file and cut to length, so the lock is held
-    // from the read to the end of the write.
-    pass.stream.Seek(0);
-    const size_t written = pass.stream.Write(image.data(), image.size());
-    pass.stream.Truncate(written);
+    // A new file renamed over the old one, so a crash or a full disk leaves the old index
+    // or the new one, never a mixture. The lock on the old file is held until the new one
+    // is in place. The index is dated back to the listing, so that a document changed
+    // while it was read is read again next time.
+    if (replacefile::Replace(pass.indexPath, image, pass.listedAtNs) != 0)
+        return;
+    // What a rewrite killed before its rename left behind.
+    const std::string temps = pass.indexName + std::string(replacefile::TEMP_INFIX) + "*";
+    for (const fsutil::DirItem& item : fsutil::List(pass.dir, temps, fsutil::Kind::Files)) {
+        if (replacefile::IsAbandonedTemp(item.name, pass.indexName))
+            fsutil::Remove(fsutil::Join(pass.dir, item.name));
+    }
+}
+
+// In-place updates leave the index dated back to the listing (see RewriteIndex); a failed
+// one gives it back its old length and date, so that no record written only in part is
+// taken for current.
+void DocRowList::FinishInPlace(DirPass& pass)
+{
+    if (pass.inPlaceFailed) {
+        if (pass.stream.Size() > pass.indexSize)
+            pass.stream.Truncate(pass.indexSize);
+        pass.stream.SetModified(pass.indexMtimeNs);
+    } else if (pass.wroteInPlace) {
+        pass.stream.SetModified(pass.listedAtNs);
+    }
 }
 
 void DocRowList::ReadDir(const std::string& dir, bool withSubdirs, DirVisit& visit)
@@ -246,7 +329,12 @@ void DocRowList::ReadOneDir(const std::string& absDir)
     const std::string filterFiles = config_ ? config_->WorkingGroup().filterFiles : std::string();
     const std::string pattern = filterFiles.empty() ? std::string(1, '*') : filterFiles;
 
-    pass.files = fsutil::List(pass.dir, pattern, fsutil::Kind::Files);
+    pass.listedAtNs = FileClockNowNs();
+    fsutil::ListStatus listed;
+    pass.files = fsutil::List(pass.dir, pattern, fsutil::Kind::Files, &listed);
+    pass.dirEntries = listed.entries;
+    if (listed.error != 0)
+        source_.DirectoryUnreadable(pass.dir, listed.error);
     pass.indexName = dirFileName_;
     pass.indexPath = fsutil::Join(pass.dir, dirFileName_);
     pass.consumed.assign(pass.files.size(), false);
@@ -257,10 +345,15 @@ void DocRowList::ReadOneDir(const std::string& absDir)
     }
 
     ReadIndex(pass);
+    FinishInPlace(pass);
     if ((pass.rewriteNeeded || (pass.reprobeAll && !pass.unusable)) && !pass.working.empty())
         RewriteIndex(pass);
-    if (pass.working.empty() && pass.mayWrite)
-        fsutil::Remove(pass.indexPath);
+    if (pass.working.empty() && pass.mayWrite) {
+        const int error = fsutil::Remove(pass.indexPath);
+        // An index that cannot be read nor deleted would hide the documents every time.
+        if (pass.unusable && error != 0 && error != ENOENT)
+            ProbeAll(pass);
+    }
     pass.stream.Close();
 
     // Non-documents stay in the index but never become rows.

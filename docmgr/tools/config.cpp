@@ -1,6 +1,8 @@
 #include "docmgr/tools/config.h"
 
 #include <cerrno>
+#include <climits>
+#include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
 #include <fstream>
@@ -8,6 +10,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 #include <unordered_map>
+
+#include "docmgr/tools/replacefile.h"
 
 namespace {
 // A configuration is a small text file; anything larger is not one of ours.
@@ -23,15 +27,21 @@ std::string Trim(std::string_view text)
 }
 }  // namespace
 
-// A line of a section: an entry ("KEY=value") or anything else kept verbatim.
+// A line of a section, kept as it was read (line end included) so that a save gives
+// back every line it does not change byte for byte.
 struct Config::Line {
-    std::string key;    // empty for comments, blank and unknown lines
-    std::string text;   // the value of an entry, else the whole line
+    std::string key;        // empty for comments, blank and unknown lines
+    std::string raw;
+    size_t valueStart = 0;  // the value of an entry: raw[valueStart, valueEnd)
+    size_t valueEnd = 0;
     bool isEntry = false;
+
+    std::string Value() const { return raw.substr(valueStart, valueEnd - valueStart); }
 };
 
 struct Config::Section {
     std::string name;
+    std::string header;  // the header line as read; empty before the first header
     std::vector<Line> lines;
     std::unordered_map<std::string, size_t> keys;  // first line of each key
 };
@@ -70,23 +80,33 @@ Config::~Config()
 
 void Config::Parse(const std::string& text)
 {
+    blank_ = text.find_first_not_of(" \t\r\n") == std::string::npos;
     Section* current = sections_.front().get();
     size_t start = 0;
+    bool firstLine = true;
     while (start < text.size()) {
         size_t end = text.find('\n', start);
+        const size_t next = end == std::string::npos ? text.size() : end + 1;
         if (end == std::string::npos)
             end = text.size();
         std::string_view line(text.data() + start, end - start);
         if (!line.empty() && line.back() == '\r')
             line.remove_suffix(1);
-        start = end + 1;
+        // New lines follow the file's own line ends.
+        if (firstLine && end < text.size())
+            eol_ = line.size() < end - start ? "\r\n" : "\n";
+        firstLine = false;
+        std::string raw = text.substr(start, next - start);
+        start = next;
 
         const std::string trimmed = Trim(line);
         const size_t close = trimmed.find(']');
         if (!trimmed.empty() && trimmed.front() == '[' && close != std::string::npos) {
             auto section = std::make_unique<Section>();
             section->name = trimmed.substr(1, close - 1);
+            section->header = std::move(raw);
             current = section.get();
+            sectionIndex_.emplace(current->name, sections_.size());
             sections_.push_back(std::move(section));
             continue;
         }
@@ -95,12 +115,12 @@ void Config::Parse(const std::string& text)
         const bool comment = !trimmed.empty() && (trimmed.front() == ';' || trimmed.front() == '#');
         if (!comment && equals != std::string_view::npos && !Trim(line.substr(0, equals)).empty()) {
             entry.key = Trim(line.substr(0, equals));
-            entry.text = std::string(line.substr(equals + 1));
+            entry.valueStart = equals + 1;
+            entry.valueEnd = line.size();
             entry.isEntry = true;
             current->keys.emplace(entry.key, current->lines.size());
-        } else {
-            entry.text = std::string(line);
         }
+        entry.raw = std::move(raw);
         current->lines.push_back(std::move(entry));
     }
 }
@@ -108,10 +128,10 @@ void Config::Parse(const std::string& text)
 Config::Section* Config::Find(const std::string& name)
 {
     // Entries before the first header belong to the section without a name.
-    for (size_t i = name.empty() ? 0 : 1; i < sections_.size(); ++i)
-        if (sections_[i]->name == name)
-            return sections_[i].get();
-    return nullptr;
+    if (name.empty())
+        return sections_.front().get();
+    const auto found = sectionIndex_.find(name);
+    return found == sectionIndex_.end() ? nullptr : sections_[found->second].get();
 }
 
 const Config::Section* Config::Find(const std::string& name) const
@@ -135,7 +155,7 @@ std::string Config::ReadKey(const std::string& key, const std::string& defaultVa
     if (!section)
         return defaultValue;
     auto it = section->keys.find(key);
-    return it == section->keys.end() ? defaultValue : section->lines[it->second].text;
+    return it == section->keys.end() ? defaultValue : section->lines[it->second].Value();
 }
 
 void Config::WriteKey(const std::string& key, const std::string& value)
@@ -144,7 +164,9 @@ void Config::WriteKey(const std::string& key, const std::string& value)
     if (!section) {
         auto created = std::make_unique<Section>();
         created->name = group_;
+        created->header = "[" + group_ + "]" + eol_;
         section = created.get();
+        sectionIndex_.emplace(group_, sections_.size());
         sections_.push_back(std::move(created));
     }
     std::string text = value;
@@ -153,50 +175,56 @@ void Config::WriteKey(const std::string& key, const std::string& value)
             c = ' ';
     auto it = section->keys.find(key);
     if (it != section->keys.end()) {
-        if (section->lines[it->second].text == text)
+        Line& line = section->lines[it->second];
+        if (line.Value() == text)
             return;
-        section->lines[it->second].text = std::move(text);
+        line.raw.replace(line.valueStart, line.valueEnd - line.valueStart, text);
+        line.valueEnd = line.valueStart + text.size();
     } else {
-        // New keys go after the last entry, so trailing comments stay at the end.
+        // New keys go after the last entry, so trailing comments stay at the end. Only
+        // blank lines follow that place, so no key's line number changes.
         size_t at = section->lines.size();
-        while (at > 0 && !section->lines[at - 1].isEntry && Trim(section->lines[at - 1].text).empty())
+        while (at > 0 && !section->lines[at - 1].isEntry &&
+               section->lines[at - 1].raw.find_first_not_of(" \t\r\n") == std::string::npos)
             --at;
-        section->lines.insert(section->lines.begin() + ptrdiff_t(at), Line{key, std::move(text), true});
-        section->keys.clear();
-        for (size_t i = 0; i < section->lines.size(); ++i)
-            if (section->lines[i].isEntry)
-                section->keys.emplace(section->lines[i].key, i);
+        Line line;
+        line.key = key;
+        line.raw = key + "=" + text + eol_;
+        line.valueStart = key.size() + 1;
+        line.valueEnd = line.valueStart + text.size();
+        line.isEntry = true;
+        section->lines.insert(section->lines.begin() + ptrdiff_t(at), std::move(line));
+        section->keys.emplace(key, at);
     }
     dirty_ = true;
 }
 
 void Config::DeleteGroup(const std::string& section)
 {
-    for (size_t i = 1; i < sections_.size();) {
-        if (sections_[i]->name == section) {
-            sections_.erase(sections_.begin() + ptrdiff_t(i));
-            dirty_ = true;
-        } else {
-            ++i;
-        }
-    }
+    const size_t before = sections_.size();
+    std::erase_if(sections_, [&](const auto& s) { return s != sections_.front() && s->name == section; });
+    if (sections_.size() == before)
+        return;
+    dirty_ = true;
+    sectionIndex_.clear();
+    for (size_t i = sections_.size(); i-- > 1;)
+        sectionIndex_.insert_or_assign(sections_[i]->name, i);
 }
 
 std::string Config::Serialise() const
 {
     std::string out;
-    auto writeLines = [&out](const Section& section) {
-        for (const Line& line : section.lines) {
-            if (line.isEntry)
-                out += line.key + "=" + line.text + "\n";
-            else
-                out += line.text + "\n";
-        }
+    auto append = [&](const std::string& raw) {
+        // A last line without its line end gets one when something follows it.
+        if (!out.empty() && out.back() != '\n')
+            out += eol_;
+        out += raw;
     };
-    writeLines(*sections_.front());
-    for (size_t i = 1; i < sections_.size(); ++i) {
-        out += "[" + sections_[i]->name + "]\n";
-        writeLines(*sections_[i]);
+    for (const auto& section : sections_) {
+        if (section != sections_.front())
+            append(section->header);
+        for (const Line& line : section->lines)
+            append(line.raw);
     }
     return out;
 }
@@ -210,35 +238,13 @@ bool Config::Flush()
         saveError_ = "not saved, the file was not read: " + loadError_;
         return false;
     }
-    const std::string text = Serialise();
-    std::string temp = path_ + ".XXXXXX";
-    const int fd = mkstemp(temp.data());
-    if (fd < 0) {
-        saveError_ = "cannot write beside " + path_ + ": " + std::strerror(errno);
-        return false;
+    // A linked configuration is saved in its target; the link stays.
+    std::string target = path_;
+    if (char* resolved = realpath(path_.c_str(), nullptr)) {
+        target = resolved;
+        free(resolved);
     }
-    struct stat st {};
-    mode_t mode = 0644;
-    if (stat(path_.c_str(), &st) == 0)
-        mode = st.st_mode & 07777;
-    int error = 0;
-    for (size_t done = 0; done < text.size() && !error;) {
-        const ssize_t put = write(fd, text.data() + done, text.size() - done);
-        if (put < 0 && errno != EINTR)
-            error = errno;
-        else if (put > 0)
-            done += size_t(put);
-    }
-    if (!error && fchmod(fd, mode) != 0)
-        error = errno;
-    if (!error && fsync(fd) != 0 && errno != EINVAL)
-        error = errno;
-    if (close(fd) != 0 && !error)
-        error = errno;
-    if (!error && rename(temp.c_str(), path_.c_str()) != 0)
-        error = errno;
-    if (error) {
-        unlink(temp.c_str());
+    if (const int error = replacefile::Replace(target, Serialise())) {
         saveError_ = "cannot save " + path_ + ": " + std::strerror(error);
         return false;
     }

@@ -2,11 +2,13 @@
 // A sectioned key/value configuration file (INI syntax, UTF-8).
 //
 // "[SECTION]" headers, "KEY=value" lines with the value taken verbatim after the first
-// "="; names are case-sensitive; comments (";" or "#"), blank lines and unknown keys
-// survive a save in their places. Saving writes a temporary file beside the target and
-// renames it over the target, so a crash or a full disk never leaves half a file.
+// "="; names are case-sensitive. A save gives back every line it does not change byte
+// for byte (comments, unknown keys, blanks, CRLF line ends). Saving writes a temporary
+// file beside the target and renames it over the target, so a crash or a full disk
+// never leaves half a file; a linked file is saved in its link's target.
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include <docmgr/docmgr_export.h>
@@ -23,6 +25,8 @@ public:
     const std::string& GetPath() const { return path_; }
     // Why the file could not be read, or empty when it was read (or did not exist).
     const std::string& GetLoadError() const { return loadError_; }
+    // True when the file was missing or held nothing but blanks and line ends.
+    bool IsBlank() const { return blank_; }
 
     void SetGroup(const std::string& section);
     const std::string& GetGroup() const { return group_; }
@@ -49,6 +53,9 @@ private:
     std::string path_;
     std::string group_;
     std::vector<std::unique_ptr<Section>> sections_;  // index 0: lines before the first header
+    std::unordered_map<std::string, size_t> sectionIndex_;  // name -> first section of it
+    std::string eol_ = "\n";
+    bool blank_ = true;
     std::string loadError_;
     std::string saveError_;
     bool dirty_ = false;

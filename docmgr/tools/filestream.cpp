@@ -109,6 +109,20 @@ bool KxFileStream::Truncate(uint64_t size)
     return fd_ >= 0 && ftruncate(fd_, off_t(size)) == 0;
 }
 
+bool KxFileStream::SetModified(int64_t mtimeNs)
+{
+    const struct timespec times[2] = {{0, UTIME_OMIT},
+                                      {time_t(mtimeNs / 1000000000), long(mtimeNs % 1000000000)}};
+    return fd_ >= 0 && futimens(fd_, times) == 0;
+}
+
+bool KxFileStream::IsFileAt(const std::string& path) const
+{
+    struct stat open {}, named {};
+    return fd_ >= 0 && fstat(fd_, &open) == 0 && lstat(path.c_str(), &named) == 0 &&
+           open.st_dev == named.st_dev && open.st_ino == named.st_ino;
+}
+
 bool KxFileStream::LockExclusive(int waitMs)
 {
     if (fd_ < 0)

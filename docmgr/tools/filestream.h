@@ -32,6 +32,10 @@ public:
 
     // Cuts or extends the file to `size` bytes.
     bool Truncate(uint64_t size);
+    // Sets the modification time, in ns since the epoch.
+    bool SetModified(int64_t mtimeNs);
+    // True while `path` still names the open file (it was not replaced or removed).
+    bool IsFileAt(const std::string& path) const;
     // Exclusive lock on the whole file, waiting at most `waitMs`; false if not had.
     // It is an open-file-description lock: it conflicts with every other opener, in this
     // process too, and lasts until Unlock or Close of this stream.

@@ -22,12 +22,18 @@ int64_t MtimeNs(const struct stat& st)
 
 }  // namespace
 
-std::vector<DirItem> List(const std::string& dir, std::string_view pattern, Kind kind)
+std::vector<DirItem> List(const std::string& dir, std::string_view pattern, Kind kind,
+                          ListStatus* status)
 {
     std::vector<DirItem> items;
+    ListStatus seen;
     DIR* handle = opendir(dir.c_str());
-    if (!handle)
+    if (!handle) {
+        seen.error = errno;
+        if (status)
+            *status = seen;
         return items;
+    }
     const int dirFd = dirfd(handle);
     const bool matchAll = pattern == "*";
     const wildcard::PatternList patterns(pattern, ';', true);
@@ -35,6 +41,7 @@ std::vector<DirItem> List(const std::string& dir, std::string_view pattern, Kind
         const std::string_view name = entry->d_name;
         if (name == "." || name == "..")
             continue;
+        ++seen.entries;
         if (!matchAll && !patterns.Matches(name))
             continue;
         struct stat st {};
@@ -46,6 +53,8 @@ std::vector<DirItem> List(const std::string& dir, std::string_view pattern, Kind
         items.push_back({std::string(name), uint64_t(st.st_size), MtimeNs(st)});
     }
     closedir(handle);
+    if (status)
+        *status = seen;
     return items;
 }
 
@@ -59,6 +68,12 @@ bool IsFile(const std::string& path)
 {
     struct stat st {};
     return !path.empty() && stat(path.c_str(), &st) == 0 && S_ISREG(st.st_mode);
+}
+
+bool IsPlainFile(const std::string& path)
+{
+    struct stat st {};
+    return !path.empty() && lstat(path.c_str(), &st) == 0 && S_ISREG(st.st_mode);
 }
 
 bool Exists(const std::string& path)

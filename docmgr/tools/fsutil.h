@@ -16,13 +16,22 @@ struct DirItem {
 
 enum class Kind { Files, Dirs };
 
+// What a listing saw besides its items.
+struct ListStatus {
+    int error = 0;        // errno when the directory could not be opened, else 0
+    size_t entries = 0;   // every entry of the directory, whatever its kind or name
+};
+
 // Entries of `dir` of the given kind whose names match `pattern` (";"-separated
 // alternatives, case-insensitive), in the order the file system gives them.
-// An unreadable or missing directory yields an empty list.
-std::vector<DirItem> List(const std::string& dir, std::string_view pattern, Kind kind);
+// An unreadable or missing directory yields an empty list (and `status->error`).
+std::vector<DirItem> List(const std::string& dir, std::string_view pattern, Kind kind,
+                          ListStatus* status = nullptr);
 
 bool IsDirectory(const std::string& path);
 bool IsFile(const std::string& path);
+// A regular file itself, not a link to one.
+bool IsPlainFile(const std::string& path);
 bool Exists(const std::string& path);
 // Size and modification time; false when the file cannot be stat'ed.
 bool Stat(const std::string& path, uint64_t& size, int64_t& mtimeNs);

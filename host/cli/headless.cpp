@@ -1,5 +1,7 @@
 #include "host/cli/headless.h"
 
+#include <cstring>
+
 #include "docmgr/config/impldocconfig.h"
 #include "docmgr/records/docrowlist.h"
 #include "docmgr/tools/config.h"
@@ -56,6 +58,17 @@ std::string MissingDirectories(const std::string& pathList)
     return warnings;
 }
 
+// Folders that exist but cannot be read would otherwise list as empty without a word.
+class ListingSource : public ReaderDocSource {
+public:
+    void DirectoryUnreadable(const std::string& dir, int error) override
+    {
+        warnings += "docmanager: the directory " + dir + " cannot be read ("
+            + std::strerror(error) + "); skipped\n";
+    }
+    std::string warnings;
+};
+
 HeadlessResult List(const CommandLine& cmd, ImplDocConfig& settings, std::string err)
 {
     if (cmd.groupGiven) {
@@ -72,14 +85,14 @@ HeadlessResult List(const CommandLine& cmd, ImplDocConfig& settings, std::string
             + "\" has no active directory and no START_PATH was given; nothing to list\n";
     err += MissingDirectories(pathList);
 
-    ReaderDocSource source;
+    ListingSource source;
     DocRowList rows(source);
     rows.SetConfig(&settings);
     rows.SetDirFileName(cmd.indexName.empty() ? ResString(STR_INDEX_NAME) : cmd.indexName);
     rows.CollectFiles(pathList);
 
     HeadlessResult result;
-    result.err = std::move(err);
+    result.err = std::move(err) + source.warnings;
     result.out = FormatList(cmd.format, rows.Rows(), ListColumns(group, cmd.columns), group);
     return result;
 }

@@ -1,6 +1,7 @@
 // The JSON form of the list: raw values of every row, keys in a fixed order.
 #include "host/cli/listformat.h"
 
+#include <QByteArray>
 #include <QString>
 #include <cstdio>
 
@@ -57,6 +58,16 @@ void AppendKey(std::string& out, const char* key)
     out += "\": ";
 }
 
+// A name that is not valid UTF-8 comes out with U+FFFD in "path"; its exact bytes follow
+// in base64, so that a script can still name the file.
+void AppendExactPath(std::string& out, const std::string& path)
+{
+    if (ValidUtf8(path) == path)
+        return;
+    AppendKey(out, "pathBase64");
+    out += '"' + QByteArray::fromStdString(path).toBase64().toStdString() + "\",\n";
+}
+
 void AppendTextField(std::string& out, const char* key, const std::string& value)
 {
     AppendKey(out, key);
@@ -68,6 +79,7 @@ void AppendRow(std::string& out, const DocInfo& info)
 {
     out += "  {\n";
     AppendTextField(out, "path", info.entry);
+    AppendExactPath(out, info.entry);
     AppendTextField(out, "name", fsutil::FileName(info.entry));
     AppendTextField(out, "directory", fsutil::DirName(info.entry));
     AppendKey(out, "size");

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include "docmgr/config/configcheck.h"
 #include "docmgr/tools/config.h"
 
 std::string DefaultConfigPath()
@@ -38,6 +39,11 @@ std::unique_ptr<Config> OpenUserConfig(const std::string& path, std::string& err
     auto config = std::make_unique<Config>(file);
     if (!config->GetLoadError().empty()) {
         error = "the configuration " + file + " could not be read: " + config->GetLoadError();
+        return nullptr;
+    }
+    if (!HoldsDocConfig(*config)) {
+        error = "the configuration " + file
+            + " is not empty but holds no [GENERAL], [GROUPS] or [0] section; it is left as it is";
         return nullptr;
     }
     return config;

@@ -15,5 +15,6 @@ bool EnsureConfigDirectory(const std::string& path, std::string& error);
 
 // Opens the configuration at `path` (the default one when empty), creating its directory.
 // Null with `error` set when the file cannot be used: its directory cannot be made, it is
-// a directory, or it exists but cannot be read (it is then left alone, never overwritten).
+// a directory, it exists but cannot be read, or it holds something other than a
+// configuration (it is then left alone, never overwritten).
 std::unique_ptr<Config> OpenUserConfig(const std::string& path, std::string& error);

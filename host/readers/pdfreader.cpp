@@ -6,8 +6,9 @@
 namespace {
 
 // A damaged file is read again with qpdf's repair only when it is small enough for the
-// repair's full scan to stay cheap.
-constexpr uint64_t kMaxRepairSize = 16u << 20;
+// repair's full scan to stay cheap: the scan costs about half a second per megabyte, so
+// a larger damaged file would stall a listing for seconds.
+constexpr uint64_t kMaxRepairSize = 1u << 20;
 
 void FillFrom(QPDFObjectHandle dict, DocInfo& info)
 {

@@ -101,6 +101,19 @@ TEST_F(CliConfigTest, AConfigurationThatCannotBeReadIsLeftAlone)
     EXPECT_EQ(run.out, "");
     EXPECT_NE(run.err.find("a-directory.cfg"), std::string::npos) << run.err;
 
+    // A file that holds something but no configuration (a PDF given by mistake) is not
+    // given a first group, by either mode.
+    const std::string pdf = "%PDF-1.4\r\n1 0 obj\r\n<< /Kids [3 0 R] >>\r\nendobj\r\n%%EOF\r\n";
+    const std::string foreign = WriteConfig(pdf, "paper.pdf");
+    for (const QStringList& mode : {QStringList{"--list"}, QStringList{"--export-config"}}) {
+        run = RunDocmanager(mode + QStringList{"--config", QString::fromStdString(foreign)},
+                            ConfigHome());
+        EXPECT_EQ(run.status, 1) << run.err;
+        EXPECT_EQ(run.out, "");
+        EXPECT_NE(run.err.find("paper.pdf"), std::string::npos) << run.err;
+        EXPECT_EQ(dir.Read("paper.pdf"), pdf);
+    }
+
     const std::string config = WriteConfig(ConfigText({{.name = "Kept"}}), "locked.cfg");
     chmod(config.c_str(), 0);
     if (access(config.c_str(), R_OK) == 0)

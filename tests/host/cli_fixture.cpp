@@ -1,5 +1,7 @@
 #include "tests/host/cli_fixture.h"
 
+#include <unistd.h>
+
 #include <QDateTime>
 #include <QProcess>
 #include <QProcessEnvironment>
@@ -16,7 +18,8 @@ std::string BinaryPath(const std::string& name)
     return std::string(dir && *dir ? dir : ".") + "/" + name;
 }
 
-RunResult RunDocmanager(const QStringList& args, const std::string& configHome)
+RunResult RunDocmanager(const QStringList& args, const std::string& configHome,
+                        bool unprivileged)
 {
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.remove(QStringLiteral("DISPLAY"));
@@ -27,6 +30,12 @@ RunResult RunDocmanager(const QStringList& args, const std::string& configHome)
 
     QProcess process;
     process.setProcessEnvironment(env);
+    if (unprivileged && geteuid() == 0) {
+        process.setChildProcessModifier([] {
+            if (setgid(65534) != 0 || setuid(65534) != 0)
+                _exit(100);
+        });
+    }
     process.start(QString::fromStdString(BinaryPath("docmanager")), args);
     RunResult result;
     if (!process.waitForStarted(30000)) {

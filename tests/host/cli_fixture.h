@@ -22,8 +22,10 @@ struct RunResult {
 std::string BinaryPath(const std::string& name);
 
 // Runs docmanager with `args`; DISPLAY, WAYLAND_DISPLAY and QT_QPA_PLATFORM are removed
-// from its environment and XDG_CONFIG_HOME is `configHome` (when not empty).
-RunResult RunDocmanager(const QStringList& args, const std::string& configHome);
+// from its environment and XDG_CONFIG_HOME is `configHome` (when not empty). With
+// `unprivileged` a run as root runs as the user nobody, so that permissions apply.
+RunResult RunDocmanager(const QStringList& args, const std::string& configHome,
+                        bool unprivileged = false);
 
 // A group section with every key written, so that nothing falls back to empty values.
 struct GroupSpec {

@@ -3,6 +3,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <filesystem>
+#include <sys/stat.h>
 
 #include "tests/host/cli_fixture.h"
 
@@ -161,6 +162,19 @@ TEST_F(CliListTest, StartPathsAreReadWhenTheGroupHasNoActivePath)
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.out, "Title\n");
     EXPECT_NE(run.err.find(dir.PathOf("missing")), std::string::npos) << run.err;
+
+    // So is a folder that cannot be read, also below a listed one.
+    dir.MakeDir("lib/sub/locked");
+    chmod(dir.PathOf("lib/sub/locked").c_str(), 0);
+    chmod(dir.Path().c_str(), 0755);
+    for (const std::string& path : {dir.PathOf("lib/sub/locked"), Lib() + "/**"}) {
+        run = RunDocmanager({"--list", "--config", QString::fromStdString(noPaths), "--format", "tsv",
+                             QString::fromStdString(path)}, ConfigHome(), true);
+        EXPECT_EQ(run.status, 0) << run.err;
+        EXPECT_NE(run.err.find(dir.PathOf("lib/sub/locked") + " cannot be read"), std::string::npos)
+            << run.err;
+    }
+    chmod(dir.PathOf("lib/sub/locked").c_str(), 0755);
 }
 
 TEST_F(CliListTest, ColumnsOptionAndTheGroupsSlotsChooseTheColumns)
@@ -194,6 +208,16 @@ TEST_F(CliListTest, AwkwardTextsKeepTheFormatsIntact)
     const QJsonDocument doc = QJsonDocument::fromJson(QByteArray::fromStdString(json.out));
     ASSERT_TRUE(doc.isArray()) << json.out;
     EXPECT_EQ(doc.array()[0].toObject()["title"].toString(), "Say \"hi\" \\ then\ttab");
+    EXPECT_FALSE(doc.array()[0].toObject().contains("pathBase64"));
+
+    // A name that is not UTF-8: its exact bytes can be had back.
+    dir.Remove("lib/q.odt");
+    const std::string odd = dir.PathOf("lib/r\xff.odt");
+    std::filesystem::rename(WriteDoc("lib/r.odt", "Odd", "Ann", 1), odd);
+    const QJsonDocument oddDoc = QJsonDocument::fromJson(
+        QByteArray::fromStdString(List(config, {"--format", "json"}).out));
+    const QJsonObject row = oddDoc.array()[0].toObject();
+    EXPECT_EQ(QByteArray::fromBase64(row["pathBase64"].toString().toLatin1()).toStdString(), odd);
 }
 
 TEST_F(CliListTest, AnEmptyListIsStillWellFormed)

@@ -124,6 +124,11 @@ TEST(ReadersDamaged, EncryptedAndBrokenPdfs)
     auto repaired = ReadDocInfo(dir.PathOf("moved.pdf"));
     ASSERT_NE(repaired, nullptr);
     EXPECT_EQ(repaired->title, "Recovered");
+    // Beyond a megabyte the repair's full scan is not tried.
+    std::string large = moved;
+    large.insert(large.find('\n') + 1, "%" + std::string(1u << 20, 'x') + "\n");
+    dir.MakeFile("large-moved.pdf", large);
+    ExpectEmptyDocument(dir.PathOf("large-moved.pdf"));
 
     // A header late in the first kilobyte still makes a PDF; none at all, under a PDF
     // name, makes a document that is not even opened.

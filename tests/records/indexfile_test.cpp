@@ -153,13 +153,6 @@ TEST_F(IndexTest, ShortIndexListsNothingOnceAndIsDeleted)
     ReadDir();
     EXPECT_EQ(RowNames(), Names{"a.odt"});
     EXPECT_EQ(Index(), Image({SampleRecord("a.odt")}));
-
-    // A pipe under the index's name would block a read: it is no index either.
-    dir.Remove(INDEX);
-    ASSERT_EQ(mkfifo(dir.PathOf(INDEX).c_str(), 0600), 0);
-    ReadDir();
-    EXPECT_TRUE(RowNames().empty());
-    EXPECT_FALSE(dir.Exists(INDEX));
 }
 
 TEST_F(IndexTest, UnopenableIndexListsNothingOnceAndIsDeleted)

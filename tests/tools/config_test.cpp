@@ -23,13 +23,14 @@ TEST_F(ConfigFile, CommentsUnknownKeysAndOrderSurviveASave)
 {
     WriteFile(path,
               "; made by hand\n"
-              "[GENERAL]\n"
+              "[GENERAL] ; text after the header\n"
               "VIEWMODE=MULTI\n"
               "# keep me\n"
-              "OWNKEY=own value\n"
+              "OWNKEY = own value\n"
               "\n"
               "[OTHER]\r\n"
-              "A=1=2\r\n");
+              "A=1=2\r\n"
+              "B=no line end");
     {
         Config config(path);
         EXPECT_TRUE(config.GetLoadError().empty());
@@ -41,16 +42,31 @@ TEST_F(ConfigFile, CommentsUnknownKeysAndOrderSurviveASave)
         config.WriteKey("ACTUALGROUP", "2");
         ASSERT_TRUE(config.Flush());
     }
-    EXPECT_EQ(ReadFile(path),
-              "; made by hand\n"
-              "[GENERAL]\n"
-              "VIEWMODE=SINGLE\n"
-              "# keep me\n"
-              "OWNKEY=own value\n"
-              "ACTUALGROUP=2\n"
-              "\n"
-              "[OTHER]\n"
-              "A=1=2\n");
+    // Lines not changed come back byte for byte; the new key takes the first line's end.
+    const std::string expected =
+        "; made by hand\n"
+        "[GENERAL] ; text after the header\n"
+        "VIEWMODE=SINGLE\n"
+        "# keep me\n"
+        "OWNKEY = own value\n"
+        "ACTUALGROUP=2\n"
+        "\n"
+        "[OTHER]\r\n"
+        "A=1=2\r\n"
+        "B=no line end";
+    EXPECT_EQ(ReadFile(path), expected);
+
+    // Through a link the target is saved and the link stays.
+    const std::string link = dir.filePath("link.cfg").toStdString();
+    std::filesystem::create_symlink(path, link);
+    {
+        Config config(link);
+        config.SetGroup("OTHER");
+        config.WriteKey("C", "3");
+        ASSERT_TRUE(config.Flush());
+    }
+    EXPECT_TRUE(std::filesystem::is_symlink(link));
+    EXPECT_EQ(ReadFile(path), expected + "\nC=3\n");
 }
 
 TEST_F(ConfigFile, WritesCreateSectionsAndDeleteRemovesThem)
