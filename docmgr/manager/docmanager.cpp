@@ -113,6 +113,13 @@ std::unique_ptr<DocInfo> DocManager::Impl::CreateDocInfo(const std::string& path
     return manager.CreateDocInfo(path);
 }
 
+void DocManager::ReadAhead(const std::vector<std::string>& /*files*/) {}
+
+void DocManager::Impl::ReadAhead(const std::vector<std::string>& paths)
+{
+    manager.ReadAhead(paths);
+}
+
 bool DocManager::Impl::ChangeDocInfo(const std::string& path)
 {
     return manager.ChangeDocInfo(&manager, path);

@@ -6,6 +6,7 @@
 #include <array>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include <docmgr/docmgr_export.h>
 
@@ -31,6 +32,10 @@ public:
     virtual std::unique_ptr<DocInfo> CreateDocInfo(const std::string& file) = 0;
     // Host: lets the user edit the information of `file`; true when it changed.
     virtual bool ChangeDocInfo(QWidget* parent, const std::string& file) = 0;
+    // Host, optional: the files whose information is asked for next, in that order (one
+    // directory's new and changed documents). A host may start reading them on other
+    // threads; CreateDocInfo is still called for each, on this thread, as before.
+    virtual void ReadAhead(const std::vector<std::string>& files);
 
     // Name of the per-directory index file; set it before the first Execute.
     void SetDirFileName(const std::string& name);

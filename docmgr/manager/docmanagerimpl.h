@@ -27,6 +27,7 @@ struct DocManager::Impl final : DocListHost {
     // DocListHost: the host's operations, with the manager as the editor's parent.
     std::unique_ptr<DocInfo> CreateDocInfo(const std::string& path) override;
     bool ChangeDocInfo(const std::string& path) override;
+    void ReadAhead(const std::vector<std::string>& paths) override;
     void Command(unsigned short id) override;
 
     // Path list for collecting: the path line's text (active paths) or the start paths.

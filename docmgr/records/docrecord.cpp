@@ -116,7 +116,7 @@ void DocRecord::WriteTime(DocTime& out, const Time& time)
     out.seconds = static_cast<uint8_t>((a / 100) % 100);
 }
 
-std::string DocRecord::ReadString(const char* field, unsigned short width) const
+std::string DocRecord::ReadString(const char* field, unsigned short width)
 {
     size_t length = width;
     while (length > 0 && field[length - 1] == BLANK)

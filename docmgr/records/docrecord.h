@@ -40,7 +40,9 @@ struct DocRecord {
     static void WriteDate(DocDate& out, const Date& date);
     static void WriteTime(DocTime& out, const Time& time);
     // The field's bytes with trailing blanks removed.
-    std::string ReadString(const char* field, unsigned short width) const;
+    static std::string ReadString(const char* field, unsigned short width);
+    // The name field of the record whose 728 bytes start at `in`.
+    static std::string ReadName(const char* in) { return ReadString(in, NAME_LEN); }
     Date ReadDate(const DocDate& date) const;
     Time ReadTime(const DocTime& time) const;
 

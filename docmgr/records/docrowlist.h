@@ -62,6 +62,8 @@ private:
     void ReadIndex(DirPass& pass);
     void WriteInPlace(DirPass& pass, uint64_t offset, const DocInfo& info);
     void FinishInPlace(DirPass& pass);
+    std::vector<std::string> PlanReads(const DirPass& pass, const std::string& data,
+                                       int64_t indexMtimeNs) const;
     void ReadRecords(DirPass& pass, const std::string& data, int64_t indexMtimeNs);
     void RewriteIndex(DirPass& pass);
     void ProbeAll(DirPass& pass);

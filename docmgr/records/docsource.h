@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "docmgr/records/docinfo.h"
 
@@ -12,6 +13,10 @@ public:
     virtual ~DocSource() = default;
     // A new DocInfo for the file at `path`, or null when it is not a document.
     virtual std::unique_ptr<DocInfo> CreateDocInfo(const std::string& path) = 0;
+    // The files of one directory whose information is asked for next, in that order: a
+    // source may start reading them (on other threads, say). What CreateDocInfo returns
+    // must not depend on it.
+    virtual void ReadAhead(const std::vector<std::string>& /*paths*/) {}
     // Called now and then while a collection runs (directories and documents so far).
     virtual void CollectProgress(size_t /*dirs*/, size_t /*docs*/) {}
     // Called for a directory that could not be listed (`error` is an errno value); it

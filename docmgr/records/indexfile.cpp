@@ -138,16 +138,47 @@ std::unique_ptr<DocInfo> DocRowList::Probe(const DirPass& pass, size_t file)
 
 void DocRowList::ProbeAll(DirPass& pass)
 {
+    std::vector<std::string> reads;
+    for (size_t i = 0; i < pass.files.size(); ++i) {
+        if (!pass.IsIndex(i))
+            reads.push_back(fsutil::Join(pass.dir, pass.files[i].name));
+    }
+    source_.ReadAhead(reads);
     for (size_t i = 0; i < pass.files.size(); ++i) {
         if (!pass.IsIndex(i))
             pass.working.push_back(Probe(pass, i));
     }
 }
 
+// The files the records leave to be read, in the order ReadRecords asks for them: those
+// changed since the index was written, then those it has no record of.
+std::vector<std::string> DocRowList::PlanReads(const DirPass& pass, const std::string& data,
+                                               int64_t indexMtimeNs) const
+{
+    std::vector<std::string> reads;
+    std::vector<bool> recorded(pass.files.size(), false);
+    for (size_t offset = HEADER_SIZE; offset + DocRecord::SIZE <= data.size();
+         offset += DocRecord::SIZE) {
+        const std::string name = DocRecord::ReadName(data.data() + offset);
+        const auto found = pass.byName.find(name);
+        if (found == pass.byName.end() || recorded[found->second])
+            continue;
+        recorded[found->second] = true;
+        if (indexMtimeNs <= pass.files[found->second].mtimeNs)
+            reads.push_back(fsutil::Join(pass.dir, name));
+    }
+    for (size_t i = 0; i < pass.files.size(); ++i) {
+        if (!recorded[i] && !pass.IsIndex(i))
+            reads.push_back(fsutil::Join(pass.dir, pass.files[i].name));
+    }
+    return reads;
+}
+
 void DocRowList::ReadRecords(DirPass& pass, const std::string& data, int64_t indexMtimeNs)
 {
     if (data.size() >= HEADER_SIZE)
         pass.stream.SetCharSet(ReadLE32(data.data() + MAGIC_AND_VERSION));
+    source_.ReadAhead(PlanReads(pass, data, indexMtimeNs));
 
     // Only whole records count; a partial one at the end stays as it is.
     for (size_t offset = HEADER_SIZE; offset + DocRecord::SIZE <= data.size();

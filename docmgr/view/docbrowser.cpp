@@ -29,6 +29,11 @@ std::unique_ptr<DocInfo> DocBrowser::Impl::CreateDocInfo(const std::string& path
     return host.CreateDocInfo(path);
 }
 
+void DocBrowser::Impl::ReadAhead(const std::vector<std::string>& paths)
+{
+    host.ReadAhead(paths);
+}
+
 void DocBrowser::Impl::CollectProgress(size_t dirs, size_t docs)
 {
     progress.Update(dirs, docs);

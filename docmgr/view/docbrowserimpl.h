@@ -16,6 +16,7 @@ struct DocBrowser::Impl final : DocSource, DocSelection {
 
     // DocSource: the dialog's host supplies the information.
     std::unique_ptr<DocInfo> CreateDocInfo(const std::string& path) override;
+    void ReadAhead(const std::vector<std::string>& paths) override;
     void CollectProgress(size_t dirs, size_t docs) override;
     // DocSelection: the view's selected rows, ascending.
     long FirstSelected() const override;

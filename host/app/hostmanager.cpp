@@ -7,7 +7,12 @@
 
 std::unique_ptr<DocInfo> HostManager::CreateDocInfo(const std::string& file)
 {
-    return ReadDocInfo(file);
+    return readAhead_.Take(file);
+}
+
+void HostManager::ReadAhead(const std::vector<std::string>& files)
+{
+    readAhead_.Start(files);
 }
 
 bool HostManager::ChangeDocInfo(QWidget* parent, const std::string& file)

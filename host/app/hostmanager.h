@@ -2,6 +2,7 @@
 // The reference host's document manager: document information comes from the readers,
 // and is edited in the document properties dialog.
 #include "docmgr/manager/docmanager.h"
+#include "host/readers/readahead.h"
 
 class HostManager : public DocManager {
     Q_OBJECT
@@ -9,6 +10,11 @@ public:
     using DocManager::DocManager;
 
     std::unique_ptr<DocInfo> CreateDocInfo(const std::string& file) override;
+    // Reads a directory's new and changed documents on every core.
+    void ReadAhead(const std::vector<std::string>& files) override;
     // Shows the properties dialog for `file`; true when the changes were written.
     bool ChangeDocInfo(QWidget* parent, const std::string& file) override;
+
+private:
+    DocReadAhead readAhead_;
 };

@@ -1,8 +1,11 @@
 #include "host/cli/readersource.h"
 
-#include "host/readers/docreader.h"
-
 std::unique_ptr<DocInfo> ReaderDocSource::CreateDocInfo(const std::string& path)
 {
-    return ReadDocInfo(path);
+    return readAhead_.Take(path);
+}
+
+void ReaderDocSource::ReadAhead(const std::vector<std::string>& paths)
+{
+    readAhead_.Start(paths);
 }

@@ -1,0 +1,43 @@
+#pragma once
+// Reads the documents of a directory on every core ahead of their turn, so that the row
+// list, which asks for them one by one on its own thread, mostly finds them read. What it
+// hands out is exactly what ReadDocInfo returns.
+#include <condition_variable>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <unordered_map>
+#include <vector>
+
+#include "docmgr/records/docinfo.h"
+
+class DocReadAhead {
+public:
+    DocReadAhead() = default;
+    ~DocReadAhead();
+    DocReadAhead(const DocReadAhead&) = delete;
+    DocReadAhead& operator=(const DocReadAhead&) = delete;
+
+    // Starts reading `paths` in their order on a pool as large as the machine has cores;
+    // what an earlier start read and nobody took is dropped.
+    void Start(const std::vector<std::string>& paths);
+    // The information of `path`: taken from the pool (waiting while it is being read), or
+    // read here when it was not planned, not yet begun or already taken.
+    std::unique_ptr<DocInfo> Take(const std::string& path);
+
+private:
+    enum class State : unsigned char { Waiting, Reading, Read, Taken };
+    void Work();
+    void Stop();
+
+    std::vector<std::string> paths_;
+    std::unordered_map<std::string, size_t> index_;
+    std::vector<std::unique_ptr<DocInfo>> results_;
+    std::vector<State> states_;
+    size_t next_ = 0;
+    bool stopping_ = false;
+    std::mutex mutex_;
+    std::condition_variable read_;
+    std::vector<std::thread> workers_;
+};
