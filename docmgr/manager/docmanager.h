@@ -93,6 +93,7 @@ private:
     void ConnectBrowser();
     void ConnectHandlers();
     void DeleteSelected();
+    void ExportList();
     template <class Dialog> bool RunSettingsDialog();
 };
 
