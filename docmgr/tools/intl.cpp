@@ -6,6 +6,15 @@
 
 namespace intl {
 
+std::string ShortDateFormat()
+{
+    // Most short formats carry "yy": a two-digit year is ambiguous in a list of documents.
+    QString format = QLocale::system().dateFormat(QLocale::ShortFormat);
+    if (!format.contains(QLatin1String("yyyy")))
+        format.replace(QLatin1String("yy"), QLatin1String("yyyy"));
+    return format.toStdString();
+}
+
 std::string FormatDate(const Date& date)
 {
     if (date.IsUnset())
@@ -15,7 +24,7 @@ std::string FormatDate(const Date& date)
     if (!qdate.isValid())
         return std::to_string(date.GetYear()) + "-" + std::to_string(date.GetMonth()) + "-" +
                std::to_string(date.GetDay());
-    return QLocale::system().toString(qdate, QLocale::ShortFormat).toStdString();
+    return QLocale::system().toString(qdate, QString::fromStdString(ShortDateFormat())).toStdString();
 }
 
 std::string FormatTime(const Time& time)

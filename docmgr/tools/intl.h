@@ -4,7 +4,9 @@
 #include "docmgr/tools/datetime.h"
 
 namespace intl {
-// Short date of the system locale; empty for an unset date (month or day 0).
+// The system locale's short date format with the year in four digits.
+std::string ShortDateFormat();
+// Short date of the system locale, four-digit year; empty for an unset date (month or day 0).
 std::string FormatDate(const Date& date);
 // Time with seconds, without hundredths; empty when `date` is unset.
 std::string FormatTime(const Time& time, const Date& date);
