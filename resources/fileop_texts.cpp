@@ -6,34 +6,40 @@ constexpr ResKind D = ResKind::Dialog;
 
 constexpr ResEntry kTexts[] = {
     // Copy or move (15706).
-    {D, 15706, 0, "Copy or Move Documents", "Dokumente kopieren oder verschieben"},
-    {D, 15706, 22, "&Target folder:", "&Zielordner:"},
-    {D, 15706, 18, "OK", "OK"},
-    {D, 15706, 19, "Cancel", "Abbrechen"},
-    {D, 15706, 35, "&New Folder...", "&Neuer Ordner..."},
-    {D, 15706, 101, "&Move (remove the originals)", "&Verschieben (Originale entfernen)"},
+    {D, 15706, 0, QT_TRANSLATE_NOOP3("DocMgr", "Copy or Move Documents", "dialog 15706.0")},
+    {D, 15706, 22, QT_TRANSLATE_NOOP3("DocMgr", "&Target folder:", "dialog 15706.22")},
+    {D, 15706, 18, QT_TRANSLATE_NOOP3("DocMgr", "OK", "dialog 15706.18")},
+    {D, 15706, 19, QT_TRANSLATE_NOOP3("DocMgr", "Cancel", "dialog 15706.19")},
+    {D, 15706, 35, QT_TRANSLATE_NOOP3("DocMgr", "&New Folder...", "dialog 15706.35")},
+    {D, 15706, 101, QT_TRANSLATE_NOOP3("DocMgr", "&Move (remove the originals)", "dialog 15706.101")},
     // New folder (15707); the base directory follows the title in brackets.
-    {D, 15707, 0, "New Folder", "Neuer Ordner"},
-    {D, 15707, 14, "&Name of the new folder:", "&Name des neuen Ordners:"},
-    {D, 15707, 18, "OK", "OK"},
-    {D, 15707, 19, "Cancel", "Abbrechen"},
+    {D, 15707, 0, QT_TRANSLATE_NOOP3("DocMgr", "New Folder", "dialog 15707.0")},
+    {D, 15707, 14, QT_TRANSLATE_NOOP3("DocMgr", "&Name of the new folder:", "dialog 15707.14")},
+    {D, 15707, 18, QT_TRANSLATE_NOOP3("DocMgr", "OK", "dialog 15707.18")},
+    {D, 15707, 19, QT_TRANSLATE_NOOP3("DocMgr", "Cancel", "dialog 15707.19")},
     // Rename (15708).
-    {D, 15708, 0, "Rename Document", "Dokument umbenennen"},
-    {D, 15708, 110, "Current name:", "Bisheriger Name:"},
-    {D, 15708, 112, "&New name:", "&Neuer Name:"},
-    {D, 15708, 18, "OK", "OK"},
-    {D, 15708, 19, "Cancel", "Abbrechen"},
+    {D, 15708, 0, QT_TRANSLATE_NOOP3("DocMgr", "Rename Document", "dialog 15708.0")},
+    {D, 15708, 110, QT_TRANSLATE_NOOP3("DocMgr", "Current name:", "dialog 15708.110")},
+    {D, 15708, 112, QT_TRANSLATE_NOOP3("DocMgr", "&New name:", "dialog 15708.112")},
+    {D, 15708, 18, QT_TRANSLATE_NOOP3("DocMgr", "OK", "dialog 15708.18")},
+    {D, 15708, 19, QT_TRANSLATE_NOOP3("DocMgr", "Cancel", "dialog 15708.19")},
     // Print the list (15709).
-    {D, 15709, 0, "Print Document List", "Dokumentliste drucken"},
-    {D, 15709, 114, "&Columns to print:", "Zu druckende &Spalten:"},
-    {D, 15709, 18, "&Print", "&Drucken"},
-    {D, 15709, 19, "Cancel", "Abbrechen"},
-    {D, 15709, 136, "P&rinter...", "D&rucker..."},
-    {D, 15709, 137, "&Font...", "Schrift&art..."},
+    {D, 15709, 0, QT_TRANSLATE_NOOP3("DocMgr", "Print Document List", "dialog 15709.0")},
+    {D, 15709, 114, QT_TRANSLATE_NOOP3("DocMgr", "&Columns to print:", "dialog 15709.114")},
+    {D, 15709, 18, QT_TRANSLATE_NOOP3("DocMgr", "&Print", "dialog 15709.18")},
+    {D, 15709, 19, QT_TRANSLATE_NOOP3("DocMgr", "Cancel", "dialog 15709.19")},
+    {D, 15709, 136, QT_TRANSLATE_NOOP3("DocMgr", "P&rinter...", "dialog 15709.136")},
+    {D, 15709, 137, QT_TRANSLATE_NOOP3("DocMgr", "&Font...", "dialog 15709.137")},
+    {D, 15709, 138, QT_TRANSLATE_NOOP3("DocMgr", "&Landscape", "dialog 15709.138")},
+    {D, 15709, 139, QT_TRANSLATE_NOOP3("DocMgr", "Only %1 of the %2 chosen columns fit across the page; "
+     "the others are cut off. Choose fewer columns, a smaller font or landscape.", "dialog 15709.139")},
     // Printing progress (15710).
-    {D, 15710, 0, "Printing", "Drucken"},
-    {D, 15710, 136, "The document list is being printed on", "Die Dokumentliste wird gedruckt auf"},
-    {D, 15710, 19, "Cancel Printing", "Druck abbrechen"},
+    {D, 15710, 0, QT_TRANSLATE_NOOP3("DocMgr", "Printing", "dialog 15710.0")},
+    {D, 15710, 136, QT_TRANSLATE_NOOP3("DocMgr", "The document list is being printed on", "dialog 15710.136")},
+    {D, 15710, 19, QT_TRANSLATE_NOOP3("DocMgr", "Cancel Printing", "dialog 15710.19")},
+    // Export of the list (15711): title and the file type offered.
+    {D, 15711, 0, QT_TRANSLATE_NOOP3("DocMgr", "Export List", "dialog 15711.0")},
+    {D, 15711, 1, QT_TRANSLATE_NOOP3("DocMgr", "CSV files (*.csv)", "dialog 15711.1")},
 };
 }  // namespace
 

@@ -22,16 +22,17 @@ constexpr unsigned short kNoEntry = 0xFFFF;
 
 // A failure message in the middle of the wait: the box gets the ordinary pointer, the
 // wait pointer comes back when it is closed.
-void TellDuringWait(QWidget* parent, const std::string& text)
+void TellDuringWait(QWidget* parent, const std::string& text, int error)
 {
     QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
-    DocInfoBox(parent, text);
+    DocInfoBox(parent, text, DocErrorText(error));
     QGuiApplication::restoreOverrideCursor();
 }
 }  // namespace
 
 struct DocCopyDialog::Impl {
     std::vector<std::string> documents;
+    std::vector<std::string> resultPaths;
     QLabel* caption = new QLabel(DialogText(kDialog, 22));
     DocDirBox* tree = nullptr;
     QGroupBox* frame = new QGroupBox;
@@ -52,6 +53,7 @@ DocCopyDialog::DocCopyDialog(QWidget* parent, std::vector<std::string> documents
     setWindowTitle(DialogText(kDialog));
     d->caption->setObjectName(QStringLiteral("caption"));
     d->tree->setObjectName(QStringLiteral("directoryTree"));
+    d->tree->SetEnterOpens(false);  // Enter on the chosen folder copies into it
     d->frame->setObjectName(QStringLiteral("frame"));
     d->okButton->setObjectName(QStringLiteral("okButton"));
     d->cancelButton->setObjectName(QStringLiteral("cancelButton"));
@@ -92,6 +94,8 @@ DocCopyDialog::~DocCopyDialog() = default;
 
 unsigned short DocCopyDialog::GetDoneCount() const { return d->doneCount; }
 
+const std::vector<std::string>& DocCopyDialog::GetResultPaths() const { return d->resultPaths; }
+
 void DocCopyDialog::DirectoriesHdl()
 {
     const bool selected = d->tree->GetSelectedPos() != kNoEntry;
@@ -105,18 +109,21 @@ void DocCopyDialog::OKHdl()
         ScopedWaitCursor wait;
         const std::string target = d->SelectedDir();
         const bool move = d->moveBox->isChecked();
-        for (const std::string& source : d->documents) {
+        d->resultPaths = d->documents;
+        for (std::string& source : d->resultPaths) {
             const std::string name = fsutil::FileName(source);
             if (move) {
-                if (docfileops::MoveInto(source, target) == 0)
+                if (const int error = docfileops::MoveInto(source, target)) {
+                    TellDuringWait(this, JoinedMessage(15730, name, 15731), error);
+                } else {
                     ++d->doneCount;
-                else
-                    TellDuringWait(this, JoinedMessage(15730, name, 15731));
+                    source = fsutil::Join(target, name);
+                }
             } else {
-                if (docfileops::CopyInto(source, target) == 0)
-                    ++d->doneCount;
+                if (const int error = docfileops::CopyInto(source, target))
+                    TellDuringWait(this, JoinedMessage(15728, name, 15729), error);
                 else
-                    TellDuringWait(this, JoinedMessage(15728, name, 15729));
+                    ++d->doneCount;
             }
         }
     }

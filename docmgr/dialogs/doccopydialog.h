@@ -12,6 +12,9 @@ public:
     ~DocCopyDialog() override;
     // Files copied or moved successfully.
     unsigned short GetDoneCount() const;
+    // Where the documents are after OK: the originals after a copy, the moved files'
+    // new paths after a move (a file that could not be moved keeps its old path).
+    const std::vector<std::string>& GetResultPaths() const;
 
 private:
     void OKHdl();

@@ -1,5 +1,8 @@
 #include "docmgr/dialogs/docdirbox.h"
 
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QKeyEvent>
 #include <algorithm>
 #include <utility>
@@ -9,9 +12,11 @@
 #include "docmgr/dialogs/docdirdelegate.h"
 #include "docmgr/ui/waitcursor.h"
 #include "docmgr/tools/fsutil.h"
+#include "docmgr/tools/resmgr.h"
 #include "docmgr/tools/textcase.h"
 
 namespace {
+constexpr uint16_t STR_SHOW_HIDDEN = 15746;
 const QString kRoot = QStringLiteral("/");
 constexpr char kDelimiter = '/';
 
@@ -48,12 +53,15 @@ QString WithState(const QString& line, QChar state)
 // Child lines of `dir`, siblings in the order that inserting each read name before the
 // first line not less than it (upper-cased) would give: ascending without regard to case,
 // names equal when upper-cased in the reverse of their reading order.
-QStringList ChildLines(const std::string& dir, int indent, const ImplDocConfig* config)
+QStringList ChildLines(const std::string& dir, int indent, const ImplDocConfig* config,
+                       bool showHidden)
 {
     const bool checkExceptions = config && !config->GetExceptionPaths().empty();
     std::vector<std::pair<std::string, std::string>> children;  // upper-cased key, name
     for (const fsutil::DirItem& item : fsutil::List(dir, "*", fsutil::Kind::Dirs)) {
         if (item.name == "." || item.name == "..")
+            continue;
+        if (!showHidden && item.name.front() == '.')
             continue;
         if (checkExceptions && config->IsExceptionPath(fsutil::Join(dir, item.name)))
             continue;
@@ -121,7 +129,7 @@ void DocDirBox::ToggleDir(unsigned short pos)
     const int indent = Indent(line);
     if (pos == 0 || StateChar(line) == u'-') {
         // Read by absolute path: the process's current directory stays as it is.
-        const QStringList lines = ChildLines(GetDir(pos), indent, config_);
+        const QStringList lines = ChildLines(GetDir(pos), indent, config_, showHidden_);
         insertItems(pos + 1, lines);
         if (pos != 0)
             item(pos)->setText(WithState(line, u'+'));
@@ -165,6 +173,11 @@ void DocDirBox::SelectDir(const std::string& path)
 {
     if (count() == 0)
         return;
+    // A hidden directory asked for by name is shown, with the other hidden ones.
+    if (!showHidden_ && path.find("/.") != std::string::npos) {
+        showHidden_ = true;
+        ReadDirs();
+    }
     std::string rest = path.substr(std::min(path.size(), size_t(item(0)->text().toUtf8().size())));
     if (rest.empty()) {
         setCurrentRow(0);
@@ -206,6 +219,30 @@ unsigned short DocDirBox::GetSelectedPos() const
     return row < 0 ? 0xFFFF : static_cast<unsigned short>(row);
 }
 
+void DocDirBox::SetShowHidden(bool show)
+{
+    if (show == showHidden_)
+        return;
+    const unsigned short pos = GetSelectedPos();
+    const std::string selected = pos == 0xFFFF ? std::string() : GetDir(pos);
+    showHidden_ = show;
+    ReadDirs();
+    // A hidden directory that was selected is gone now: its nearest shown ancestor is.
+    if (!selected.empty())
+        SelectDir(show ? selected : selected.substr(0, std::min(selected.size(), selected.find("/."))));
+}
+
+void DocDirBox::contextMenuEvent(QContextMenuEvent* event)
+{
+    QMenu menu(this);
+    QAction* hidden = menu.addAction(QString::fromStdString(ResString(STR_SHOW_HIDDEN)));
+    hidden->setObjectName(QStringLiteral("showHiddenItem"));
+    hidden->setCheckable(true);
+    hidden->setChecked(showHidden_);
+    if (menu.exec(event->globalPos()) == hidden)
+        SetShowHidden(hidden->isChecked());
+}
+
 void DocDirBox::DoubleClick()
 {
     const unsigned short pos = GetSelectedPos();
@@ -221,7 +258,8 @@ void DocDirBox::keyPressEvent(QKeyEvent* event)
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        // Toggles here rather than closing the dialog with its default button.
+        if (!enterOpens_)
+            break;  // to the dialog's default button
         DoubleClick();
         event->accept();
         return;
@@ -246,6 +284,34 @@ void DocDirBox::keyPressEvent(QKeyEvent* event)
         event->accept();
         return;
     default:
-        QListWidget::keyPressEvent(event);
+        break;
+    }
+    QListWidget::keyPressEvent(event);
+}
+
+void DocDirBox::keyboardSearch(const QString& search)
+{
+    // The lines begin with their indent and state; a typed name is matched against the
+    // directory names alone, the way other list boxes match their texts.
+    if (search.isEmpty())
+        return;
+    const bool continued = typedTimer_.isValid() &&
+                           typedTimer_.elapsed() < QApplication::keyboardInputInterval();
+    typed_ = continued ? typed_ + search : search;
+    typedTimer_.start();
+    const int rows = count();
+    if (rows == 0)
+        return;
+    const int current = std::max(currentRow(), 0);
+    // A new search starts after the current entry; a longer one may stay on it.
+    const int first = continued ? current : current + 1;
+    for (int i = 0; i < rows; ++i) {
+        const int row = (first + i) % rows;
+        if (row == 0)
+            continue;
+        if (QString::fromStdString(Name(item(row)->text())).startsWith(typed_, Qt::CaseInsensitive)) {
+            setCurrentRow(row);
+            return;
+        }
     }
 }

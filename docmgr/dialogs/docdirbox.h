@@ -1,5 +1,6 @@
 #pragma once
 // A list box that shows the file system as an indented, expandable tree of directories.
+#include <QElapsedTimer>
 #include <QListWidget>
 #include <string>
 
@@ -7,7 +8,8 @@ class ImplDocConfig;
 
 // Entry 0 is the root "/"; every other entry is 2 x depth spaces, "+" (open) or "-"
 // (closed), a space and the directory's name. Siblings are ordered without regard to
-// letter case; directories on the configuration's exception list are left out.
+// letter case; directories on the configuration's exception list are left out, and so
+// are hidden ones (a name starting with ".") until the user asks for them.
 class DocDirBox : public QListWidget {
     Q_OBJECT
 public:
@@ -25,18 +27,34 @@ public:
     void SelectDir(const std::string& path);
     // Position of the selected entry; 0xFFFF when none is selected.
     unsigned short GetSelectedPos() const;
-    // Toggles the selected entry unless it is the root (double click and Enter).
+    // Toggles the selected entry unless it is the root (double click).
     void DoubleClick();
+    // Shows or hides the hidden directories; the tree is read again and the selected
+    // directory stays selected (the context menu offers this).
+    void SetShowHidden(bool show);
+    bool ShowsHidden() const { return showHidden_; }
+    // Whether Enter opens and closes entries (true) or is left to the dialog's default
+    // button, where picking the entry is what confirms the dialog (the copy dialog).
+    void SetEnterOpens(bool opens) { enterOpens_ = opens; }
 
 signals:
     // The selected entry changed; `pos` as GetSelectedPos gives it.
     void DirSelected(unsigned short pos);
 
 protected:
-    // Enter toggles the selected entry, Right/Plus opens it, Left/Minus closes it or moves
-    // to its parent.
+    // Enter toggles the selected entry (unless SetEnterOpens(false)), Right/Plus opens it,
+    // Left/Minus closes it or moves to its parent.
     void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
+public:
+    // Typing a directory's first letters selects the next entry of that name.
+    void keyboardSearch(const QString& search) override;
 
 private:
     const ImplDocConfig* config_;
+    bool showHidden_ = false;
+    bool enterOpens_ = true;
+    QString typed_;
+    QElapsedTimer typedTimer_;
 };

@@ -1,3 +1,4 @@
+#include "docmgr/tools/intl.h"
 #include "docmgr/dialogs/docfilterdialog.h"
 
 #include <QCheckBox>
@@ -170,6 +171,7 @@ DocFilterDialog::DocFilterDialog(QWidget* parent, ImplDocConfig* config, unsigne
         row.value = new QLineEdit(row.entries);
         row.value->setObjectName("valueEdit" + n);
         row.date = new QDateEdit(row.entries);
+        row.date->setDisplayFormat(QString::fromStdString(intl::ShortDateFormat()));
         row.date->setObjectName("dateEdit" + n);
         row.date->setCalendarPopup(true);
         row.time = new QTimeEdit(row.entries);

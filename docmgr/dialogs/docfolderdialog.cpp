@@ -65,8 +65,8 @@ void DocFolderDialog::OKHdl()
     const std::string name = nameEdit_->text().toStdString();
     // A name that climbs out of the base or starts at the root is refused like a folder
     // that cannot be made.
-    if (docfileops::MakeFolder(base_, name) != 0)
-        DocInfoBox(this, JoinedMessage(15726, base_ + name, 15727));
+    if (const int error = docfileops::MakeFolder(base_, name))
+        DocInfoBox(this, JoinedMessage(15726, base_ + name, 15727), DocErrorText(error));
     done(1);
 }
 

@@ -27,6 +27,7 @@ struct DocRenameDialog::Impl {
     QPushButton* cancelButton = new QPushButton(DialogText(kDialog, 19));
     std::string document;
     unsigned renameCount = 0;
+    std::string newPath;
 };
 
 DocRenameDialog::DocRenameDialog(QWidget* parent, const std::string& document)
@@ -88,10 +89,18 @@ void DocRenameDialog::OKHdl()
     if (newName != d->oldNameEdit->text()) {
         // A name with a separator would move the file elsewhere; it is refused like a
         // rename that fails.
-        if (docfileops::RenameTo(d->document, newName.toStdString()) == 0)
+        if (const int error = docfileops::RenameTo(d->document, newName.toStdString()))
+            DocInfoBox(this, JoinedMessage(15732, fsutil::FileName(d->document), 15733),
+                       DocErrorText(error));
+        else {
             ++d->renameCount;
-        else
-            DocInfoBox(this, JoinedMessage(15732, fsutil::FileName(d->document), 15733));
+            d->newPath = fsutil::Join(fsutil::DirName(d->document), newName.toStdString());
+        }
     }
     done(1);
+}
+
+std::string DocRenameDialog::GetNewPath() const
+{
+    return d->renameCount ? d->newPath : d->document;
 }

@@ -11,6 +11,8 @@ public:
     ~DocRenameDialog() override;
     // 1 after a successful rename, else 0.
     unsigned GetRenameCount() const;
+    // The document's path under its new name after a rename; its old path otherwise.
+    std::string GetNewPath() const;
 
 private:
     void ModifyHdl();

@@ -74,8 +74,15 @@ void DocManager::Init()
         config = d->ownConfig.get();
     }
     QWidget* host = parentWidget();
+    // Read before a first group may be made: that writes the groups, not "GENERAL".
+    const bool hadGeneral = config->HasGroup("GENERAL");
     d->settings = std::make_unique<ImplDocConfig>(
         config, d->defExtensions, [host](const std::string& message) { DocInfoBox(host, message); });
+    // A file whose groups were written without the general section (a first group made by
+    // "docmanager --export-config") has no group in force; its first group is meant, or
+    // the window would open with an empty group list.
+    if (!hadGeneral && d->settings->actualGroup == 0 && d->settings->GroupCount() > 0)
+        d->settings->SetCurGroup(0);
     d->browser->Initialize(d->settings.get());
     QFont pathFont = d->pathLine->font();
     pathFont.setWeight(QFont::Normal);

@@ -98,6 +98,7 @@ private:
     void ConnectBrowser();
     void ConnectHandlers();
     void DeleteSelected();
+    void ExportList();
     template <class Dialog> bool RunSettingsDialog();
 };
 

@@ -17,7 +17,8 @@
 #include "docmgr/ui/waitcursor.h"
 
 namespace {
-constexpr uint16_t QUERY_DELETE = 15700;
+constexpr uint16_t QUERY_DELETE = 15700;      // several documents, %1 their count
+constexpr uint16_t QUERY_DELETE_ONE = 15702;  // one document, %1 its file name
 constexpr uint16_t STR_DELETE_FAILED = 15724;
 constexpr uint16_t STR_DELETE_FAILED_END = 15725;
 
@@ -43,6 +44,7 @@ void DocManager::WatchControls()
     enable(CMD_COPY, selected > 0 && (access & ACCESS_FILECOPY));
     enable(CMD_PRINTDOCS, selected > 0 && d->openMode && (access & ACCESS_FILEPRINT) && IsAvailable());
     enable(CMD_PRINTLIST, true);  // printing the list needs no right
+    enable(CMD_EXPORTLIST, true);  // nor does exporting it
     enable(CMD_DOCINFO, selected == 1);
     enable(CMD_RENAME, selected == 1 && (access & ACCESS_FILERENAME));
 }
@@ -58,15 +60,19 @@ void DocManager::Command(unsigned short id)
         break;
     case CMD_COPY: {
         auto dialog = std::make_unique<DocCopyDialog>(this, SelectedDocs(*d->browser));
-        if (dialog->exec() == 1 && dialog->GetDoneCount() != 0)
+        if (dialog->exec() == 1 && dialog->GetDoneCount() != 0) {
             CollectFiles();
+            d->browser->SelectPaths(dialog->GetResultPaths());
+        }
         break;
     }
     case CMD_RENAME: {
         const std::string* first = d->browser->GetFirstDoc();
         auto dialog = std::make_unique<DocRenameDialog>(this, first ? *first : std::string());
-        if (dialog->exec() == 1 && dialog->GetRenameCount() != 0)
+        if (dialog->exec() == 1 && dialog->GetRenameCount() != 0) {
             CollectFiles();
+            d->browser->SelectPaths({dialog->GetNewPath()});
+        }
         break;
     }
     case CMD_PRINTDOCS:
@@ -75,6 +81,9 @@ void DocManager::Command(unsigned short id)
     case CMD_PRINTLIST:
         d->browser->PrintList();
         break;
+    case CMD_EXPORTLIST:
+        ExportList();
+        break;
     default:
         break;
     }
@@ -82,15 +91,23 @@ void DocManager::Command(unsigned short id)
 
 void DocManager::DeleteSelected()
 {
-    if (DocQueryBox(this, ResText(ResKind::QueryBox, QUERY_DELETE)) != RET_YES)
+    const std::vector<std::string> docs = SelectedDocs(*d->browser);
+    const QString question =
+        docs.size() == 1
+            ? QString::fromStdString(ResText(ResKind::QueryBox, QUERY_DELETE_ONE))
+                  .arg(QString::fromStdString(fsutil::FileName(docs.front())))
+            : QString::fromStdString(ResText(ResKind::QueryBox, QUERY_DELETE)).arg(docs.size());
+    // Deleting cannot be undone: Enter keeps the files.
+    if (DocQueryBox(this, question, RET_NO) != RET_YES)
         return;
     ScopedWaitCursor wait;
     for (const std::string* doc = d->browser->GetFirstDoc(); doc; doc = d->browser->GetFirstDoc()) {
         const std::string path = *doc;
-        if (fsutil::Remove(path) == 0) {
+        if (const int error = fsutil::Remove(path); error == 0) {
             d->browser->RowRemoved(path);
         } else {
-            DocInfoBox(this, ResString(STR_DELETE_FAILED) + path + ResString(STR_DELETE_FAILED_END));
+            DocInfoBox(this, ResString(STR_DELETE_FAILED) + path + ResString(STR_DELETE_FAILED_END),
+                       DocErrorText(error));
             d->browser->DeselectFirstSelected();  // so that the loop moves on
         }
     }

@@ -87,6 +87,9 @@ void DocManager::BuildControls()
     d->pathLine->setMinimumWidth(1);
 
     d->browser = new DocBrowser(this, *d);
+    // Delete and F2 in the list run the menu's items, so they follow its enabling.
+    d->browser->addAction(d->commandMenu->Item(CMD_DELETE));
+    d->browser->addAction(d->commandMenu->Item(CMD_RENAME));
     ConnectBrowser();
 
     struct Settings {

@@ -17,8 +17,8 @@ uint16_t Characters(const std::string& text)
 DocListPrinter::DocListPrinter(const DocBrowser& browser, QPrinter& printer)
     : browser_(browser), printer_(printer)
 {
-    // The table starts at the top left corner of the sheet; no margin of any kind.
-    printer_.setFullPage(true);
+    // The table starts at the top left corner of the printable area; no margin beyond it.
+    printer_.setFullPage(false);
 }
 
 DocListPrinter::~DocListPrinter()
@@ -30,7 +30,7 @@ bool DocListPrinter::StartJob(const QString& name)
 {
     EndJob();
     printer_.setDocName(name);
-    printer_.setFullPage(true);  // whatever the set-up dialog made of it
+    printer_.setFullPage(false);  // whatever the set-up dialog made of it
     auto painter = std::make_unique<QPainter>();
     if (!painter->begin(&printer_))
         return false;
@@ -65,6 +65,24 @@ std::map<uint16_t, uint16_t> DocListPrinter::ColumnWidths(const QSet<QString>& t
         for (auto& [id, width] : widths)
             width = std::max(width, Characters(browser_.GetFieldString(*row, id)));
     return widths;
+}
+
+int DocListPrinter::FittingColumns(const QSet<QString>& titles) const
+{
+    const QFontMetrics metrics(font_, &printer_);
+    const long charWidth = metrics.horizontalAdvance(QLatin1Char('X'));
+    const long pageWidth = printer_.width();
+    int fitting = 0;
+    long x = 0;
+    for (const auto& [id, width] : ColumnWidths(titles)) {
+        // A column fits when its title and its texts start on the page and its widest
+        // text ends on it.
+        x += long(width) * charWidth;
+        if (x > pageWidth)
+            break;
+        ++fitting;
+    }
+    return fitting;
 }
 
 bool DocListPrinter::PrintPage(unsigned short page, const QSet<QString>& titles)

@@ -34,6 +34,9 @@ public:
     // Column id -> width in characters, in ascending id order: the columns whose titles
     // are in `titles`, each as wide as its title and its longest text over all rows.
     std::map<uint16_t, uint16_t> ColumnWidths(const QSet<QString>& titles) const;
+    // How many of the columns titled `titles`, in printing order, fit across the page;
+    // the others are cut off at its right edge.
+    int FittingColumns(const QSet<QString>& titles) const;
 
 private:
     const DocBrowser& browser_;

@@ -1,5 +1,6 @@
 #include "docmgr/print/docprintdialog.h"
 
+#include <QCheckBox>
 #include <QFontDatabase>
 #include <QFontDialog>
 #include <QHBoxLayout>
@@ -34,6 +35,8 @@ struct DocPrintDialog::Impl {
     QPushButton* cancelButton = new QPushButton(DialogText(kDialog, 19));
     QPushButton* printerButton = new QPushButton(DialogText(kDialog, 136));
     QPushButton* fontButton = new QPushButton(DialogText(kDialog, 137));
+    QCheckBox* landscapeBox = new QCheckBox(DialogText(kDialog, 138));
+    QLabel* fitLabel = new QLabel;
     QPrinter printer;  // the system's default printer
     DocListPrinter listPrinter;
 
@@ -56,6 +59,9 @@ DocPrintDialog::DocPrintDialog(QWidget* parent, DocBrowser& browser)
     d->cancelButton->setObjectName(QStringLiteral("cancelButton"));
     d->printerButton->setObjectName(QStringLiteral("printerButton"));
     d->fontButton->setObjectName(QStringLiteral("fontButton"));
+    d->landscapeBox->setObjectName(QStringLiteral("landscapeBox"));
+    d->fitLabel->setObjectName(QStringLiteral("fitLabel"));
+    d->fitLabel->setWordWrap(true);
     d->columnLabel->setBuddy(d->columnList);
     d->columnList->setSelectionMode(QAbstractItemView::MultiSelection);
     d->okButton->setDefault(true);
@@ -77,6 +83,7 @@ DocPrintDialog::DocPrintDialog(QWidget* parent, DocBrowser& browser)
     auto* listLayout = new QVBoxLayout;
     listLayout->addWidget(d->columnLabel);
     listLayout->addWidget(d->columnList, 1);
+    listLayout->addWidget(d->fitLabel);
     auto* buttons = new QVBoxLayout;
     buttons->addSpacing(d->columnLabel->sizeHint().height());
     buttons->addWidget(d->okButton);
@@ -84,6 +91,7 @@ DocPrintDialog::DocPrintDialog(QWidget* parent, DocBrowser& browser)
     buttons->addSpacing(d->okButton->sizeHint().height() / 2);
     buttons->addWidget(d->printerButton);
     buttons->addWidget(d->fontButton);
+    buttons->addWidget(d->landscapeBox);
     buttons->addStretch();
     auto* layout = new QHBoxLayout(this);
     layout->addLayout(listLayout, 1);
@@ -94,6 +102,10 @@ DocPrintDialog::DocPrintDialog(QWidget* parent, DocBrowser& browser)
     connect(d->cancelButton, &QPushButton::clicked, this, &QDialog::reject);
     connect(d->printerButton, &QPushButton::clicked, this, &DocPrintDialog::PrintSettingsHdl);
     connect(d->fontButton, &QPushButton::clicked, this, &DocPrintDialog::FontSettingsHdl);
+    connect(d->landscapeBox, &QCheckBox::toggled, this, [this](bool landscape) {
+        d->printer.setPageOrientation(landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+        ShowFit();
+    });
     SelectHdl();
 }
 
@@ -101,7 +113,11 @@ DocPrintDialog::~DocPrintDialog() = default;
 
 QPrinter* DocPrintDialog::GetPrinter() const { return &d->printer; }
 QFont DocPrintDialog::GetPrintFont() const { return d->listPrinter.GetFont(); }
-void DocPrintDialog::SetPrintFont(const QFont& font) { d->listPrinter.SetFont(font); }
+void DocPrintDialog::SetPrintFont(const QFont& font)
+{
+    d->listPrinter.SetFont(font);
+    ShowFit();
+}
 bool DocPrintDialog::StartJob(const QString& name) { return d->listPrinter.StartJob(name); }
 void DocPrintDialog::EndJob() { d->listPrinter.EndJob(); }
 
@@ -113,6 +129,25 @@ bool DocPrintDialog::PrintPage(unsigned short page) const
 void DocPrintDialog::SelectHdl()
 {
     d->okButton->setEnabled(!d->columnList->selectedItems().isEmpty());
+    ShowFit();
+}
+
+int DocPrintDialog::FittingColumns() const
+{
+    return d->listPrinter.FittingColumns(d->SelectedTitles());
+}
+
+void DocPrintDialog::ShowFit()
+{
+    // Columns beyond the page's right edge would be cut off without a word: say so before
+    // printing, while a narrower font or landscape can still help.
+    const int chosen = int(d->columnList->selectedItems().size());
+    const int fitting = chosen == 0 ? 0 : FittingColumns();
+    d->fitLabel->setText(DialogText(kDialog, 139).arg(fitting).arg(chosen));
+    d->fitLabel->setVisible(chosen > 0 && fitting < chosen);
+    d->landscapeBox->blockSignals(true);
+    d->landscapeBox->setChecked(d->printer.pageLayout().orientation() == QPageLayout::Landscape);
+    d->landscapeBox->blockSignals(false);
 }
 
 void DocPrintDialog::PrintSettingsHdl()
@@ -120,6 +155,7 @@ void DocPrintDialog::PrintSettingsHdl()
     QPrintDialog printDialog(&d->printer, this);
     printDialog.setObjectName(QStringLiteral("printSetupDialog"));
     printDialog.exec();
+    ShowFit();  // another paper or orientation
 }
 
 void DocPrintDialog::FontSettingsHdl()
@@ -128,6 +164,7 @@ void DocPrintDialog::FontSettingsHdl()
     fontDialog.setObjectName(QStringLiteral("fontDialog"));
     if (fontDialog.exec() == QDialog::Accepted)
         d->listPrinter.SetFont(fontDialog.selectedFont());
+    ShowFit();
 }
 
 void DocPrintDialog::OkHdl()

@@ -25,11 +25,15 @@ public:
     bool StartJob(const QString& name);
     // Ends the running job; the printer then finishes it.
     void EndJob();
+    // How many of the chosen columns fit across the page in the printing font.
+    int FittingColumns() const;
 
 private:
     void SelectHdl();
     void PrintSettingsHdl();
     void FontSettingsHdl();
+    // Tells how many of the chosen columns fit, when not all do.
+    void ShowFit();
     void OkHdl();
 
     struct Impl;

@@ -9,11 +9,19 @@
 namespace intl {
 namespace {
 
+// Most short formats carry "yy": a two-digit year is ambiguous in a list of documents.
+QString FourDigitYears(QString format)
+{
+    if (!format.contains(QLatin1String("yyyy")))
+        format.replace(QLatin1String("yy"), QLatin1String("yyyy"));
+    return format;
+}
+
 // The short date and the time with seconds of the system locale.
 struct Patterns {
     Patterns() : locale(QLocale::system()), date(locale, DatePattern()), time(locale, TimePattern()) {}
 
-    QString DatePattern() const { return locale.dateFormat(QLocale::ShortFormat); }
+    QString DatePattern() const { return FourDigitYears(locale.dateFormat(QLocale::ShortFormat)); }
 
     QString TimePattern() const
     {
@@ -47,6 +55,11 @@ std::unique_ptr<Patterns>& Current()
 void ReloadPatterns()
 {
     Current() = std::make_unique<Patterns>();
+}
+
+std::string ShortDateFormat()
+{
+    return FourDigitYears(QLocale::system().dateFormat(QLocale::ShortFormat)).toStdString();
 }
 
 std::string FormatDate(const Date& date)

@@ -1,6 +1,7 @@
 #include "docmgr/tools/resmgr.h"
 
 #include <QLocale>
+#include <QTranslator>
 #include <array>
 
 namespace {
@@ -9,15 +10,42 @@ std::array<void*, 64> appData{};
 
 Language SystemLanguage()
 {
-    return QLocale::system().language() == QLocale::German ? Language::German : Language::English;
+    const QStringList languages = QLocale::system().uiLanguages();
+    QString name = languages.isEmpty() ? QLocale::system().name() : languages.front();
+    name.replace(u'-', u'_');
+    return Language{name.toStdString()};
 }
+
+std::unique_ptr<QTranslator> LoadCatalog(std::span<const QmCatalog> catalogs, const Language& language)
+{
+    const std::string& full = language.code;
+    const std::string base = full.substr(0, full.find('_'));
+    for (const std::string& wanted : {full, base}) {
+        for (const QmCatalog& catalog : catalogs) {
+            if (wanted != catalog.language)
+                continue;
+            auto translator = std::make_unique<QTranslator>();
+            if (translator->load(catalog.data, int(catalog.size)))
+                return translator;
+        }
+    }
+    return nullptr;
+}
+
+ResMgr::ResMgr(Language language, std::unique_ptr<QTranslator> translator)
+    : language_(std::move(language)), translator_(std::move(translator))
+{
+}
+
+ResMgr::~ResMgr() = default;
 
 std::unique_ptr<ResMgr> ResMgr::CreateResMgr(std::string_view name, Language language)
 {
     // The texts are compiled in; the name only says whose they are.
     if (name != "qfw364")
         return nullptr;
-    return std::unique_ptr<ResMgr>(new ResMgr(language));
+    auto translator = LoadCatalog(DocMgrCatalogs(), language);
+    return std::unique_ptr<ResMgr>(new ResMgr(std::move(language), std::move(translator)));
 }
 
 std::string ResMgr::String(uint16_t id) const
@@ -30,7 +58,12 @@ std::string ResMgr::Text(ResKind kind, uint16_t id, uint16_t local) const
     const ResEntry* entry = FindResEntry(kind, id, local);
     if (!entry)
         return {};
-    return language_ == Language::German ? entry->de : entry->en;
+    if (translator_) {
+        const QString text = translator_->translate(RES_CONTEXT, entry->text.source, entry->text.key);
+        if (!text.isEmpty())
+            return text.toStdString();
+    }
+    return entry->text.source;
 }
 
 void* GetAppData(unsigned short slot)

@@ -5,12 +5,28 @@
 #include <string>
 #include <string_view>
 
+#include "resources/qmcatalog.h"
 #include "resources/restable.h"
 
-enum class Language { English, German };
+class QTranslator;
 
-// The language of the system locale; anything but German falls back to English.
+// A language of the texts, named as the catalogues are ("de", "en", "pt_BR"). A language
+// without a catalogue shows the English source texts.
+struct Language {
+    std::string code;
+    static const Language English;
+    static const Language German;
+    friend bool operator==(const Language&, const Language&) = default;
+};
+inline const Language Language::English{"en"};
+inline const Language Language::German{"de"};
+
+// The language of the system locale (its first UI language).
 Language SystemLanguage();
+
+// A translator loaded with the catalogue of `language` among `catalogs` (the full name
+// first, then the language without its country); null when there is none.
+std::unique_ptr<QTranslator> LoadCatalog(std::span<const QmCatalog> catalogs, const Language& language);
 
 class ResMgr {
 public:
@@ -25,8 +41,12 @@ public:
     std::string Text(ResKind kind, uint16_t id, uint16_t local = 0) const;
 
 private:
-    explicit ResMgr(Language language) : language_(language) {}
+    ResMgr(Language language, std::unique_ptr<QTranslator> translator);
     Language language_;
+    std::unique_ptr<QTranslator> translator_;
+
+public:
+    ~ResMgr();
 };
 
 // Application-data slots of the process; slot 36 holds the module's resource manager.

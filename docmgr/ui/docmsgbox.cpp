@@ -1,6 +1,7 @@
 #include "docmgr/ui/docmsgbox.h"
 
 #include <QMessageBox>
+#include <cstring>
 
 #include "docmgr/tools/resmgr.h"
 
@@ -11,6 +12,12 @@ DocBoxAnswerer& Answerer()
 {
     static DocBoxAnswerer answerer;
     return answerer;
+}
+
+DocBoxExtras& Extras()
+{
+    static DocBoxExtras extras;
+    return extras;
 }
 
 QString BoxTitle()
@@ -24,33 +31,48 @@ void SetDocBoxAnswerer(DocBoxAnswerer answerer)
     Answerer() = std::move(answerer);
 }
 
-int DocQueryBox(QWidget* parent, const QString& text)
+const DocBoxExtras& AnsweredDocBox()
 {
-    if (Answerer())
+    return Extras();
+}
+
+int DocQueryBox(QWidget* parent, const QString& text, int defaultAnswer)
+{
+    if (Answerer()) {
+        Extras() = {QString(), defaultAnswer};
         return Answerer()(text, true);
+    }
     QMessageBox box(QMessageBox::Question, BoxTitle(), text, QMessageBox::Yes | QMessageBox::No, parent);
     box.setObjectName("queryBox");
-    box.setDefaultButton(QMessageBox::Yes);
+    box.setDefaultButton(defaultAnswer == RET_NO ? QMessageBox::No : QMessageBox::Yes);
     return box.exec() == QMessageBox::Yes ? RET_YES : RET_NO;
 }
 
-int DocQueryBox(QWidget* parent, const std::string& text)
+int DocQueryBox(QWidget* parent, const std::string& text, int defaultAnswer)
 {
-    return DocQueryBox(parent, QString::fromStdString(text));
+    return DocQueryBox(parent, QString::fromStdString(text), defaultAnswer);
 }
 
-void DocInfoBox(QWidget* parent, const QString& text)
+void DocInfoBox(QWidget* parent, const QString& text, const QString& detail)
 {
     if (Answerer()) {
+        Extras() = {detail, 0};
         Answerer()(text, false);
         return;
     }
     QMessageBox box(QMessageBox::Information, BoxTitle(), text, QMessageBox::Ok, parent);
     box.setObjectName("infoBox");
+    box.setInformativeText(detail);
     box.exec();
 }
 
-void DocInfoBox(QWidget* parent, const std::string& text)
+void DocInfoBox(QWidget* parent, const std::string& text, const QString& detail)
 {
-    DocInfoBox(parent, QString::fromStdString(text));
+    DocInfoBox(parent, QString::fromStdString(text), detail);
+}
+
+QString DocErrorText(int error)
+{
+    // strerror follows the user's language where the C library has it.
+    return error == 0 ? QString() : QString::fromLocal8Bit(std::strerror(error));
 }

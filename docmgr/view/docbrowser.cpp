@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QScrollBar>
 #include <algorithm>
+#include <set>
 
 #include "docmgr/config/impldocconfig.h"
 #include "docmgr/records/docfields.h"
@@ -125,6 +126,8 @@ DocBrowser::DocBrowser(QWidget* parent, DocListHost& host)
                 &DocBrowser::SectionResized);
         view->horizontalHeader()->viewport()->installEventFilter(this);
     }
+    connect(d->frozen, &FrozenColumnsView::contextMenuRequested, this,
+            [this](const QPoint& globalPos) { ShowContextMenu(globalPos); });
 }
 
 DocBrowser::~DocBrowser() = default;
@@ -343,6 +346,23 @@ void DocBrowser::DeselectFirstSelected()
 void DocBrowser::ClearSelection()
 {
     clearSelection();
+}
+
+void DocBrowser::SelectPaths(const std::vector<std::string>& paths)
+{
+    const std::set<std::string> wanted(paths.begin(), paths.end());
+    std::vector<std::pair<long, long>> rows;
+    const auto& list = d->list.Rows();
+    for (long row = 0; row < long(list.size()); ++row)
+        if (wanted.count(list[size_t(row)]->entry))
+            rows.emplace_back(row, row);
+    clearSelection();
+    d->SelectIntervals(rows);
+    if (!rows.empty()) {
+        const QModelIndex first = d->model->index(int(rows.front().first), 0);
+        selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+        scrollTo(first);
+    }
 }
 
 DocListModel* DocBrowser::GetModel() const

@@ -3,6 +3,7 @@
 #include <QTableView>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "docmgr/records/docinfo.h"
 #include "docmgr/records/docrowlist.h"
@@ -73,10 +74,14 @@ public:
     long GetFirstSelectedRow() const;
     void DeselectFirstSelected();
     void ClearSelection();
+    // Selects exactly the rows of the files `paths` (absolute) that the list shows.
+    void SelectPaths(const std::vector<std::string>& paths);
 
     // The context menu for the current selection, enabled by the access rights alone;
     // null when no row is selected.
     std::unique_ptr<DocCommandMenu> CreateContextMenu();
+    // Opens that menu at `globalPos` and runs the chosen command; false without a selection.
+    bool ShowContextMenu(const QPoint& globalPos);
 
     DocListModel* GetModel() const;
     FrozenColumnsView* GetFrozenView() const;
@@ -93,6 +98,7 @@ signals:
 
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void updateGeometries() override;
     void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -1,5 +1,6 @@
 // What the document list does on the user's mouse and menu input.
 #include <QContextMenuEvent>
+#include <QKeyEvent>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <algorithm>
@@ -8,6 +9,7 @@
 #include "docmgr/tools/fsutil.h"
 #include "docmgr/view/docbrowser.h"
 #include "docmgr/view/docbrowserimpl.h"
+#include "docmgr/view/doccelldelegate.h"
 #include "docmgr/view/doclisthost.h"
 #include "docmgr/view/doccommandmenu.h"
 #include "docmgr/view/doclistmodel.h"
@@ -17,6 +19,20 @@ void DocBrowser::selectionChanged(const QItemSelection& selected, const QItemSel
 {
     QTableView::selectionChanged(selected, deselected);
     emit selectionStateChanged();  // the controls and the summary pane follow
+}
+
+void DocBrowser::keyPressEvent(QKeyEvent* event)
+{
+    // With nothing selected the first Down selects the current row (the first one, which
+    // the focus made current) instead of moving past it.
+    const QModelIndex current = currentIndex();
+    if (event->key() == Qt::Key_Down && event->modifiers() == Qt::NoModifier && current.isValid() &&
+        !selectionModel()->hasSelection()) {
+        selectRow(current.row());
+        event->accept();
+        return;
+    }
+    QTableView::keyPressEvent(event);
 }
 
 void DocBrowser::RowDoubleClicked(const QModelIndex& index)
@@ -43,7 +59,9 @@ void DocBrowser::FitColumn(unsigned short columnId)
     const int limit = viewport()->width() / 2 - 1;
     int width = 6;
     for (const auto& row : d->list.Rows()) {
-        const int text = metrics.horizontalAdvance(QString::fromStdString(GetFieldString(*row, columnId)));
+        // The text with the cell's margins on both sides.
+        const int text = metrics.horizontalAdvance(QString::fromStdString(GetFieldString(*row, columnId))) +
+                         2 * DocCellDelegate::TEXT_MARGIN;
         if (text > limit) {
             width = limit;
             break;
@@ -147,13 +165,18 @@ std::unique_ptr<DocCommandMenu> DocBrowser::CreateContextMenu()
 
 void DocBrowser::contextMenuEvent(QContextMenuEvent* event)
 {
-    auto menu = CreateContextMenu();
-    if (!menu) {
+    if (!ShowContextMenu(event->globalPos()))
         event->ignore();
-        return;
-    }
-    if (QAction* item = menu->exec(event->globalPos()))
+}
+
+bool DocBrowser::ShowContextMenu(const QPoint& globalPos)
+{
+    auto menu = CreateContextMenu();
+    if (!menu)
+        return false;
+    if (QAction* item = menu->exec(globalPos))
         d->host.Command(DocCommandMenu::ItemId(item));
+    return true;
 }
 
 void DocBrowser::EditDocInfo()

@@ -25,7 +25,7 @@ void DocCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
     const QPalette::ColorGroup group = opt.state & QStyle::State_Enabled ? QPalette::Normal
                                                                          : QPalette::Disabled;
     painter->save();
-    painter->setClipRect(cell);
+    painter->setClipRect(cell.adjusted(0, 0, -TEXT_MARGIN, 0));
     painter->setFont(opt.font);
     painter->setPen(opt.palette.color(group, opt.state & QStyle::State_Selected
                                                  ? QPalette::HighlightedText

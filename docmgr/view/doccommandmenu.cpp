@@ -5,9 +5,10 @@
 namespace {
 constexpr uint16_t MENU_COMMANDS = 15700;
 constexpr unsigned short FIRST_COMMAND = 20;
-constexpr unsigned short LAST_COMMAND = 25;
+constexpr unsigned short LAST_COMMAND = 26;
 const char* const kItemNames[] = {"deleteItem", "docInfoItem", "copyItem",
-                                  "renameItem", "printDocsItem", "printListItem"};
+                                  "renameItem", "printDocsItem", "printListItem",
+                                  "exportListItem"};
 }  // namespace
 
 DocCommandMenu::DocCommandMenu(QWidget* parent) : QMenu(parent)
@@ -18,6 +19,11 @@ DocCommandMenu::DocCommandMenu(QWidget* parent) : QMenu(parent)
         item->setData(id);
         item->setObjectName(kItemNames[id - FIRST_COMMAND]);
     }
+    // The keys work where the list has the focus: the manager adds these items to it.
+    Item(CMD_DELETE)->setShortcut(QKeySequence::Delete);
+    Item(CMD_RENAME)->setShortcut(Qt::Key_F2);
+    for (QAction* item : actions())
+        item->setShortcutContext(Qt::WidgetWithChildrenShortcut);
 }
 
 QAction* DocCommandMenu::Item(unsigned short id) const

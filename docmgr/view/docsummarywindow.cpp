@@ -97,7 +97,12 @@ void DocSummaryWindow::paintEvent(QPaintEvent* event)
         painter.setFont(labelFont);
         painter.drawText(QPoint(labelX, int(y) + ascent), label);
         painter.setFont(valueFont);
-        painter.drawText(QPoint(valueX, int(y) + ascent), value);
+        // A long value (a deep path) keeps its start and its end: the middle gives way.
+        const int room = std::max(0, width() - valueX - C);
+        const QString shown = kind == Kind::Line
+                                  ? QFontMetrics(valueFont).elidedText(value, Qt::ElideMiddle, room)
+                                  : value;
+        painter.drawText(QPoint(valueX, int(y) + ascent), shown);
         if (kind == Kind::Line || kind == Kind::Author)
             y = static_cast<uint16_t>(y + charHeight_);
     };

@@ -1,5 +1,6 @@
 #include "docmgr/view/frozencolumns.h"
 
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <algorithm>
@@ -20,7 +21,6 @@ FrozenColumnsView::FrozenColumnsView(QTableView* table) : QTableView(table), tab
     setWordWrap(false);
     setFrameShape(QFrame::NoFrame);
     setGridStyle(table->gridStyle());
-    setContextMenuPolicy(Qt::NoContextMenu);  // the table underneath offers its menu
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setHighlightSections(false);
@@ -67,4 +67,10 @@ void FrozenColumnsView::UpdateGeometry()
     setGeometry(frame + table_->verticalHeader()->width(), frame, std::min(width, maxWidth),
                 table_->viewport()->height() + table_->horizontalHeader()->height());
     verticalScrollBar()->setValue(table_->verticalScrollBar()->value());
+}
+
+void FrozenColumnsView::contextMenuEvent(QContextMenuEvent* event)
+{
+    event->accept();
+    emit contextMenuRequested(event->globalPos());
 }

@@ -18,6 +18,13 @@ public:
     // Copies the table's widths of the frozen columns.
     void SyncWidths();
 
+signals:
+    // A right click (or the menu key) over the frozen columns: the table's menu belongs there too.
+    void contextMenuRequested(const QPoint& globalPos);
+
+protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
 private:
     QTableView* table_;
     int count_ = 0;

@@ -1,5 +1,6 @@
 #include "host/app/documentopener.h"
 
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QString>
 #include <QUrl>
@@ -9,7 +10,10 @@ int OpenDocuments(const std::vector<std::string>& paths, std::string& error)
     int status = 0;
     for (const std::string& path : paths) {
         if (!QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(path)))) {
-            error += "no application could be started to open " + path + "\n";
+            error += QCoreApplication::translate("docmanager", "No application could be started to open %1.")
+                         .arg(QString::fromStdString(path))
+                         .toStdString() +
+                     "\n";
             status = 1;
         }
     }

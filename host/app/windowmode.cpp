@@ -8,6 +8,7 @@
 #include "docmgr/tools/config.h"
 #include "docmgr/tools/resmgr.h"
 #include "host/app/documentopener.h"
+#include "host/app/hosttexts.h"
 #include "host/app/hostmanager.h"
 #include "host/cli/collectpaths.h"
 #include "host/cli/printcommand.h"
@@ -95,6 +96,7 @@ int RunWindow(int& argc, char** argv, const CommandLine& cmd)
     }
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("docmanager"));
+    const HostTexts texts;
 
     std::string error;
     std::unique_ptr<Config> config = OpenUserConfig(cmd.configPath, error);

@@ -52,6 +52,8 @@ std::optional<ListFormat> ParseFormat(const std::string& value)
         return ListFormat::Tsv;
     if (value == "json")
         return ListFormat::Json;
+    if (value == "csv")
+        return ListFormat::Csv;
     return std::nullopt;
 }
 
@@ -166,7 +168,7 @@ bool ParseCommandLine(const std::vector<std::string>& args, CommandLine& out, st
         } else if (name == "--format") {
             const auto format = ParseFormat(value);
             if (!format) {
-                error = "--format is one of text, tsv, json, not \"" + value + "\"";
+                error = "--format is one of text, tsv, json, csv, not \"" + value + "\"";
                 return false;
             }
             out.format = *format;
@@ -184,7 +186,7 @@ std::string UsageText()
     return "Usage:\n"
            "  docmanager [--config FILE] [--index-name NAME] [--print-paths] [START_PATH...]\n"
            "  docmanager --list [--config FILE] [--group NAME] [--index-name NAME]\n"
-           "                    [--columns ID,ID,...] [--format text|tsv|json] [START_PATH...]\n"
+           "                    [--columns ID,ID,...] [--format text|tsv|json|csv] [START_PATH...]\n"
            "  docmanager --export-config [--config FILE]\n"
            "\n"
            "Without --list or --export-config the document manager window opens.\n"

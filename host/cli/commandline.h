@@ -5,7 +5,7 @@
 #include <vector>
 
 enum class RunMode { Window, List, ExportConfig, Help };
-enum class ListFormat { Text, Tsv, Json };
+enum class ListFormat { Text, Tsv, Json, Csv };
 
 struct CommandLine {
     RunMode mode = RunMode::Window;

@@ -6,6 +6,7 @@
 
 #include "docmgr/config/docgroupconfig.h"
 #include "docmgr/records/docfields.h"
+#include "docmgr/records/listcsv.h"
 
 namespace {
 
@@ -119,6 +120,8 @@ std::string FormatList(ListFormat format, const DocRows& rows,
         return FormatTsvList(rows, columns, group);
     case ListFormat::Json:
         return FormatJsonList(rows);
+    case ListFormat::Csv:
+        return FormatCsvList(rows, columns, group);
     case ListFormat::Text:
         break;
     }

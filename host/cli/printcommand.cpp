@@ -1,5 +1,6 @@
 #include "host/cli/printcommand.h"
 
+#include <QCoreApplication>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QStringList>
@@ -20,8 +21,11 @@ int PrintDocuments(const std::vector<std::string>& paths, std::string& error)
         return 0;
     const std::string command = FindPrintCommand();
     if (command.empty()) {
-        error = "the documents cannot be printed: this system has no print command (neither lp "
-                "nor lpr was found). Install a print system such as CUPS (package cups-client).";
+        error = QCoreApplication::translate(
+                    "docmanager", "The documents cannot be printed: this system has no print command "
+                                  "(neither lp nor lpr was found). Install a print system such as "
+                                  "CUPS (package cups-client).")
+                    .toStdString();
         return 1;
     }
     QStringList args;
@@ -31,12 +35,16 @@ int PrintDocuments(const std::vector<std::string>& paths, std::string& error)
     process.setProcessChannelMode(QProcess::ForwardedChannels);
     process.start(QString::fromStdString(command), args);
     if (!process.waitForStarted() || !process.waitForFinished(-1)) {
-        error = "the print command " + command + " could not be run";
+        error = QCoreApplication::translate("docmanager", "The print command %1 could not be run.")
+                    .arg(QString::fromStdString(command))
+                    .toStdString();
         return 1;
     }
     if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0) {
-        error = "the print command " + command + " failed (exit status "
-            + std::to_string(process.exitCode()) + ")";
+        error = QCoreApplication::translate("docmanager", "The print command %1 failed (exit status %2).")
+                    .arg(QString::fromStdString(command))
+                    .arg(process.exitCode())
+                    .toStdString();
         return 1;
     }
     return 0;

@@ -1,5 +1,6 @@
 #include "host/cli/readonlycopies.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -28,8 +29,11 @@ std::vector<std::string> MakeReadOnlyCopies(const std::vector<std::string>& path
         return copies;
     const QString folder = NewCopyFolder();
     if (folder.isEmpty()) {
-        error = "no folder for read-only copies could be made in " + QDir::tempPath().toStdString()
-            + "\n";
+        error = QCoreApplication::translate("docmanager",
+                                            "No folder for read-only copies could be made in %1.")
+                    .arg(QDir::tempPath())
+                    .toStdString() +
+                "\n";
         return copies;
     }
     for (size_t i = 0; i < paths.size(); ++i) {
@@ -43,7 +47,10 @@ std::vector<std::string> MakeReadOnlyCopies(const std::vector<std::string>& path
             target = sub + QLatin1Char('/') + name;
         }
         if (!QFile::copy(source, target)) {
-            error += "the file " + paths[i] + " could not be copied\n";
+            error += QCoreApplication::translate("docmanager", "The file %1 could not be copied.")
+                         .arg(source)
+                         .toStdString() +
+                     "\n";
             continue;
         }
         QFile::setPermissions(target, QFile::ReadOwner | QFile::ReadUser | QFile::ReadGroup

@@ -1,10 +1,13 @@
 // The copy and rename dialogs on documents selected in a live manager, with real files.
+#include <cerrno>
+#include <cstring>
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTest>
 #include <QTimer>
 #include <vector>
 
@@ -75,9 +78,10 @@ TEST_F(FileDialogTest, CopyKeepsTheSourcesAndCountsWhatItCopied)
     WithSelected({"a.odt", "c.odt"}, [&] {
         DocCopyDialog dialog(&host, host.SelectedDocs());
         EXPECT_EQ(ChosenDir(dialog), src) << "starts in the documents' folder";
-        ChooseTarget(dialog, dst);
+        DocDirBox* tree = ChooseTarget(dialog, dst);
         ASSERT_EQ(ChosenDir(dialog), dst);
-        dialog.findChild<QPushButton*>("okButton")->click();
+        dialog.show();
+        QTest::keyClick(tree, Qt::Key_Return);  // Enter on the chosen folder confirms
         EXPECT_EQ(dialog.result(), 1);
         EXPECT_EQ(dialog.GetDoneCount(), 2);
     });
@@ -107,6 +111,8 @@ TEST_F(FileDialogTest, MoveLeavesADocumentWhoseTargetExists)
     EXPECT_EQ(dir.Read("src/b.odt"), "mine b");
     EXPECT_EQ(dir.Read("dst/b.odt"), "theirs");
     EXPECT_EQ(messages, std::vector<std::string>{ResString(15730) + "b.odt" + ResString(15731)});
+    EXPECT_EQ(ResString(15731), " could not be moved.");  // no guess at the cause...
+    EXPECT_EQ(AnsweredDocBox().detail.toStdString(), std::strerror(EEXIST));  // ...the system's
 }
 
 TEST_F(FileDialogTest, EveryDocumentFailingStillEndsWithOne)
@@ -193,6 +199,7 @@ TEST_F(RenameDialogTest, AnExistingNameFailsAndBothFilesStay)
     EXPECT_EQ(dir.Read("src/report.odt"), "mine");
     EXPECT_EQ(dir.Read("src/other.odt"), "theirs");
     EXPECT_EQ(messages, std::vector<std::string>{failed});
+    EXPECT_EQ(AnsweredDocBox().detail.toStdString(), std::strerror(EEXIST));
 }
 
 TEST_F(RenameDialogTest, ANameWithASeparatorIsRefused)

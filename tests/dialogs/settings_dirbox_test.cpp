@@ -1,5 +1,7 @@
 // The directory tree: indented lines, sibling order, exception paths, opening and closing
 // on real directories.
+#include <QApplication>
+#include <QKeyEvent>
 #include <QSignalSpy>
 #include <QTest>
 #include <cstdlib>
@@ -33,9 +35,11 @@ protected:
         return depth;
     }
 
-    // Opens the tree down to the temporary directory and opens that too; its position.
-    int OpenTemp(DocDirBox& box)
+    // Opens the tree down to the temporary directory and opens that too, with the hidden
+    // folders shown (as the tests' positions count them) unless told otherwise; its position.
+    int OpenTemp(DocDirBox& box, bool showHidden = true)
     {
+        box.SetShowHidden(showHidden);
         box.SelectDir(dir.Path());
         const int pos = box.GetSelectedPos();
         EXPECT_EQ(box.GetDir(uint16_t(pos)), dir.Path());
@@ -60,11 +64,20 @@ protected:
     }
 };
 
-TEST_F(DirBoxTest, SiblingsAreSortedWithoutCaseAndHiddenOnesAreShown)
+TEST_F(DirBoxTest, SiblingsAreSortedWithoutCaseAndHiddenOnesShownOnRequest)
 {
     DocDirBox box(nullptr, &config);
     EXPECT_EQ(box.item(0)->text().toStdString(), "/");
     EXPECT_EQ(box.GetDir(0), "/");
+    EXPECT_EQ(Subtree(box, OpenTemp(box, false)),
+              (std::vector<std::string>{Line(1, '-', "A"), Line(1, '-', "b"), Line(1, '-', "c")}));
+    // A hidden folder that is asked for by its path is shown, and so are the others.
+    box.SetShowHidden(false);
+    box.SelectDir(dir.PathOf(".hidden"));
+    EXPECT_TRUE(box.ShowsHidden());
+    EXPECT_EQ(box.GetDir(box.GetSelectedPos()), dir.PathOf(".hidden"));
+
+    box.ReadDirs();
     const int pos = OpenTemp(box);
     EXPECT_EQ(box.item(pos)->text().toStdString(), Line(0, '+', fsutil::FileName(dir.Path())));
     EXPECT_EQ(Subtree(box, pos), (std::vector<std::string>{Line(1, '-', ".hidden"), Line(1, '-', "A"),
@@ -145,18 +158,28 @@ TEST_F(DirBoxTest, VanishedDirectoriesOpenEmptyAndTheCurrentDirectoryStays)
     EXPECT_EQ(std::filesystem::current_path(), cwd);
 }
 
-TEST_F(DirBoxTest, KeysToggleEntriesButNeverTheRoot)
+TEST_F(DirBoxTest, KeysToggleEntriesButNeverTheRootAndTypingFindsAName)
 {
     DocDirBox box(nullptr, &config);
     const int rootChildren = box.count() - 1;
     box.setCurrentRow(0);
-    QTest::keyClick(&box, Qt::Key_Return);
+    QTest::keyClick(&box, Qt::Key_Left);
     box.DoubleClick();
     EXPECT_EQ(box.count() - 1, rootChildren);
 
     const int pos = OpenTemp(box);
     box.setCurrentRow(pos + 2);
     QTest::keyClick(&box, Qt::Key_Return);
+    EXPECT_EQ(Subtree(box, pos + 2).size(), 3u);
+    QTest::keyClick(&box, Qt::Key_Return);
+    EXPECT_TRUE(Subtree(box, pos + 2).empty());
+    // Where Enter is to confirm the dialog (the copy dialog), the box leaves it alone.
+    box.SetEnterOpens(false);
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QApplication::sendEvent(&box, &enter);
+    EXPECT_FALSE(enter.isAccepted());
+    EXPECT_TRUE(Subtree(box, pos + 2).empty());
+    QTest::keyClick(&box, Qt::Key_Right);
     EXPECT_EQ(Subtree(box, pos + 2).size(), 3u);
     QTest::keyClick(&box, Qt::Key_Left);
     EXPECT_TRUE(Subtree(box, pos + 2).empty());
@@ -165,6 +188,14 @@ TEST_F(DirBoxTest, KeysToggleEntriesButNeverTheRoot)
     box.setCurrentRow(pos + 2);
     QTest::keyClick(&box, Qt::Key_Right);
     EXPECT_EQ(Subtree(box, pos + 2).size(), 3u);
+
+    // Typed letters match the names, not the indented lines.
+    box.setCurrentRow(pos);
+    QTest::keyClicks(&box, "DE");
+    EXPECT_EQ(box.GetDir(box.GetSelectedPos()), dir.PathOf("A/deep"));
+    QTest::qWait(QApplication::keyboardInputInterval() + 50);
+    QTest::keyClicks(&box, "w");
+    EXPECT_EQ(box.GetDir(box.GetSelectedPos()), dir.PathOf("A/w"));
 }
 
 // A temporary directory in memory where there is one: making and removing thousands of

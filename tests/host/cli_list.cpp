@@ -79,6 +79,12 @@ TEST_F(CliListTest, TsvTextAndJsonShowTheSameSortedRows)
     for (const char* key : {"topic", "modifiedBy", "printedBy", "comment", "keywords"})
         EXPECT_TRUE(first[key].isString()) << key;
     EXPECT_EQ(array[2].toObject()["author"].toString(), QString::fromUtf8("Zoë Ünal"));
+
+    // CSV: the same cells, comma-separated records ended by CR LF.
+    const RunResult csv = List(config, {"--format", "csv"});
+    ASSERT_EQ(csv.status, 0) << csv.err;
+    EXPECT_EQ(csv.out, "File name,Title,Author\r\nb.docx,Alpha memo,Bob Builder\r\n"
+                       "a.odt,Beta plan,Ann Author\r\nc.pdf,Gamma,Zoë Ünal\r\n");
 }
 
 TEST_F(CliListTest, SortsByTheGroupsColumnAndDirection)

@@ -1,5 +1,10 @@
 // The commands menu's enabling and the delete command.
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QTest>
 #include <QToolButton>
+#include <cerrno>
+#include <cstring>
 
 #include "docmgr/view/doccommandmenu.h"
 #include "tests/support/managerfixture.h"
@@ -19,7 +24,7 @@ protected:
     std::vector<unsigned short> EnabledCommands()
     {
         std::vector<unsigned short> ids;
-        for (unsigned short id = CMD_DELETE; id <= CMD_PRINTLIST; ++id)
+        for (unsigned short id = CMD_DELETE; id <= CMD_EXPORTLIST; ++id)
             if (Enabled(id))
                 ids.push_back(id);
         return ids;
@@ -33,15 +38,15 @@ TEST_F(CommandsTest, CommandsFollowTheSelection)
     MakeDocs();
     Start();
     QPushButton* open = Child<QPushButton>("openButton");
-    EXPECT_EQ(EnabledCommands(), Ids{CMD_PRINTLIST});
+    EXPECT_EQ(EnabledCommands(), (Ids{CMD_PRINTLIST, CMD_EXPORTLIST}));
     EXPECT_FALSE(open->isEnabled());
 
     Select({"a.odt"});
-    EXPECT_EQ(EnabledCommands(), (Ids{20, 21, 22, 23, 24, 25}));
+    EXPECT_EQ(EnabledCommands(), (Ids{20, 21, 22, 23, 24, 25, 26}));
     EXPECT_TRUE(open->isEnabled());
 
     Select({"a.odt", "b.odt", "c.odt"});
-    EXPECT_EQ(EnabledCommands(), (Ids{20, 22, 24, 25}));  // information and rename need one row
+    EXPECT_EQ(EnabledCommands(), (Ids{20, 22, 24, 25, 26}));  // information and rename need one row
 }
 
 TEST_F(CommandsTest, EachRightSwitchesItsCommandOff)
@@ -56,7 +61,7 @@ TEST_F(CommandsTest, EachRightSwitchesItsCommandOff)
         Start();
         Select({"a.odt"});
         Ids expected;
-        for (unsigned short all = CMD_DELETE; all <= CMD_PRINTLIST; ++all)
+        for (unsigned short all = CMD_DELETE; all <= CMD_EXPORTLIST; ++all)
             if (all != id)
                 expected.push_back(all);
         EXPECT_EQ(EnabledCommands(), expected) << key;
@@ -89,6 +94,7 @@ TEST_F(CommandsTest, DeleteRemovesTheSelectedFilesAndRewritesThePathLine)
     Select({"a.odt", "b.odt", "d.odt"});
     AnswerBoxes(RET_NO);
     host->Command(CMD_DELETE);
+    EXPECT_EQ(AnsweredDocBox().defaultAnswer, RET_NO);  // Enter keeps the files
     EXPECT_EQ(Browser().GetRowCount(), 4);
     EXPECT_TRUE(dir.Exists("docs/a.odt"));
 
@@ -98,12 +104,13 @@ TEST_F(CommandsTest, DeleteRemovesTheSelectedFilesAndRewritesThePathLine)
     AnswerBoxes(RET_YES);
     host->Command(CMD_DELETE);
     ASSERT_EQ(queries.size(), 1u);
-    EXPECT_EQ(queries[0], "Do you really want to delete the selected documents?");
+    EXPECT_EQ(queries[0], "Do you really want to delete the 3 selected documents?");
     EXPECT_FALSE(dir.Exists("docs/a.odt"));
     EXPECT_FALSE(dir.Exists("docs/d.odt"));
     EXPECT_TRUE(dir.Exists("docs/c.odt"));
     ASSERT_EQ(infos.size(), 1u);
     EXPECT_EQ(infos[0], "The file " + docs + "/b.odt could not be deleted.");
+    EXPECT_EQ(AnsweredDocBox().detail.toStdString(), std::strerror(ENOENT));  // the system's reason
     EXPECT_EQ(RowNames(), (std::vector<std::string>{"b.odt", "c.odt"}));
     EXPECT_EQ(Browser().GetSelectedRowCount(), 0);
     EXPECT_EQ(host->GetPathLine(), "22");
@@ -123,4 +130,84 @@ TEST_F(CommandsTest, PrintDocumentsEndsTheDialogForTheHost)
     EXPECT_EQ(host->Execute(), RET_PRINTDOCS);
     ASSERT_NE(host->GetFirstDoc(), nullptr);
     EXPECT_EQ(*host->GetFirstDoc(), docs + "/c.odt");
+}
+
+TEST_F(CommandsTest, OneDocumentIsNamedInTheDeleteQuestion)
+{
+    WriteDefaultConfig();
+    MakeDocs();
+    Start();
+    Select({"c.odt"});
+    AnswerBoxes(RET_NO);
+    host->Command(CMD_DELETE);
+    EXPECT_EQ(queries, std::vector<std::string>{"Do you really want to delete the document \"c.odt\"?"});
+}
+
+TEST_F(CommandsTest, DeleteAndF2InTheListRunTheirCommandsWhenEnabled)
+{
+    WriteDefaultConfig();
+    MakeDocs();
+    Start();
+    host->show();
+    QApplication::setActiveWindow(host.get());
+    Browser().setFocus();
+    AnswerBoxes(RET_NO);
+
+    QTest::keyClick(&Browser(), Qt::Key_Delete);  // nothing selected: delete is off
+    EXPECT_TRUE(queries.empty());
+    Select({"a.odt"});
+    QTest::keyClick(&Browser(), Qt::Key_Delete);
+    EXPECT_EQ(queries.size(), 1u);
+
+    QString opened;
+    OnNextModal([&opened](QDialog& dialog) { opened = dialog.metaObject()->className(); }, 0);
+    QTest::keyClick(&Browser(), Qt::Key_F2);
+    EXPECT_EQ(opened, "DocRenameDialog");
+
+    Select({"a.odt", "b.odt"});  // rename needs one row
+    opened.clear();
+    QTest::keyClick(&Browser(), Qt::Key_F2);
+    QApplication::processEvents();
+    EXPECT_TRUE(opened.isEmpty());
+}
+
+TEST_F(CommandsTest, RenameAndMoveKeepTheDocumentsSelected)
+{
+    WriteDefaultConfig();
+    MakeDocs();
+    Start();
+    Select({"b.odt"});
+    OnNextModal([](QDialog& dialog) {
+        dialog.findChild<QLineEdit*>("newNameEdit")->setText("renamed.odt");
+        dialog.findChild<QPushButton*>("okButton")->click();
+    });
+    host->Command(CMD_RENAME);
+    ASSERT_NE(Browser().GetFirstDoc(), nullptr);
+    EXPECT_EQ(*Browser().GetFirstDoc(), docs + "/renamed.odt");
+    EXPECT_EQ(Browser().GetSelectedRowCount(), 1);
+}
+
+TEST_F(CommandsTest, ExportWritesTheListAsShownToCsv)
+{
+    WriteDefaultConfig();
+    MakeDocs();
+    Start();
+    const std::string target = dir.PathOf("list.csv");
+    OnNextModal([&target](QDialog& dialog) {
+        auto& files = dynamic_cast<QFileDialog&>(dialog);
+        files.selectFile(QString::fromStdString(target));
+        QMetaObject::invokeMethod(&files, "accept");
+    });
+    host->Command(CMD_EXPORTLIST);
+    const std::string csv = dir.Read("list.csv");
+    // A header of the shown columns' titles in display order, then one record per row.
+    std::string header;
+    for (unsigned short p = 0; p < Browser().ColCount(); ++p) {
+        const unsigned short id = Browser().GetColumnId(p);
+        if (id >= 1 && id <= 20)
+            header += (header.empty() ? "" : ",") + Browser().GetColumnTitle(id);
+    }
+    EXPECT_EQ(csv.substr(0, csv.find("\r\n")), header);
+    EXPECT_EQ(std::count(csv.begin(), csv.end(), '\n'), 5);
+    EXPECT_NE(csv.find("\r\na.odt,"), std::string::npos) << csv;
 }

@@ -3,6 +3,7 @@
 
 #include "docmgr/records/docfields.h"
 #include "docmgr/view/doccommandmenu.h"
+#include "docmgr/view/frozencolumns.h"
 #include "tests/support/managerfixture.h"
 
 class HandlersTest : public ManagerTest {
@@ -116,4 +117,12 @@ TEST_F(HandlersTest, RightClickOpensTheContextMenuOnlyOnASelection)
     QTimer::singleShot(0, closePopup);
     QApplication::sendEvent(viewport, &some);
     EXPECT_EQ(seen, QStringList{"commandMenu"});
+
+    // Over the frozen columns the same menu opens.
+    QWidget* frozen = Browser().GetFrozenView()->viewport();
+    ASSERT_TRUE(Browser().GetFrozenView()->isVisible());
+    QContextMenuEvent overFrozen(QContextMenuEvent::Mouse, at, frozen->mapToGlobal(at));
+    QTimer::singleShot(0, closePopup);
+    QApplication::sendEvent(frozen, &overFrozen);
+    EXPECT_EQ(seen, (QStringList{"commandMenu", "commandMenu"}));
 }

@@ -30,6 +30,20 @@ protected:
     }
 };
 
+TEST_F(SectionsTest, AFileWithoutAGeneralSectionOpensOnItsFirstGroup)
+{
+    // As "docmanager --export-config" leaves a file it made: groups, no "GENERAL".
+    {
+        Config file(configPath);
+        file.DeleteGroup("GENERAL");
+        ASSERT_TRUE(file.Flush());
+    }
+    Start();
+    EXPECT_EQ(Sections()->currentItem()->text(), "Work");
+    EXPECT_EQ(host->GetSelectedGroupName(), "Alpha");
+    EXPECT_EQ(RowNames(), std::vector<std::string>{"a1.odt"});
+}
+
 TEST_F(SectionsTest, SectionsAppearOnceInTheOrderOfTheirFirstGroup)
 {
     Start();

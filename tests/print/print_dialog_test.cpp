@@ -1,4 +1,5 @@
 // The print dialog's controls, a whole print run through OK, and the progress dialog.
+#include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
 #include <filesystem>
@@ -28,6 +29,31 @@ TEST_F(PrintTest, EveryColumnStartsSelectedAndOkNeedsOne)
         EXPECT_FALSE(ok->isEnabled());
         list->item(3)->setSelected(true);
         EXPECT_TRUE(ok->isEnabled());
+    });
+}
+
+TEST_F(PrintTest, TheDialogSaysWhenNotAllChosenColumnsFitAndOffersLandscape)
+{
+    InManager([&] {
+        auto dialog = MakeDialog(40);  // large letters: few columns fit across A4
+        auto* list = dialog->findChild<QListWidget*>("columnList");
+        auto* fit = dialog->findChild<QLabel*>("fitLabel");
+        auto* landscape = dialog->findChild<QCheckBox*>("landscapeBox");
+        ASSERT_TRUE(list && fit && landscape);
+        const int portrait = dialog->FittingColumns();
+        EXPECT_LT(portrait, list->count());
+        EXPECT_FALSE(fit->isHidden());
+        EXPECT_TRUE(fit->text().startsWith(QString("Only %1 of the %2 ").arg(portrait).arg(list->count())))
+            << fit->text().toStdString();
+
+        landscape->setChecked(true);
+        EXPECT_EQ(dialog->GetPrinter()->pageLayout().orientation(), QPageLayout::Landscape);
+        EXPECT_GT(dialog->FittingColumns(), portrait);
+
+        list->clearSelection();
+        list->item(0)->setSelected(true);
+        EXPECT_EQ(dialog->FittingColumns(), 1);
+        EXPECT_TRUE(fit->isHidden());
     });
 }
 

@@ -20,6 +20,7 @@ TEST_F(PrintTest, PagesHoldAllButTheHeaderLineAndAnExactFitEndsWithAHeaderPage)
     long lines = 0;
     InManager([&] {
         auto dialog = MakeDialog(40);
+        dialog->GetPrinter()->setPageMargins(QMarginsF(20, 15, 20, 15), QPageLayout::Millimeter);
         lines = LinesPerPage(*dialog);
         ASSERT_GT(lines, 2);
         ASSERT_LT(lines, 50) << "a page of 40 pt lines";
@@ -36,11 +37,13 @@ TEST_F(PrintTest, PagesHoldAllButTheHeaderLineAndAnExactFitEndsWithAHeaderPage)
         EXPECT_EQ(pdfwords::Lines(words, page), expected) << "page " << page;
     }
     EXPECT_EQ(pdfwords::Lines(words, 3), std::vector<std::string>{"File name"});
-    // No margin: the header starts in the sheet's top left corner.
+    // The header starts in the top left corner of the printable area: 20 mm (56.7 pt)
+    // from the left edge, 15 mm (42.5 pt) from the top.
     const pdfwords::Word* header = pdfwords::Find(words, 1, "File");
     ASSERT_NE(header, nullptr);
-    EXPECT_LT(header->x, 1.0);
-    EXPECT_LT(header->y, 10.0);
+    EXPECT_NEAR(header->x, 56.7, 1.0);
+    EXPECT_GT(header->y, 42.0);
+    EXPECT_LT(header->y, 52.0);
 }
 
 TEST_F(PrintTest, AnEmptyListPrintsOnePageWithTheHeader)

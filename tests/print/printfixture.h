@@ -58,6 +58,8 @@ protected:
         printer->setOutputFormat(QPrinter::PdfFormat);
         printer->setOutputFileName(QString::fromStdString(pdf));
         printer->setPageSize(QPageSize(QPageSize::A4));
+        // The table starts at the printable area; without margins that is the sheet's corner.
+        printer->setPageMargins(QMarginsF(0, 0, 0, 0), QPageLayout::Millimeter);
         QFont font = dialog->GetPrintFont();
         font.setPointSize(points);
         dialog->SetPrintFont(font);

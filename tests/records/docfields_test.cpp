@@ -3,6 +3,7 @@
 
 #include "docmgr/config/docgroupconfig.h"
 #include "docmgr/records/docfields.h"
+#include "docmgr/records/listcsv.h"
 #include "docmgr/tools/intl.h"
 #include "docmgr/tools/resmgr.h"
 
@@ -80,4 +81,19 @@ TEST(DocFields, ColumnTitles)
     EXPECT_EQ(GetColumnTitle(COL_DIRECTORY, group), "Directory");
     EXPECT_EQ(GetColumnTitle(0, group), "");
     EXPECT_EQ(GetColumnTitle(21, group), "");
+}
+
+TEST(DocFields, CsvRecordsQuoteOnlyWhatNeedsIt)
+{
+    const std::pair<std::vector<std::string>, std::string> cases[] = {
+        {{"plain", "Zoë"}, "plain,Zoë\r\n"},
+        {{"a,b", "say \"hi\""}, "\"a,b\",\"say \"\"hi\"\"\"\r\n"},
+        {{"two\nlines", "cr\r"}, "\"two\nlines\",\"cr\r\"\r\n"},
+        {{"", ""}, ",\r\n"},
+    };
+    for (const auto& [fields, expected] : cases) {
+        std::string out;
+        AppendCsvRecord(out, fields);
+        EXPECT_EQ(out, expected);
+    }
 }

@@ -3,6 +3,7 @@
 #include <QTemporaryDir>
 #include <cerrno>
 #include <fstream>
+#include <set>
 #include <sstream>
 #include <sys/stat.h>
 
@@ -144,4 +145,27 @@ TEST(Resources, ModuleSlotHoldsTheManagerWhileTheModuleLives)
     ResModule english(Language::English);
     EXPECT_EQ(ResString(15700), "File name");
     EXPECT_EQ(ResString(9999), "");
+}
+
+TEST(Resources, EveryLanguageHasItsCatalogueAndMenusHaveDistinctKeys)
+{
+    // A language without a catalogue shows the English texts; a country variant finds
+    // its language's catalogue.
+    for (const Language& language : {Language{"fr"}, Language{"de_AT"}}) {
+        ResModule module(language);
+        EXPECT_EQ(ResString(15700), language.code == "fr" ? "File name" : "Dateiname");
+    }
+    for (const Language& language : {Language::English, Language::German}) {
+        ResModule module(language);
+        // Translations come from the catalogue by resource id, not by the English text.
+        EXPECT_EQ(ResText(ResKind::Menu, 15700, 25).empty(), false);
+        std::set<char32_t> keys;
+        for (uint16_t item = 20; item <= 26; ++item) {
+            const QString text = QString::fromStdString(ResText(ResKind::Menu, 15700, item));
+            const qsizetype amp = text.indexOf(u'&');
+            ASSERT_GE(amp, 0) << language.code << " " << item;
+            EXPECT_TRUE(keys.insert(text.at(amp + 1).toLower().unicode()).second)
+                << language.code << ": " << text.toStdString();
+        }
+    }
 }

@@ -74,7 +74,7 @@ TEST(DateTime, DecimalNumbersAndTexts)
     EXPECT_EQ(intl::FormatTime(time, Date(0)), "");
     EXPECT_NE(intl::FormatTime(time).find("45"), std::string::npos);
     EXPECT_NE(intl::FormatTime(time).find("27"), std::string::npos);  // seconds are shown
-    EXPECT_FALSE(intl::FormatDate(date).empty());
+    EXPECT_NE(intl::FormatDate(date).find("1999"), std::string::npos);  // four-digit year
     EXPECT_GE(Date::Today().GetYear(), 2024u);
 }
 

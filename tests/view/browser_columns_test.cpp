@@ -5,6 +5,7 @@
 #include <QTest>
 #include <filesystem>
 
+#include "docmgr/view/doccelldelegate.h"
 #include "docmgr/config/configkeys.h"
 #include "docmgr/records/docfields.h"
 #include "docmgr/view/doclistmodel.h"
@@ -137,7 +138,7 @@ TEST_F(ManagerTest, HeaderDoubleClickFitsTheColumnAndStoresItsWidth)
     EXPECT_EQ(Settings().WorkingGroup().columnWidth[2], 8);
     EXPECT_EQ(StoredWidth(configPath, "0", 2), "8");
 
-    // The widest text + 2, found through a double click on the title.
+    // The widest text with the cell's margins + 2, found through a double click on the title.
     for (const char* name : {"a.odt", "b.odt"}) {
         dir.MakeFile(std::string("docs/") + name, "text");
         host->known[name].title = name[0] == 'a' ? "Short" : "A somewhat longer title";
@@ -147,7 +148,8 @@ TEST_F(ManagerTest, HeaderDoubleClickFitsTheColumnAndStoresItsWidth)
     QHeaderView* header = browser.horizontalHeader();
     const int x = header->sectionViewportPosition(titleColumn) + header->sectionSize(titleColumn) / 2;
     QTest::mouseDClick(header->viewport(), Qt::LeftButton, {}, QPoint(x, header->height() / 2));
-    const int widest = QFontMetrics(browser.font()).horizontalAdvance("A somewhat longer title");
+    const int widest = QFontMetrics(browser.font()).horizontalAdvance("A somewhat longer title") +
+                       2 * DocCellDelegate::TEXT_MARGIN;
     EXPECT_EQ(browser.columnWidth(titleColumn), widest + 2);
     EXPECT_EQ(StoredWidth(configPath, "0", 2), std::to_string(widest + 2));
 

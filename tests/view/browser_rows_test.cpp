@@ -113,6 +113,22 @@ TEST_F(ManagerTest, DoubleClickOnARowOpensItWhenOpeningIsPossible)
     EXPECT_EQ(host->GetNextDoc(), nullptr);
 }
 
+TEST_F(ManagerTest, TheFirstDownArrowSelectsTheFirstRow)
+{
+    WriteDefaultConfig();
+    for (const char* name : {"a.odt", "b.odt", "c.odt"})
+        dir.MakeFile(std::string("docs/") + name, "x");
+    Start();
+    host->show();
+    QApplication::setActiveWindow(host.get());
+    Browser().setFocus(Qt::TabFocusReason);  // the focus makes row 0 current, unselected
+    Browser().ClearSelection();
+    QTest::keyClick(&Browser(), Qt::Key_Down);
+    EXPECT_EQ(Browser().GetFirstSelectedRow(), 0);
+    QTest::keyClick(&Browser(), Qt::Key_Down);
+    EXPECT_EQ(Browser().GetFirstSelectedRow(), 1);
+}
+
 TEST_F(ManagerTest, ContextMenuIsEnabledByTheRightsAlone)
 {
     WriteDefaultConfig();

@@ -1,0 +1,60 @@
+// "Export list...": the list as shown, written to a CSV file the user names.
+#include <QFileDialog>
+#include <cerrno>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "docmgr/config/impldocconfig.h"
+#include "docmgr/manager/docmanagerimpl.h"
+#include "docmgr/records/docfields.h"
+#include "docmgr/records/listcsv.h"
+#include "docmgr/ui/dialogtext.h"
+#include "docmgr/ui/docmsgbox.h"
+#include "docmgr/ui/fileoptext.h"
+#include "docmgr/view/docbrowser.h"
+
+namespace {
+constexpr uint16_t DLG_EXPORT = 15711;  // title; local 1: the file type filter
+constexpr uint16_t STR_EXPORT_FAILED = 15744;
+constexpr uint16_t STR_EXPORT_FAILED_END = 15745;
+
+// Writes `text` to `path`, replacing the file; 0 or an errno value.
+int WriteFile(const std::string& path, const std::string& text)
+{
+    std::FILE* file = std::fopen(path.c_str(), "wb");
+    if (!file)
+        return errno;
+    int error = 0;
+    if (std::fwrite(text.data(), 1, text.size(), file) != text.size())
+        error = errno ? errno : EIO;
+    if (std::fclose(file) != 0 && error == 0)
+        error = errno ? errno : EIO;
+    return error;
+}
+}  // namespace
+
+void DocManager::ExportList()
+{
+    QFileDialog dialog(this, DialogText(DLG_EXPORT), QString(), DialogText(DLG_EXPORT, 1));
+    dialog.setObjectName(QStringLiteral("exportDialog"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("csv"));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return;
+    const std::string path = dialog.selectedFiles().front().toStdString();
+
+    // The columns as the list shows them, left to right; a place without a column id
+    // shows nothing and is left out.
+    std::vector<uint16_t> columns;
+    for (unsigned short p = 0; p < d->browser->ColCount(); ++p) {
+        const uint16_t id = d->browser->GetColumnId(p);
+        if (id >= 1 && id <= COLUMN_COUNT)
+            columns.push_back(id);
+    }
+    const std::string text =
+        FormatCsvList(d->browser->GetRowList().Rows(), columns, d->settings->WorkingGroup());
+    if (const int error = WriteFile(path, text))
+        DocInfoBox(this, JoinedMessage(STR_EXPORT_FAILED, path, STR_EXPORT_FAILED_END),
+                   DocErrorText(error));
+}

@@ -1,0 +1,40 @@
+#include "docmgr/records/listcsv.h"
+
+#include "docmgr/records/docfields.h"
+
+void AppendCsvRecord(std::string& out, const std::vector<std::string>& fields)
+{
+    for (size_t i = 0; i < fields.size(); ++i) {
+        if (i > 0)
+            out += ',';
+        const std::string& field = fields[i];
+        if (field.find_first_of(",\"\r\n") == std::string::npos) {
+            out += field;
+            continue;
+        }
+        out += '"';
+        for (char c : field) {
+            if (c == '"')
+                out += '"';
+            out += c;
+        }
+        out += '"';
+    }
+    out += "\r\n";
+}
+
+std::string FormatCsvList(const std::vector<std::unique_ptr<DocInfo>>& rows,
+                          const std::vector<uint16_t>& columns, const DocGroupConfig& group)
+{
+    std::string out;
+    std::vector<std::string> fields(columns.size());
+    for (size_t c = 0; c < columns.size(); ++c)
+        fields[c] = GetColumnTitle(columns[c], group);
+    AppendCsvRecord(out, fields);
+    for (const auto& row : rows) {
+        for (size_t c = 0; c < columns.size(); ++c)
+            fields[c] = GetFieldString(*row, columns[c]);
+        AppendCsvRecord(out, fields);
+    }
+    return out;
+}
