@@ -8,8 +8,9 @@ class ImplDocConfig;
 
 // Entry 0 is the root "/"; every other entry is 2 x depth spaces, "+" (open) or "-"
 // (closed), a space and the directory's name. Siblings are ordered without regard to
-// letter case; directories on the configuration's exception list are left out, and so
-// are hidden ones (a name starting with ".") until the user asks for them.
+// letter case; directories on the configuration's exception list are left out. Hidden
+// ones (a name starting with ".") are listed like the others unless the user hides them
+// from the tree's context menu.
 class DocDirBox : public QListWidget {
     Q_OBJECT
 public:
@@ -53,7 +54,7 @@ public:
 
 private:
     const ImplDocConfig* config_;
-    bool showHidden_ = false;
+    bool showHidden_ = true;
     bool enterOpens_ = true;
     QString typed_;
     QElapsedTimer typedTimer_;

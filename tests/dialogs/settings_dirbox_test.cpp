@@ -64,9 +64,10 @@ protected:
     }
 };
 
-TEST_F(DirBoxTest, SiblingsAreSortedWithoutCaseAndHiddenOnesShownOnRequest)
+TEST_F(DirBoxTest, SiblingsAreSortedWithoutCaseAndHiddenOnesHiddenOnRequest)
 {
     DocDirBox box(nullptr, &config);
+    EXPECT_TRUE(box.ShowsHidden());
     EXPECT_EQ(box.item(0)->text().toStdString(), "/");
     EXPECT_EQ(box.GetDir(0), "/");
     EXPECT_EQ(Subtree(box, OpenTemp(box, false)),
