@@ -5,6 +5,7 @@
 #include <QTimeZone>
 
 #include "host/readers/docreader.h"
+#include "host/readers/readahead.h"
 #include "host/readers/samplewriter.h"
 #include "tests/host/readers_fixtures.h"
 #include "tests/support/tempdir.h"
@@ -225,4 +226,37 @@ TEST(ReadersFormats, PdfFieldsComeInRecordedOrderThenByName)
     auto ordered = WriteAndRead(dir, "ordered.pdf", doc);
     ASSERT_NE(ordered, nullptr);
     EXPECT_EQ(ordered->info, (Infos{"z", "a", "", ""}));
+}
+
+TEST(ReadersFormats, ReadingAheadGivesWhatReadingGives)
+{
+    TempDir dir;
+    std::vector<std::string> paths;
+    for (int i = 0; i < 12; ++i) {
+        SampleDoc doc = FullSample();
+        doc.title = "Doc " + std::to_string(i);
+        const std::string name = "d" + std::to_string(i) + (i % 3 == 0 ? ".odt" : i % 3 == 1 ? ".docx" : ".pdf");
+        std::string error;
+        ASSERT_TRUE(WriteSample(dir.PathOf(name), doc, error)) << error;
+        paths.push_back(dir.PathOf(name));
+    }
+    paths.push_back(dir.MakeFile("notes.txt", "plain"));
+    DocReadAhead ahead;
+    ahead.Start(paths);
+    // Taken out of order, twice, and one never planned: each as a read of its own gives it.
+    std::vector<std::string> asked(paths.rbegin(), paths.rend());
+    asked.push_back(paths[3]);
+    asked.push_back(dir.MakeFile("late.odt", "not a package"));
+    for (const std::string& path : asked) {
+        const std::unique_ptr<DocInfo> expected = ReadDocInfo(path);
+        const std::unique_ptr<DocInfo> got = ahead.Take(path);
+        ASSERT_EQ(got == nullptr, expected == nullptr) << path;
+        if (got) {
+            EXPECT_EQ(got->title, expected->title) << path;
+            EXPECT_EQ(got->entry, expected->entry);
+            EXPECT_EQ(got->size, expected->size);
+            EXPECT_EQ(got->modifiedDate, expected->modifiedDate);
+        }
+    }
+    ahead.Start(paths);  // dropped untaken, and gone cleanly with the object
 }

@@ -19,6 +19,8 @@ protected:
     static constexpr const char* INDEX = ".docindex";
 
     void SetUp() override { rows.SetConfig(&config); }
+    // Every directory pass names the documents it reads, in the order it reads them.
+    void TearDown() override { EXPECT_EQ(source.PlanMisses(), 0); }
 
     // Reads the test directory alone into an empty list.
     void ReadDir(bool withSubdirs = false)

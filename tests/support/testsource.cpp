@@ -15,10 +15,29 @@ DocInfo TestSource::Sample(const std::string& name)
     return info;
 }
 
+void TestSource::ReadAhead(const std::vector<std::string>& paths)
+{
+    unaskedPlans += int(planned.size() - plannedAsked);
+    planned = paths;
+    plannedAsked = 0;
+    askedOfPlan.clear();
+}
+
+int TestSource::PlanMisses() const
+{
+    return unplannedCalls + unaskedPlans + int(planned.size() - plannedAsked);
+}
+
 std::unique_ptr<DocInfo> TestSource::CreateDocInfo(const std::string& path)
 {
     ++totalCalls;
     ++callsPerPath[path];
+    if (askedOfPlan.insert(path).second) {
+        if (plannedAsked < planned.size() && planned[plannedAsked] == path)
+            ++plannedAsked;
+        else
+            ++unplannedCalls;
+    }
     const size_t slash = path.find_last_of('/');
     const std::string name = slash == std::string::npos ? path : path.substr(slash + 1);
     if (notDocuments.count(name))

@@ -4,6 +4,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "docmgr/records/docsource.h"
 
@@ -16,6 +17,11 @@ public:
 
     std::unique_ptr<DocInfo> CreateDocInfo(const std::string& path) override;
     void CollectProgress(size_t dirs, size_t docs) override;
+    // Checks the plan against the calls that follow it: each file asked for the first time
+    // must be the next one planned, and a new plan (or the end) finds the last one done.
+    void ReadAhead(const std::vector<std::string>& paths) override;
+    // Calls that broke the last plan, and planned files never asked for.
+    int PlanMisses() const;
 
     // Calls for the file at `path` (absolute), and for all files.
     int CallsFor(const std::string& path) const;
@@ -26,6 +32,11 @@ public:
     std::set<std::string> notDocuments;    // file names answered with null
     std::map<std::string, int> callsPerPath;
     int totalCalls = 0;
+    std::vector<std::string> planned;
+    size_t plannedAsked = 0;
+    std::set<std::string> askedOfPlan;
+    int unplannedCalls = 0;
+    int unaskedPlans = 0;
     size_t progressCalls = 0;
     size_t lastProgressDirs = 0;
     size_t lastProgressDocs = 0;
