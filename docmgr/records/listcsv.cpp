@@ -23,18 +23,26 @@ void AppendCsvRecord(std::string& out, const std::vector<std::string>& fields)
     out += "\r\n";
 }
 
+void ForEachCsvRecord(const std::vector<std::unique_ptr<DocInfo>>& rows,
+                      const std::vector<uint16_t>& columns, const DocGroupConfig& group,
+                      const std::function<void(const std::vector<std::string>& fields)>& record)
+{
+    std::vector<std::string> fields(columns.size());
+    for (size_t c = 0; c < columns.size(); ++c)
+        fields[c] = GetColumnTitle(columns[c], group);
+    record(fields);
+    for (const auto& row : rows) {
+        for (size_t c = 0; c < columns.size(); ++c)
+            fields[c] = GetFieldString(*row, columns[c]);
+        record(fields);
+    }
+}
+
 std::string FormatCsvList(const std::vector<std::unique_ptr<DocInfo>>& rows,
                           const std::vector<uint16_t>& columns, const DocGroupConfig& group)
 {
     std::string out;
-    std::vector<std::string> fields(columns.size());
-    for (size_t c = 0; c < columns.size(); ++c)
-        fields[c] = GetColumnTitle(columns[c], group);
-    AppendCsvRecord(out, fields);
-    for (const auto& row : rows) {
-        for (size_t c = 0; c < columns.size(); ++c)
-            fields[c] = GetFieldString(*row, columns[c]);
-        AppendCsvRecord(out, fields);
-    }
+    ForEachCsvRecord(rows, columns, group,
+                     [&out](const std::vector<std::string>& fields) { AppendCsvRecord(out, fields); });
     return out;
 }

@@ -16,6 +16,11 @@
 
 namespace {
 
+struct HeadlessResult {
+    int status = 0;     // 0 success, 1 failure, 2 bad arguments
+    std::string err;    // messages for standard error
+};
+
 constexpr uint16_t STR_INDEX_NAME = 15720;
 constexpr uint16_t STR_DEFAULT_EXTENSIONS = 15722;
 
@@ -69,7 +74,8 @@ public:
     std::string warnings;
 };
 
-HeadlessResult List(const CommandLine& cmd, ImplDocConfig& settings, std::string err)
+HeadlessResult List(const CommandLine& cmd, ImplDocConfig& settings, std::string err,
+                    std::ostream& out, std::ostream& errOut)
 {
     if (cmd.groupGiven) {
         if (!HasGroup(settings, cmd.groupName))
@@ -91,15 +97,17 @@ HeadlessResult List(const CommandLine& cmd, ImplDocConfig& settings, std::string
     rows.SetDirFileName(cmd.indexName.empty() ? ResString(STR_INDEX_NAME) : cmd.indexName);
     rows.CollectFiles(pathList);
 
-    HeadlessResult result;
-    result.err = std::move(err) + source.warnings;
-    result.out = FormatList(cmd.format, rows.Rows(), ListColumns(group, cmd.columns), group);
-    return result;
+    errOut << err << source.warnings;
+    ListSink sink(out);
+    WriteList(cmd.format, sink, rows.Rows(), ListColumns(group, cmd.columns), group);
+    return {};
 }
 
 }  // namespace
 
-HeadlessResult RunHeadless(const CommandLine& cmd)
+namespace {
+
+HeadlessResult Run(const CommandLine& cmd, std::ostream& out, std::ostream& errOut)
 {
     ResModule resources;
     std::string err;
@@ -116,10 +124,18 @@ HeadlessResult RunHeadless(const CommandLine& cmd)
             + " could not be saved: " + config->GetSaveError() + "\n";
 
     if (cmd.mode == RunMode::ExportConfig) {
-        HeadlessResult result;
-        result.err = std::move(err);
-        result.out = settings.Export() + "\n";
-        return result;
+        errOut << err;
+        out << settings.Export() << '\n';
+        return {};
     }
-    return List(cmd, settings, std::move(err));
+    return List(cmd, settings, std::move(err), out, errOut);
+}
+
+}  // namespace
+
+int RunHeadless(const CommandLine& cmd, std::ostream& out, std::ostream& err)
+{
+    const HeadlessResult result = Run(cmd, out, err);
+    err << result.err;
+    return result.status;
 }

@@ -1,16 +1,13 @@
 #pragma once
 // The modes that need no display: --list and --export-config.
+#include <ostream>
 #include <string>
 
 #include "host/cli/commandline.h"
 
-struct HeadlessResult {
-    int status = 0;     // 0 success, 1 failure, 2 bad arguments
-    std::string out;    // for standard output; empty unless status is 0
-    std::string err;    // messages for standard error
-};
-
-// Runs the listing or the export of `cmd`. Needs a QCoreApplication and no window: the
-// module's texts come from a ResModule made here. Output is gathered, not printed, so
-// that nothing reaches standard output when the run fails.
-HeadlessResult RunHeadless(const CommandLine& cmd);
+// Runs the listing or the export of `cmd`: its messages go to `err`, then, when it
+// succeeds, the listing or export to `out` (a listing row by row, as it is written), so
+// that nothing reaches `out` when the run fails. Needs a QCoreApplication and no window:
+// the module's texts come from a ResModule made here. Returns 0 on success, 1 on failure,
+// 2 for bad arguments.
+int RunHeadless(const CommandLine& cmd, std::ostream& out, std::ostream& err);

@@ -124,19 +124,19 @@ std::string IsoStamp(const Date& date, const Time& time)
     return buf;
 }
 
-std::string FormatJsonList(const DocRows& rows)
+void WriteJsonList(ListSink& sink, const DocRows& rows)
 {
-    if (rows.empty())
-        return "[]\n";
-    std::string out = "[\n";
+    std::string& out = sink.Text();
+    if (rows.empty()) {
+        out += "[]\n";
+        return;
+    }
+    out += "[\n";
     for (size_t i = 0; i < rows.size(); ++i) {
         if (i > 0)
             out += ",\n";
         AppendRow(out, *rows[i]);
-        // Sized once from the first row, so that a long list is not copied while it grows.
-        if (i == 0)
-            out.reserve(out.size() * rows.size() * 5 / 4);
+        sink.RowDone();
     }
     out += "\n]\n";
-    return out;
 }

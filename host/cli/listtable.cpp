@@ -56,45 +56,46 @@ std::vector<uint16_t> ListColumns(const DocGroupConfig& group, const std::vector
     return columns;
 }
 
-std::string FormatTextList(const DocRows& rows, const std::vector<uint16_t>& columns,
-                           const DocGroupConfig& group)
+void WriteTextList(ListSink& sink, const DocRows& rows, const std::vector<uint16_t>& columns,
+                   const DocGroupConfig& group)
 {
-    // Every cell once, flat, row after row; the widths need them all before the first line.
-    std::vector<std::string> cells;
-    cells.reserve((rows.size() + 1) * columns.size());
+    // The widths need every cell before the first line: the cells are made twice rather
+    // than all kept at once.
     std::vector<size_t> widths(columns.size(), 0);
-    const auto keep = [&](size_t c, const std::string& text) {
-        std::string cell;
+    std::string cell;
+    const auto measure = [&](size_t c, const std::string& text) {
+        cell.clear();
         AppendOneLine(cell, text);
         widths[c] = std::max(widths[c], CharCount(cell));
-        cells.push_back(std::move(cell));
     };
-    ForEachCell(nullptr, columns, group, keep);
+    ForEachCell(nullptr, columns, group, measure);
     for (const auto& row : rows)
-        ForEachCell(row.get(), columns, group, keep);
+        ForEachCell(row.get(), columns, group, measure);
 
-    std::string out;
-    std::string line;
-    for (size_t at = 0; at < cells.size(); at += columns.size()) {
-        line.clear();
-        for (size_t c = 0; c < columns.size(); ++c) {
-            if (c > 0)
-                line += ' ';
-            line += cells[at + c];
-            line.append(widths[c] - CharCount(cells[at + c]), ' ');
-        }
+    std::string& out = sink.Text();
+    const auto append = [&](size_t c, const std::string& text) {
+        if (c > 0)
+            out += ' ';
+        const size_t start = out.size();
+        AppendOneLine(out, text);
+        out.append(widths[c] - CharCount(std::string_view(out).substr(start)), ' ');
+    };
+    const auto line = [&](const DocInfo* info) {
+        ForEachCell(info, columns, group, append);
         // The last column is padded like the others; trailing blanks help no reader.
-        line.erase(line.find_last_not_of(' ') + 1);
-        out += line;
+        out.erase(out.find_last_not_of(' ') + 1);
         out += '\n';
-    }
-    return out;
+        sink.RowDone();
+    };
+    line(nullptr);
+    for (const auto& row : rows)
+        line(row.get());
 }
 
-std::string FormatTsvList(const DocRows& rows, const std::vector<uint16_t>& columns,
-                          const DocGroupConfig& group)
+void WriteTsvList(ListSink& sink, const DocRows& rows, const std::vector<uint16_t>& columns,
+                  const DocGroupConfig& group)
 {
-    std::string out;
+    std::string& out = sink.Text();
     const auto append = [&out](size_t c, const std::string& text) {
         if (c > 0)
             out += '\t';
@@ -102,28 +103,34 @@ std::string FormatTsvList(const DocRows& rows, const std::vector<uint16_t>& colu
     };
     ForEachCell(nullptr, columns, group, append);
     out += '\n';
-    for (size_t r = 0; r < rows.size(); ++r) {
-        ForEachCell(rows[r].get(), columns, group, append);
+    for (const auto& row : rows) {
+        ForEachCell(row.get(), columns, group, append);
         out += '\n';
-        // Sized once from the first row, so that a long list is not copied while it grows.
-        if (r == 0)
-            out.reserve(out.size() * (rows.size() + 1) * 5 / 4);
+        sink.RowDone();
     }
-    return out;
 }
 
-std::string FormatList(ListFormat format, const DocRows& rows,
-                       const std::vector<uint16_t>& columns, const DocGroupConfig& group)
+void WriteCsvList(ListSink& sink, const DocRows& rows, const std::vector<uint16_t>& columns,
+                  const DocGroupConfig& group)
+{
+    ForEachCsvRecord(rows, columns, group, [&sink](const std::vector<std::string>& fields) {
+        AppendCsvRecord(sink.Text(), fields);
+        sink.RowDone();
+    });
+}
+
+void WriteList(ListFormat format, ListSink& sink, const DocRows& rows,
+               const std::vector<uint16_t>& columns, const DocGroupConfig& group)
 {
     switch (format) {
     case ListFormat::Tsv:
-        return FormatTsvList(rows, columns, group);
+        return WriteTsvList(sink, rows, columns, group);
     case ListFormat::Json:
-        return FormatJsonList(rows);
+        return WriteJsonList(sink, rows);
     case ListFormat::Csv:
-        return FormatCsvList(rows, columns, group);
+        return WriteCsvList(sink, rows, columns, group);
     case ListFormat::Text:
         break;
     }
-    return FormatTextList(rows, columns, group);
+    WriteTextList(sink, rows, columns, group);
 }

@@ -23,16 +23,14 @@ int RunHeadlessMode(int& argc, char** argv, const CommandLine& cmd)
     if (!std::getenv("TZ"))
         setenv("TZ", ":/etc/localtime", 0);
     QCoreApplication app(argc, argv);
-    const HeadlessResult result = RunHeadless(cmd);
-    std::cerr << result.err;
-    if (result.status == 0)
-        std::cout << result.out;
+    std::ios::sync_with_stdio(false);
+    const int status = RunHeadless(cmd, std::cout, std::cerr);
     std::cout.flush();
     if (!std::cout) {
         std::cerr << "docmanager: the output could not be written\n";
         return 1;
     }
-    return result.status;
+    return status;
 }
 
 }  // namespace
