@@ -12,6 +12,8 @@
 class ImplDocConfig;
 class KxFileStream;
 
+class IndexBlocks;
+
 class DocRowList {
 public:
     // How long a collection waits for another process's lock on an index before it
@@ -62,9 +64,9 @@ private:
     void ReadIndex(DirPass& pass);
     void WriteInPlace(DirPass& pass, uint64_t offset, const DocInfo& info);
     void FinishInPlace(DirPass& pass);
-    std::vector<std::string> PlanReads(const DirPass& pass, const std::string& data,
+    std::vector<std::string> PlanReads(const DirPass& pass, IndexBlocks& records,
                                        int64_t indexMtimeNs) const;
-    void ReadRecords(DirPass& pass, const std::string& data, int64_t indexMtimeNs);
+    void ReadRecords(DirPass& pass, IndexBlocks& records, int64_t indexMtimeNs);
     void RewriteIndex(DirPass& pass);
     void ProbeAll(DirPass& pass);
     std::unique_ptr<DocInfo> Probe(const DirPass& pass, size_t file);

@@ -10,6 +10,7 @@
 #include "docmgr/config/impldocconfig.h"
 #include "docmgr/records/docrecord.h"
 #include "docmgr/records/docrowlist.h"
+#include "docmgr/records/indexblocks.h"
 #include "docmgr/tools/filestream.h"
 #include "docmgr/tools/fsutil.h"
 #include "docmgr/tools/replacefile.h"
@@ -152,21 +153,20 @@ void DocRowList::ProbeAll(DirPass& pass)
 
 // The files the records leave to be read, in the order ReadRecords asks for them: those
 // changed since the index was written, then those it has no record of.
-std::vector<std::string> DocRowList::PlanReads(const DirPass& pass, const std::string& data,
+std::vector<std::string> DocRowList::PlanReads(const DirPass& pass, IndexBlocks& records,
                                                int64_t indexMtimeNs) const
 {
     std::vector<std::string> reads;
     std::vector<bool> recorded(pass.files.size(), false);
-    for (size_t offset = HEADER_SIZE; offset + DocRecord::SIZE <= data.size();
-         offset += DocRecord::SIZE) {
-        const std::string name = DocRecord::ReadName(data.data() + offset);
+    records.ForEach([&](uint64_t, const char* bytes) {
+        const std::string name = DocRecord::ReadName(bytes);
         const auto found = pass.byName.find(name);
         if (found == pass.byName.end() || recorded[found->second])
-            continue;
+            return;
         recorded[found->second] = true;
         if (indexMtimeNs <= pass.files[found->second].mtimeNs)
             reads.push_back(fsutil::Join(pass.dir, name));
-    }
+    });
     for (size_t i = 0; i < pass.files.size(); ++i) {
         if (!recorded[i] && !pass.IsIndex(i))
             reads.push_back(fsutil::Join(pass.dir, pass.files[i].name));
@@ -174,21 +174,18 @@ std::vector<std::string> DocRowList::PlanReads(const DirPass& pass, const std::s
     return reads;
 }
 
-void DocRowList::ReadRecords(DirPass& pass, const std::string& data, int64_t indexMtimeNs)
+void DocRowList::ReadRecords(DirPass& pass, IndexBlocks& records, int64_t indexMtimeNs)
 {
-    if (data.size() >= HEADER_SIZE)
-        pass.stream.SetCharSet(ReadLE32(data.data() + MAGIC_AND_VERSION));
-    source_.ReadAhead(PlanReads(pass, data, indexMtimeNs));
+    source_.ReadAhead(PlanReads(pass, records, indexMtimeNs));
 
     // Only whole records count; a partial one at the end stays as it is.
-    for (size_t offset = HEADER_SIZE; offset + DocRecord::SIZE <= data.size();
-         offset += DocRecord::SIZE) {
-        const DocRecord record = DocRecord::FromBytes(data.data() + offset);
+    records.ForEach([&](uint64_t offset, const char* bytes) {
+        const DocRecord record = DocRecord::FromBytes(bytes);
         const std::string name = record.ReadString(record.name, DocRecord::NAME_LEN);
         const auto found = pass.byName.find(name);
         if (found == pass.byName.end() || pass.consumed[found->second]) {
             pass.rewriteNeeded = true;  // vanished, no longer matching, or a duplicate
-            continue;
+            return;
         }
         const size_t file = found->second;
         const fsutil::DirItem& item = pass.files[file];
@@ -202,7 +199,7 @@ void DocRowList::ReadRecords(DirPass& pass, const std::string& data, int64_t ind
         } else {
             info = source_.CreateDocInfo(path);
             if (!info)
-                continue;  // not consumed: probed again with the new files
+                return;  // not consumed: probed again with the new files
             info->entry = path;
             info->size = FileSize32(item.size);
             if (pass.InPlaceUpdates())
@@ -210,7 +207,7 @@ void DocRowList::ReadRecords(DirPass& pass, const std::string& data, int64_t ind
         }
         pass.working.push_back(std::move(info));
         pass.consumed[file] = true;
-    }
+    });
 
     for (size_t i = 0; i < pass.files.size(); ++i) {
         if (pass.consumed[i] || pass.IsIndex(i))
@@ -278,8 +275,9 @@ void DocRowList::ReadIndex(DirPass& pass)
     fsutil::Stat(pass.indexPath, pass.indexSize, pass.indexMtimeNs);
     pass.indexSize = pass.stream.Size();
 
-    char header[MAGIC_AND_VERSION];
-    if (pass.stream.Read(header, sizeof header) < sizeof header) {
+    char header[HEADER_SIZE];
+    const size_t headerRead = pass.stream.Read(header, sizeof header);
+    if (headerRead < MAGIC_AND_VERSION) {
         pass.unusable = true;
         return;
     }
@@ -291,35 +289,46 @@ void DocRowList::ReadIndex(DirPass& pass)
     // Larger than one record for every entry of the directory could make it: damaged
     // (or hostile), and not worth the memory of reading it.
     const uint64_t bound = HEADER_SIZE + (pass.dirEntries + SPARE_RECORDS + 1) * DocRecord::SIZE;
-    std::string data;
-    if (version != VERSION || badMagic || pass.indexSize > bound || !pass.stream.ReadAll(data) ||
-        data.size() > bound) {
+    if (version != VERSION || badMagic || pass.indexSize > bound) {
         pass.reprobeAll = true;
         ProbeAll(pass);
         return;
     }
-    ReadRecords(pass, data, pass.indexMtimeNs);
+    if (headerRead == HEADER_SIZE)
+        pass.stream.SetCharSet(ReadLE32(header + MAGIC_AND_VERSION));
+    IndexBlocks records(pass.stream, HEADER_SIZE, pass.indexSize);
+    ReadRecords(pass, records, pass.indexMtimeNs);
 }
 
 void DocRowList::RewriteIndex(DirPass& pass)
 {
     if (!pass.mayWrite)
         return;
-    std::string image = IndexHeader();
-    image.reserve(HEADER_SIZE + pass.working.size() * DocRecord::SIZE);
-    char bytes[DocRecord::SIZE];
-    for (const auto& info : pass.working) {
-        // A longer name could not be matched with its file again.
-        if (fsutil::FileName(info->entry).size() > DocRecord::NAME_LEN)
-            continue;
-        DocRecord(*info).ToBytes(bytes);
-        image.append(bytes, sizeof bytes);
-    }
+    // Written in blocks of records rather than as one image, which would cost as much
+    // memory again as the rows.
+    const auto fill = [&pass](const replacefile::PutPiece& put) {
+        constexpr size_t BLOCK = 1440 * DocRecord::SIZE;
+        std::string block = IndexHeader();
+        block.reserve(BLOCK + DocRecord::SIZE);
+        char bytes[DocRecord::SIZE];
+        for (const auto& info : pass.working) {
+            // A longer name could not be matched with its file again.
+            if (fsutil::FileName(info->entry).size() > DocRecord::NAME_LEN)
+                continue;
+            DocRecord(*info).ToBytes(bytes);
+            block.append(bytes, sizeof bytes);
+            if (block.size() >= BLOCK) {
+                put(block);
+                block.clear();
+            }
+        }
+        put(block);
+    };
     // A new file renamed over the old one, so a crash or a full disk leaves the old index
     // or the new one, never a mixture. The lock on the old file is held until the new one
     // is in place. The index is dated back to the listing, so that a document changed
     // while it was read is read again next time.
-    if (replacefile::Replace(pass.indexPath, image, pass.listedAtNs) != 0)
+    if (replacefile::ReplaceWith(pass.indexPath, fill, pass.listedAtNs) != 0)
         return;
     // What a rewrite killed before its rename left behind.
     const std::string temps = pass.indexName + std::string(replacefile::TEMP_INFIX) + "*";

@@ -43,11 +43,21 @@ int WriteAll(int fd, std::string_view contents)
 
 int Replace(const std::string& target, std::string_view contents, int64_t mtimeNs)
 {
+    return ReplaceWith(target, [contents](const PutPiece& put) { put(contents); }, mtimeNs);
+}
+
+int ReplaceWith(const std::string& target, const std::function<void(const PutPiece& put)>& fill,
+                int64_t mtimeNs)
+{
     std::string temp;
     const int fd = OpenUnique(target, temp);
     if (fd < 0)
         return errno;
-    int error = WriteAll(fd, contents);
+    int error = 0;
+    fill([fd, &error](std::string_view piece) {
+        if (!error)
+            error = WriteAll(fd, piece);
+    });
     struct stat old {};
     if (!error && stat(target.c_str(), &old) == 0 && fchmod(fd, old.st_mode & 07777) != 0)
         error = errno;

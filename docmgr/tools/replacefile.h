@@ -3,6 +3,7 @@
 // flushed to disk and renamed over the old one. A reader sees the old file or the new
 // one, never a mixture, and a failure (a full disk, a crash) leaves the old one in place.
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -16,6 +17,12 @@ inline constexpr std::string_view TEMP_INFIX = ".tmp-";
 // file keeps the old one's permissions; with `mtimeNs` >= 0 it gets that modification
 // time. Returns 0 or an errno value; on failure no temporary file is left behind.
 int Replace(const std::string& target, std::string_view contents, int64_t mtimeNs = -1);
+
+// The same with contents made piece by piece: `fill` hands each piece to `put`, so that
+// large contents need not be held whole. A failed `put` makes the rest no-ops.
+using PutPiece = std::function<void(std::string_view piece)>;
+int ReplaceWith(const std::string& target, const std::function<void(const PutPiece& put)>& fill,
+                int64_t mtimeNs = -1);
 
 // True when `name` is a temporary file of Replace for the file named `targetName` whose
 // process no longer runs (it was killed before the rename): nothing will ever use it.
