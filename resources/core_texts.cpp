@@ -35,9 +35,11 @@ constexpr ResEntry kTexts[] = {
      "\"Standard\" wurde angelegt; wählen Sie ihre Verzeichnisse mit der Schaltfläche Pfade."},
     {S, 15722, 0,
      "*.odt;*.ott;*.ods;*.ots;*.odp;*.otp;*.odg;*.otg;*.docx;*.docm;*.dotx;*.dotm;"
-     "*.xlsx;*.xlsm;*.xltx;*.xltm;*.pptx;*.pptm;*.potx;*.potm;*.pdf",
+     "*.xlsx;*.xlsm;*.xltx;*.xltm;*.pptx;*.pptm;*.potx;*.potm;*.pdf;"
+     "*.fodt;*.fods;*.fodp;*.fodg;*.doc;*.dot;*.xls;*.xlt;*.ppt;*.pot;*.rtf",
      "*.odt;*.ott;*.ods;*.ots;*.odp;*.otp;*.odg;*.otg;*.docx;*.docm;*.dotx;*.dotm;"
-     "*.xlsx;*.xlsm;*.xltx;*.xltm;*.pptx;*.pptm;*.potx;*.potm;*.pdf"},
+     "*.xlsx;*.xlsm;*.xltx;*.xltm;*.pptx;*.pptm;*.potx;*.potm;*.pdf;"
+     "*.fodt;*.fods;*.fodp;*.fodg;*.doc;*.dot;*.xls;*.xlt;*.ppt;*.pot;*.rtf"},
     {S, 15723, 0, "/**", "/**"},
     // Messages: text before and after a file or folder name.
     {S, 15724, 0, "The file ", "Die Datei "},
