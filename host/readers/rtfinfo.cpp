@@ -15,7 +15,7 @@ constexpr size_t kMaxDepth = 4096;       // deeper groups are read as their pare
 
 // What the text of a group belongs to.
 enum class Dest { Body, Info, UserProps, Title, Subject, Author, Keywords, Comment, Operator, Created, Revised,
-                  Printed, PropName, StaticVal, Ignored };
+                  Printed, StaticVal, Ignored };
 
 struct Group {
     Dest dest = Dest::Body;
@@ -187,8 +187,9 @@ private:
                     g.dest = dest;
             if (g.dest != Dest::Ignored)
                 BeginField();
-        } else if (parent == Dest::UserProps && (word == "propname" || word == "staticval")) {
-            g.dest = word == "propname" ? Dest::PropName : Dest::StaticVal;
+        } else if (parent == Dest::UserProps && word == "staticval") {
+            // Values in the order listed; their names are the group's captions here.
+            g.dest = Dest::StaticVal;
             BeginField();
         } else if (parent == Dest::Body && ignorable_) {
             g.dest = Dest::Ignored;  // an optional destination this reader does not know
@@ -248,8 +249,7 @@ private:
     {
         const Dest d = groups_.back().dest;
         return extraDepth_ == 0 && (d == Dest::Title || d == Dest::Subject || d == Dest::Author || d == Dest::Keywords
-                                    || d == Dest::Comment || d == Dest::Operator || d == Dest::PropName
-                                    || d == Dest::StaticVal);
+                                    || d == Dest::Comment || d == Dest::Operator || d == Dest::StaticVal);
     }
 
     // A fallback character after \uN is dropped.
