@@ -91,11 +91,10 @@ void AppendRow(std::string& out, const DocInfo& info)
     AppendTextField(out, "keywords", info.keywords);
     AppendKey(out, "problem");
     if (const std::string problem = ProblemOfRow(info); problem.empty())
-        out += "null,\n";
-    else {
+        out += "null";
+    else
         AppendString(out, problem);
-        out += ",\n";
-    }
+    out += ",\n";
     AppendKey(out, "info");
     out += '[';
     for (size_t i = 0; i < info.info.size(); ++i) {
