@@ -41,7 +41,8 @@ void InitGsf()
 {
     static const bool done = [] {
         gsf_init();
-        for (const char* domain : {"libgsf", "libgsf:msole", "GLib-GObject", "GLib"})
+        // libgsf logs its property set checks without a domain of its own.
+        for (const char* domain : {static_cast<const char*>(nullptr), "libgsf", "libgsf:msole", "GLib-GObject", "GLib"})
             g_log_set_handler(domain, GLogLevelFlags(G_LOG_LEVEL_MASK), Quiet, nullptr);
         return true;
     }();
