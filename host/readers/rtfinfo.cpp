@@ -133,6 +133,9 @@ private:
         }
         if (pos < rtf.size() && rtf[pos] == ' ')
             ++pos;
+        // \binN: N bytes of raw data follow, braces and backslashes included.
+        if (word == "bin" && hasNumber && !negative)
+            return pos + std::min(size_t(number), rtf.size() - pos);
         Word(word, negative ? -number : number, hasNumber);
         return pos;
     }

@@ -267,6 +267,7 @@ TEST(ReadersFormats, RtfEscapesCodePagesAndGroups)
         {"{\\rtf1{\\info{\\title {\\b Bold} part}{\\*\\company X}}}", "Bold part"},
         {"{\\rtf1{\\info{\\title Unclosed", "Unclosed"},
         {"{\\rtf1{\\title Outside}{\\*\\info{\\title Inside}}}", "Inside"},
+        {"{\\rtf1{\\info{\\title Real}}{\\pict\\bin20 {\\info{\\title Fake}}}}", "Real"},
         {"{\\rtf1" + std::string(100000, '{') + "{\\info{\\title Deep}}", ""},
     };
     for (const auto& [rtf, title] : cases) {
