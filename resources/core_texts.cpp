@@ -31,7 +31,8 @@ constexpr ResEntry kTexts[] = {
     {S, 15721, 0, QT_TRANSLATE_NOOP3("DocMgr", "No document manager settings were found. A first group named \"Standard\" has been "
      "created; choose its directories with the Paths button.", "string 15721")},
     {S, 15722, 0, QT_TRANSLATE_NOOP3("DocMgr", "*.odt;*.ott;*.ods;*.ots;*.odp;*.otp;*.odg;*.otg;*.docx;*.docm;*.dotx;*.dotm;"
-     "*.xlsx;*.xlsm;*.xltx;*.xltm;*.pptx;*.pptm;*.potx;*.potm;*.pdf", "string 15722")},
+     "*.xlsx;*.xlsm;*.xltx;*.xltm;*.pptx;*.pptm;*.potx;*.potm;*.pdf;"
+     "*.fodt;*.fods;*.fodp;*.fodg;*.doc;*.dot;*.xls;*.xlt;*.ppt;*.pot;*.rtf", "string 15722")},
     {S, 15723, 0, QT_TRANSLATE_NOOP3("DocMgr", "/**", "string 15723")},
     // Messages: text before and after a file or folder name.
     {S, 15724, 0, QT_TRANSLATE_NOOP3("DocMgr", "The file ", "string 15724")},

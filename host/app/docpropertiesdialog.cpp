@@ -8,6 +8,7 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QStringList>
 #include <QVBoxLayout>
 
 #include "host/readers/docreader.h"
@@ -38,6 +39,24 @@ QString ReadOnlyReason(const QString& path)
     return {};
 }
 
+// Why the entries may show less than the document holds; empty when it was read in full.
+QString ProblemNote(ReadProblem problem)
+{
+    switch (problem) {
+    case ReadProblem::None:
+        break;
+    case ReadProblem::Encrypted:
+        return DocPropertiesDialog::tr("The document is encrypted; its information could not be read.");
+    case ReadProblem::Damaged:
+        return DocPropertiesDialog::tr("The document is damaged; only part of its information, or none, could be read.");
+    case ReadProblem::NotZip:
+        return DocPropertiesDialog::tr("The file is not a zip package, as documents of its kind are; its information could not be read.");
+    case ReadProblem::NoInformation:
+        return DocPropertiesDialog::tr("The document holds no information yet.");
+    }
+    return {};
+}
+
 }  // namespace
 
 DocPropertiesDialog::DocPropertiesDialog(QWidget* parent, const std::string& path,
@@ -59,6 +78,11 @@ void DocPropertiesDialog::BuildControls(const std::array<std::string, 4>& captio
     fileLabel_->setObjectName(QStringLiteral("fileLabel"));
     fileLabel_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     form->addRow(tr("File:"), fileLabel_);
+    noteLabel_ = new QLabel(this);
+    noteLabel_->setObjectName(QStringLiteral("noteLabel"));
+    noteLabel_->setWordWrap(true);
+    noteLabel_->hide();
+    form->addRow(noteLabel_);
 
     auto addEdit = [this, form](const QString& label, const char* name) {
         auto* edit = new QLineEdit(this);
@@ -98,16 +122,41 @@ void DocPropertiesDialog::BuildControls(const std::array<std::string, 4>& captio
 
 void DocPropertiesDialog::LoadInfo()
 {
-    const std::unique_ptr<DocInfo> info = ReadDocInfo(path_);
+    const DocReading reading = ReadDocument(path_);
+    const std::unique_ptr<DocInfo>& info = reading.info;
     loaded_ = info != nullptr;
     if (!info)
         return;
+    QStringList notes;
+    if (const QString note = ProblemNote(reading.problem); !note.isEmpty())
+        notes << note;
+    editable_ = IsEditableKind(path_);
+    if (!editable_)
+        notes << tr("Documents of this kind (legacy Office, RTF, flat ODF) are read-only here: "
+                    "their information is shown but cannot be changed.");
+    noteLabel_->setText(notes.join(QLatin1Char('\n')));
+    noteLabel_->setVisible(!notes.isEmpty());
+    if (!editable_)
+        MakeReadOnly();
     titleEdit_->setText(Q(info->title));
     topicEdit_->setText(Q(info->topic));
     keywordsEdit_->setText(Q(info->keywords));
     commentEdit_->setPlainText(Q(info->comment));
     for (size_t i = 0; i < infoEdits_.size(); ++i)
         infoEdits_[i]->setText(Q(info->info[i]));
+}
+
+void DocPropertiesDialog::MakeReadOnly()
+{
+    for (QLineEdit* edit : {titleEdit_, topicEdit_, keywordsEdit_})
+        edit->setReadOnly(true);
+    for (QLineEdit* edit : infoEdits_)
+        edit->setReadOnly(true);
+    commentEdit_->setReadOnly(true);
+    okButton_->hide();
+    okButton_->setEnabled(false);
+    cancelButton_->setText(tr("Close"));
+    cancelButton_->setDefault(true);
 }
 
 void DocPropertiesDialog::OKHdl()

@@ -6,6 +6,7 @@
 #include <cstdio>
 
 #include "docmgr/tools/fsutil.h"
+#include "host/cli/listproblem.h"
 
 namespace {
 
@@ -100,6 +101,12 @@ void AppendRow(std::string& out, const DocInfo& info)
     out += ",\n";
     AppendTextField(out, "comment", info.comment);
     AppendTextField(out, "keywords", info.keywords);
+    AppendKey(out, "problem");
+    if (const std::string problem = ProblemOfRow(info); problem.empty())
+        out += "null";
+    else
+        AppendString(out, problem);
+    out += ",\n";
     AppendKey(out, "info");
     out += '[';
     for (size_t i = 0; i < info.info.size(); ++i) {

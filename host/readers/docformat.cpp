@@ -25,10 +25,39 @@ DocFormat FormatByExtension(const std::string& path)
         return DocFormat::Odf;
     if (std::find(ooxml.begin(), ooxml.end(), ext) != ooxml.end())
         return DocFormat::Ooxml;
+    static constexpr std::array<std::string_view, 4> flatOdf = {"fodt", "fods", "fodp", "fodg"};
+    static constexpr std::array<std::string_view, 6> legacy = {"doc", "xls", "ppt", "dot", "xlt", "pot"};
     if (ext == "pdf")
         return DocFormat::Pdf;
+    if (std::find(flatOdf.begin(), flatOdf.end(), ext) != flatOdf.end())
+        return DocFormat::FlatOdf;
+    if (std::find(legacy.begin(), legacy.end(), ext) != legacy.end())
+        return DocFormat::LegacyOffice;
+    if (ext == "rtf")
+        return DocFormat::Rtf;
     return DocFormat::None;
 }
+
+namespace {
+
+// An XML head (after an optional byte order mark and blanks) whose root element is the
+// ODF office:document; producers put its namespace declaration right on that element.
+bool IsFlatOdfHead(std::string_view head)
+{
+    if (head.substr(0, 3) == "\xEF\xBB\xBF")
+        head.remove_prefix(3);
+    const size_t start = head.find_first_not_of(" \t\r\n");
+    if (start == std::string_view::npos || head[start] != '<')
+        return false;
+    const size_t root = head.find("<office:document");
+    if (root == std::string_view::npos || root + 16 >= head.size())
+        return false;
+    const char after = head[root + 16];
+    return (after == ' ' || after == '\t' || after == '\r' || after == '\n' || after == '>')
+        && head.find(ns::office) != std::string_view::npos;
+}
+
+}  // namespace
 
 Signature ReadSignature(const std::string& path)
 {
@@ -43,6 +72,10 @@ Signature ReadSignature(const std::string& path)
         return Signature::Zip;
     if (got.substr(0, 8) == std::string_view("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1", 8))
         return Signature::Cfb;
+    if (got.substr(0, 5) == "{\\rtf")
+        return Signature::Rtf;
+    if (IsFlatOdfHead(got))
+        return Signature::FlatOdf;
     return Signature::Other;
 }
 
@@ -57,4 +90,9 @@ DocFormat FormatOfPackage(const ZipArchive& zip)
     if (zip.Has(opc::contentTypesPart) || zip.HasPrefix("docProps/"))
         return DocFormat::Ooxml;
     return DocFormat::None;
+}
+
+bool IsWritableFormat(DocFormat format)
+{
+    return format == DocFormat::Odf || format == DocFormat::Ooxml || format == DocFormat::Pdf;
 }

@@ -4,14 +4,16 @@
 
 class ZipArchive;
 
-enum class DocFormat { None, Odf, Ooxml, Pdf };
+enum class DocFormat { None, Odf, Ooxml, Pdf, FlatOdf, Rtf, LegacyOffice };
 
 // What the first bytes of a file say.
 enum class Signature {
     Other,
-    Pdf,  // "%PDF-" within the first 1024 bytes
-    Zip,  // "PK\3\4" (or an empty archive's "PK\5\6")
-    Cfb,  // OLE compound file: how Office stores a password-protected OOXML document
+    Pdf,      // "%PDF-" within the first 1024 bytes
+    Zip,      // "PK\3\4" (or an empty archive's "PK\5\6")
+    Cfb,      // OLE compound file: legacy Office, or a password-protected OOXML document
+    Rtf,      // "{\rtf"
+    FlatOdf,  // XML whose root is <office:document> in the ODF office namespace
 };
 
 // By file name extension, case-insensitive.
@@ -20,3 +22,5 @@ Signature ReadSignature(const std::string& path);
 // By the entries of an open zip: an ODF package or an OPC (OOXML) package; None for any
 // other zip.
 DocFormat FormatOfPackage(const ZipArchive& zip);
+// Whether a format's information can be written back.
+bool IsWritableFormat(DocFormat format);

@@ -19,58 +19,123 @@ void ApplyNeverPrinted(DocInfo& info)
     info.printedBy = info.author;
 }
 
-// Content decides when it is recognisable; the name decides otherwise.
-void ReadByContent(const std::string& path, uint64_t fileSize, DocFormat byName, DocInfo& info, bool& isDocument)
+ReadProblem ReadPackage(const std::string& path, DocFormat byName, DocInfo& info, bool& isDocument)
 {
-    isDocument = byName != DocFormat::None;
-    const Signature signature = ReadSignature(path);
-    if (signature == Signature::Pdf) {
-        isDocument = true;
-        ReadPdfInfo(path, fileSize, info);
-        return;
-    }
-    if (signature != Signature::Zip)
-        return;
     ZipArchive zip;
     if (!zip.Open(path, ZipArchive::Mode::Read))
-        return;
+        return ReadProblem::Damaged;
     DocFormat format = FormatOfPackage(zip);
     if (format == DocFormat::None)
         format = byName;
     if (format == DocFormat::Odf) {
         isDocument = true;
-        ReadOdfInfo(zip, info);
-    } else if (format == DocFormat::Ooxml) {
-        isDocument = true;
-        ReadOoxmlInfo(zip, info);
+        return ReadOdfInfo(zip, info);
     }
+    if (format == DocFormat::Ooxml) {
+        isDocument = true;
+        return ReadOoxmlInfo(zip, info);
+    }
+    return ReadProblem::Damaged;
+}
+
+// A file whose first bytes say nothing: only its name made it a document.
+ReadProblem ReadByName(const std::string& path, DocFormat byName, DocInfo& info)
+{
+    switch (byName) {
+    case DocFormat::FlatOdf:
+        // Its root element may stand past the first kilobyte; the parser decides.
+        return ReadFlatOdfInfo(path, info);
+    case DocFormat::Odf:
+    case DocFormat::Ooxml:
+        return ReadProblem::NotZip;
+    default:
+        return ReadProblem::Damaged;
+    }
+}
+
+// Content decides when it is recognisable; the name decides otherwise.
+ReadProblem ReadByContent(const std::string& path, uint64_t fileSize, DocFormat byName, DocInfo& info,
+                          bool& isDocument)
+{
+    isDocument = byName != DocFormat::None;
+    switch (ReadSignature(path)) {
+    case Signature::Pdf:
+        isDocument = true;
+        return ReadPdfInfo(path, fileSize, info);
+    case Signature::Zip:
+        return ReadPackage(path, byName, info, isDocument);
+    case Signature::Cfb:
+        return ReadOleInfo(path, byName, info, isDocument);
+    case Signature::Rtf:
+        isDocument = true;
+        return ReadRtfInfo(path, info);
+    case Signature::FlatOdf:
+        isDocument = true;
+        return ReadFlatOdfInfo(path, info);
+    case Signature::Other:
+        break;
+    }
+    return isDocument ? ReadByName(path, byName, info) : ReadProblem::None;
 }
 
 }  // namespace
 
-std::unique_ptr<DocInfo> ReadDocInfo(const std::string& path)
+bool HoldsNoInformation(const DocInfo& info)
 {
+    const bool noText = info.title.empty() && info.topic.empty() && info.author.empty() && info.modifiedBy.empty()
+        && info.printedBy.empty() && info.comment.empty() && info.keywords.empty()
+        && std::all_of(info.info.begin(), info.info.end(), [](const std::string& s) { return s.empty(); });
+    return noText && info.createdDate.IsUnset() && info.modifiedDate.IsUnset() && info.printedDate.IsUnset();
+}
+
+std::string_view ProblemText(ReadProblem problem)
+{
+    switch (problem) {
+    case ReadProblem::None: return {};
+    case ReadProblem::Encrypted: return "encrypted";
+    case ReadProblem::Damaged: return "damaged";
+    case ReadProblem::NotZip: return "not a zip";
+    case ReadProblem::NoInformation: return "no information";
+    }
+    return {};
+}
+
+DocReading ReadDocument(const std::string& path)
+{
+    DocReading reading;
     try {
         std::error_code ec;
         if (!std::filesystem::is_regular_file(path, ec))
-            return nullptr;
+            return reading;
         const uint64_t fileSize = std::filesystem::file_size(path, ec);
         if (ec)
-            return nullptr;
+            return reading;
         auto info = std::make_unique<DocInfo>();
         bool isDocument = false;
         try {
-            ReadByContent(path, fileSize, FormatByExtension(path), *info, isDocument);
+            reading.problem = ReadByContent(path, fileSize, FormatByExtension(path), *info, isDocument);
         } catch (...) {
             // Whatever went wrong inside a document, it is still listed.
+            reading.problem = ReadProblem::Damaged;
         }
-        if (!isDocument)
-            return nullptr;
+        if (!isDocument) {
+            reading.problem = ReadProblem::None;
+            return reading;
+        }
+        if (reading.problem == ReadProblem::None && HoldsNoInformation(*info))
+            reading.problem = ReadProblem::NoInformation;
         info->entry = path;
         info->size = uint32_t(std::min<uint64_t>(fileSize, NO_DOC_INFO - 1));
         ApplyNeverPrinted(*info);
-        return info;
+        reading.info = std::move(info);
     } catch (...) {
-        return nullptr;  // out of memory while setting up: treated as unreadable
+        // Out of memory while setting up: treated as unreadable.
+        reading = DocReading();
     }
+    return reading;
+}
+
+std::unique_ptr<DocInfo> ReadDocInfo(const std::string& path)
+{
+    return ReadDocument(path).info;
 }

@@ -74,12 +74,17 @@ bool WriteDocMeta(const std::string& path, const DocMeta& meta, std::string& err
         case Signature::Zip:
             return WritePackage(path, byName, meta, error);
         case Signature::Cfb:
-            if (byName == DocFormat::Ooxml) {
-                error = writeerrors::encrypted;
+            error = byName == DocFormat::Ooxml ? writeerrors::encrypted : writeerrors::readOnlyKind;
+            return false;
+        case Signature::Rtf:
+        case Signature::FlatOdf:
+            error = writeerrors::readOnlyKind;
+            return false;
+        case Signature::Other:
+            if (byName != DocFormat::None && !IsWritableFormat(byName)) {
+                error = writeerrors::readOnlyKind;
                 return false;
             }
-            break;
-        case Signature::Other:
             break;
         }
         error = byName == DocFormat::None ? writeerrors::unsupported
@@ -89,4 +94,27 @@ bool WriteDocMeta(const std::string& path, const DocMeta& meta, std::string& err
         error = std::string("Cannot change the document information: ") + e.what();
     }
     return false;
+}
+
+bool IsEditableKind(const std::string& path)
+{
+    try {
+        switch (ReadSignature(path)) {
+        case Signature::Pdf:
+        case Signature::Zip:
+            return true;
+        case Signature::Cfb:
+            // Office's encrypted OOXML: editable once the password is removed.
+            return FormatByExtension(path) == DocFormat::Ooxml;
+        case Signature::Rtf:
+        case Signature::FlatOdf:
+            return false;
+        case Signature::Other:
+            break;
+        }
+        const DocFormat byName = FormatByExtension(path);
+        return byName == DocFormat::None || IsWritableFormat(byName);
+    } catch (...) {
+        return true;  // the writer will say what is wrong
+    }
 }

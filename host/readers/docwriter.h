@@ -19,3 +19,7 @@ struct DocMeta {
 // folder is read-only, the document is encrypted, damaged or of a format that cannot be
 // edited; the original is then untouched.
 bool WriteDocMeta(const std::string& path, const DocMeta& meta, std::string& error);
+
+// Whether WriteDocMeta can change documents of the kind at `path` at all: ODF and OOXML
+// packages and PDF; legacy Office, RTF and flat ODF are read-only.
+bool IsEditableKind(const std::string& path);

@@ -12,6 +12,8 @@ namespace writeerrors {
 inline constexpr const char* encrypted = "The document is encrypted (password-protected); its information cannot be changed.";
 inline constexpr const char* damaged = "The document is damaged";
 inline constexpr const char* unsupported = "The information of this kind of file cannot be changed.";
+inline constexpr const char* readOnlyKind =
+    "Documents of this kind (legacy Office, RTF, flat ODF) are read-only here; their information cannot be changed.";
 }  // namespace writeerrors
 
 bool WriteOdfMeta(ZipArchive& zip, const DocMeta& meta, std::string& error);

@@ -23,6 +23,12 @@ inline constexpr const char* contentTypes = "http://schemas.openxmlformats.org/p
 inline constexpr const char* relationships = "http://schemas.openxmlformats.org/package/2006/relationships";
 inline constexpr const char* wordml = "http://schemas.openxmlformats.org/wordprocessingml/2006/main";
 
+// XMP, as PDF keeps it in the catalog's metadata stream
+inline constexpr const char* rdf = "http://www.w3.org/1999/02/22-rdf-syntax-ns#";
+inline constexpr const char* xmp = "http://ns.adobe.com/xap/1.0/";
+inline constexpr const char* pdf = "http://ns.adobe.com/pdf/1.3/";
+inline constexpr const char* xmpMeta = "adobe:ns:meta/";
+
 }  // namespace ns
 
 namespace opc {

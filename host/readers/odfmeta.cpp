@@ -38,11 +38,17 @@ void NewDocument(pugi::xml_document& doc)
 pugi::xml_node MetaElement(pugi::xml_document& doc)
 {
     pugi::xml_node root = doc.document_element();
-    if (!xmlutil::Is(root, ns::office, "document-meta"))
+    const bool flat = xmlutil::Is(root, ns::office, "document");
+    if (!flat && !xmlutil::Is(root, ns::office, "document-meta"))
         return {};
     if (pugi::xml_node meta = xmlutil::Child(root, ns::office, "meta"))
         return meta;
-    return xmlutil::AppendElement(root, root, ns::office, "office", "meta");
+    if (!flat)
+        return xmlutil::AppendElement(root, root, ns::office, "office", "meta");
+    // In a flat document the information comes first, before styles and body.
+    const std::string name = xmlutil::PrefixFor(root, ns::office, "office") + ":meta";
+    const pugi::xml_node first = root.find_child([](pugi::xml_node n) { return n.type() == pugi::node_element; });
+    return first ? root.insert_child_before(name.c_str(), first) : root.append_child(name.c_str());
 }
 
 void SetField(pugi::xml_document& doc, const char* uri, const char* local, std::string_view value)

@@ -13,7 +13,8 @@ namespace odfmeta {
 // An empty <office:document-meta> with its <office:meta>.
 void NewDocument(pugi::xml_document& doc);
 // The <office:meta> element; created if `doc` has its root but not this element.
-// Empty when the root is not <office:document-meta>.
+// Empty when the root is neither <office:document-meta> (meta.xml) nor <office:document>
+// (flat ODF).
 pugi::xml_node MetaElement(pugi::xml_document& doc);
 
 // dc:* and meta:* fields that occur once: `uri` is ns::dc or ns::meta.

@@ -4,6 +4,7 @@
 
 #include "host/readers/formatreaders.h"
 #include "host/readers/metadates.h"
+#include "host/readers/odffields.h"
 #include "host/readers/namespaces.h"
 #include "host/readers/xmlutil.h"
 #include "host/readers/ziparchive.h"
@@ -38,14 +39,29 @@ std::string Join(const std::vector<std::string>& items)
 
 }  // namespace
 
-void ReadOdfInfo(const ZipArchive& zip, DocInfo& info)
+ReadProblem ReadOdfInfo(const ZipArchive& zip, DocInfo& info)
 {
     std::string bytes;
     pugi::xml_document doc;
-    if (zip.Read("meta.xml", kMaxXmlPart, bytes) != ZipRead::Ok || !xmlutil::Parse(bytes, doc))
-        return;
-    const pugi::xml_node root = doc.document_element();
-    const pugi::xml_node meta = xmlutil::Child(root, ns::office, "meta");
+    switch (zip.Read("meta.xml", kMaxXmlPart, bytes)) {
+    case ZipRead::Ok:
+        break;
+    case ZipRead::Missing:
+        return ReadProblem::None;
+    case ZipRead::Encrypted:
+        return ReadProblem::Encrypted;
+    case ZipRead::TooLarge:
+    case ZipRead::Damaged:
+        return ReadProblem::Damaged;
+    }
+    if (!xmlutil::Parse(bytes, doc))
+        return ReadProblem::Damaged;
+    ReadOdfMetaFields(xmlutil::Child(doc.document_element(), ns::office, "meta"), info);
+    return ReadProblem::None;
+}
+
+void ReadOdfMetaFields(pugi::xml_node meta, DocInfo& info)
+{
     bool title = false, topic = false, author = false, modifiedBy = false, printedBy = false, comment = false;
     std::vector<std::string> keywords;
     size_t infoCount = 0;

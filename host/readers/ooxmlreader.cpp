@@ -10,10 +10,20 @@
 
 namespace {
 
-bool LoadPart(const ZipArchive& zip, const std::string& name, pugi::xml_document& doc)
+// A part that is missing is no problem; one that is there but unreadable is.
+bool LoadPart(const ZipArchive& zip, const std::string& name, pugi::xml_document& doc, ReadProblem& problem)
 {
+    if (name.empty())
+        return false;
     std::string bytes;
-    return zip.Read(name, kMaxXmlPart, bytes) == ZipRead::Ok && xmlutil::Parse(bytes, doc);
+    const ZipRead read = zip.Read(name, kMaxXmlPart, bytes);
+    if (read == ZipRead::Ok && xmlutil::Parse(bytes, doc))
+        return true;
+    if (read == ZipRead::Encrypted)
+        problem = ReadProblem::Encrypted;
+    else if (read != ZipRead::Missing)
+        problem = ReadProblem::Damaged;
+    return false;
 }
 
 // Keywords are plain text, but may also come as one element per language.
@@ -70,13 +80,15 @@ void ReadCustom(pugi::xml_node root, DocInfo& info)
 
 }  // namespace
 
-void ReadOoxmlInfo(const ZipArchive& zip, DocInfo& info)
+ReadProblem ReadOoxmlInfo(const ZipArchive& zip, DocInfo& info)
 {
     const OpcPropertyParts parts = LocatePropertyParts(zip);
+    ReadProblem problem = ReadProblem::None;
     pugi::xml_document core;
-    if (LoadPart(zip, parts.core, core))
+    if (LoadPart(zip, parts.core, core, problem))
         ReadCore(core.document_element(), info);
     pugi::xml_document custom;
-    if (LoadPart(zip, parts.custom, custom))
+    if (LoadPart(zip, parts.custom, custom, problem))
         ReadCustom(custom.document_element(), info);
+    return problem;
 }

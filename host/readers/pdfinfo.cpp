@@ -15,6 +15,28 @@ void Open(QPDF& pdf, const std::string& path, bool repair)
     pdf.processFile(path.c_str());
 }
 
+namespace {
+
+// An array of texts (as some producers store several authors or keywords) reads as its
+// texts joined; an array holding anything else stays in PDF syntax.
+std::string JoinedTexts(QPDFObjectHandle array)
+{
+    std::string joined;
+    for (QPDFObjectHandle item : array.aitems()) {
+        if (!item.isString())
+            return array.unparseResolved();
+        const std::string text = item.getUTF8Value();
+        if (text.empty())
+            continue;
+        if (!joined.empty())
+            joined += ", ";
+        joined += text;
+    }
+    return joined;
+}
+
+}  // namespace
+
 bool IsStandardKey(const std::string& key)
 {
     static constexpr std::array<std::string_view, 9> standard = {
@@ -56,6 +78,8 @@ std::string TextOf(QPDFObjectHandle info, const std::string& key)
         return value.getName().substr(1);
     if (value.isNull())
         return {};
+    if (value.isArray())
+        return JoinedTexts(value);
     return value.unparseResolved();
 }
 

@@ -2,6 +2,7 @@
 #include "host/readers/formatreaders.h"
 #include "host/readers/metadates.h"
 #include "host/readers/pdfinfo.h"
+#include "host/readers/pdfxmp.h"
 
 namespace {
 
@@ -32,6 +33,7 @@ bool TryRead(const std::string& path, bool repair, DocInfo& info, bool& password
         QPDFObjectHandle dict = pdf.getTrailer().getKey("/Info");
         if (dict.isDictionary())
             FillFrom(dict, info);
+        pdfxmp::FillMissing(pdf, info);
         return true;
     } catch (const QPDFExc& e) {
         passwordNeeded = e.getErrorCode() == qpdf_e_password;
@@ -43,12 +45,18 @@ bool TryRead(const std::string& path, bool repair, DocInfo& info, bool& password
 
 }  // namespace
 
-void ReadPdfInfo(const std::string& path, uint64_t fileSize, DocInfo& info)
+ReadProblem ReadPdfInfo(const std::string& path, uint64_t fileSize, DocInfo& info)
 {
     bool passwordNeeded = false;
-    if (TryRead(path, false, info, passwordNeeded) || passwordNeeded || fileSize > kMaxRepairSize)
-        return;
+    if (TryRead(path, false, info, passwordNeeded))
+        return ReadProblem::None;
+    if (passwordNeeded)
+        return ReadProblem::Encrypted;
+    if (fileSize > kMaxRepairSize)
+        return ReadProblem::Damaged;
     DocInfo repaired = info;
-    if (TryRead(path, true, repaired, passwordNeeded))
-        info = repaired;
+    if (!TryRead(path, true, repaired, passwordNeeded))
+        return ReadProblem::Damaged;
+    info = repaired;
+    return ReadProblem::None;
 }

@@ -1,6 +1,7 @@
 // Writes the editable fields into a PDF's Info dictionary.
 #include "host/readers/formatwriters.h"
 #include "host/readers/pdfinfo.h"
+#include "host/readers/pdfxmp.h"
 
 #include <qpdf/QPDFWriter.hh>
 
@@ -19,6 +20,8 @@ bool WritePdfMeta(const std::string& source, const std::string& target, const Do
         pdfinfo::SetText(info, "/Subject", meta.topic);
         pdfinfo::SetText(info, "/Keywords", meta.keywords);
         pdfinfo::SetFields(info, InfoFieldsOf(meta, !pdfinfo::InfoFieldKeys(info).empty()));
+        // Newer readers prefer the XMP packet; it must not keep the old texts.
+        pdfxmp::Update(pdf, meta);
         QPDFWriter writer(pdf, target.c_str());
         writer.write();
         return true;

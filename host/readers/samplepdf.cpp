@@ -1,6 +1,8 @@
 // Sample documents: a one-page PDF with the body text and an Info dictionary.
 #include "host/readers/metadates.h"
 #include "host/readers/pdfinfo.h"
+#include "host/readers/pdfxmp.h"
+#include "host/readers/xmppacket.h"
 #include "host/readers/samplewriter.h"
 
 #include <qpdf/QPDFPageDocumentHelper.hh>
@@ -69,6 +71,21 @@ void AddPage(QPDF& pdf, const std::string& body)
     QPDFPageDocumentHelper(pdf).addPage(page, false);
 }
 
+// The same information as the Info dictionary, as newer producers write it.
+std::string XmpPacket(const SampleDoc& doc)
+{
+    std::string packet = xmp::NewPacket();
+    const std::string keywords = JoinedKeywords(doc);
+    xmp::Update(packet, {{xmp::title, doc.title},
+                         {xmp::creator, doc.author},
+                         {xmp::description, doc.topic},
+                         {xmp::subject, keywords},
+                         {xmp::keywords, keywords},
+                         {xmp::createDate, metadates::IsoUtc(doc.created)},
+                         {xmp::modifyDate, metadates::IsoUtc(doc.modified)}});
+    return packet;
+}
+
 }  // namespace
 
 bool WriteSamplePdf(const std::string& path, const SampleDoc& doc, std::string& error)
@@ -86,6 +103,7 @@ bool WriteSamplePdf(const std::string& path, const SampleDoc& doc, std::string& 
         pdfinfo::SetText(info, "/CreationDate", metadates::PdfDate(doc.created));
         pdfinfo::SetText(info, "/ModDate", metadates::PdfDate(doc.modified));
         pdfinfo::SetFields(info, doc.info);
+        pdfxmp::Attach(pdf, XmpPacket(doc));
         QPDFWriter writer(pdf, path.c_str());
         // The same sample twice gives the same bytes.
         writer.setDeterministicID(true);

@@ -1,6 +1,8 @@
 // Sample documents: the format dispatch and the ODF text document.
 #include "host/readers/samplewriter.h"
 
+#include <fstream>
+
 #include "host/readers/metadates.h"
 #include "host/readers/namespaces.h"
 #include "host/readers/odfmeta.h"
@@ -38,6 +40,8 @@ std::string Manifest()
     return xmlutil::Save(doc);
 }
 
+void AppendParagraphs(pugi::xml_node text, const SampleDoc& sample);
+
 std::string Content(const SampleDoc& sample)
 {
     pugi::xml_document doc;
@@ -45,9 +49,7 @@ std::string Content(const SampleDoc& sample)
     root.append_attribute("xmlns:office") = ns::office;
     root.append_attribute("xmlns:text") = ns::text;
     root.append_attribute("office:version") = "1.2";
-    pugi::xml_node text = root.append_child("office:body").append_child("office:text");
-    for (const std::string& paragraph : SampleParagraphs(sample.body))
-        xmlutil::SetText(text.append_child("text:p"), paragraph);
+    AppendParagraphs(root.append_child("office:body").append_child("office:text"), sample);
     return xmlutil::Save(doc);
 }
 
@@ -63,11 +65,10 @@ std::string Styles()
     return xmlutil::Save(doc);
 }
 
-std::string Meta(const SampleDoc& sample)
+// The information of a sample into a meta.xml document or a flat document.
+void FillMeta(pugi::xml_document& doc, const SampleDoc& sample)
 {
     using metadates::IsoLocal;
-    pugi::xml_document doc;
-    odfmeta::NewDocument(doc);
     odfmeta::SetField(doc, ns::meta, "generator", kGenerator);
     odfmeta::SetField(doc, ns::dc, "title", sample.title);
     odfmeta::SetField(doc, ns::dc, "subject", sample.topic);
@@ -82,6 +83,35 @@ std::string Meta(const SampleDoc& sample)
     }
     odfmeta::SetKeywords(doc, sample.keywords);
     odfmeta::SetUserFields(doc, sample.info);
+}
+
+std::string Meta(const SampleDoc& sample)
+{
+    pugi::xml_document doc;
+    odfmeta::NewDocument(doc);
+    FillMeta(doc, sample);
+    return xmlutil::Save(doc);
+}
+
+void AppendParagraphs(pugi::xml_node text, const SampleDoc& sample)
+{
+    for (const std::string& paragraph : SampleParagraphs(sample.body))
+        xmlutil::SetText(text.append_child("text:p"), paragraph);
+}
+
+// A flat text document: the information, then the body, in one XML file.
+std::string FlatDocument(const SampleDoc& sample)
+{
+    pugi::xml_document doc;
+    pugi::xml_node root = Root(doc, "office:document");
+    root.append_attribute("xmlns:office") = ns::office;
+    root.append_attribute("xmlns:meta") = ns::meta;
+    root.append_attribute("xmlns:dc") = ns::dc;
+    root.append_attribute("xmlns:text") = ns::text;
+    root.append_attribute("office:version") = "1.2";
+    root.append_attribute("office:mimetype") = kOdtMime;
+    AppendParagraphs(root.append_child("office:body").append_child("office:text"), sample);
+    FillMeta(doc, sample);
     return xmlutil::Save(doc);
 }
 
@@ -131,14 +161,29 @@ bool WriteSampleOdt(const std::string& path, const SampleDoc& doc, std::string& 
     return ok;
 }
 
+bool WriteSampleFodt(const std::string& path, const SampleDoc& doc, std::string& error)
+{
+    std::ofstream out(path, std::ios::binary | std::ios::trunc);
+    const std::string bytes = FlatDocument(doc);
+    out.write(bytes.data(), std::streamsize(bytes.size()));
+    if (out.flush())
+        return true;
+    error = "Cannot write " + path;
+    return false;
+}
+
 bool WriteSample(const std::string& path, const SampleDoc& doc, std::string& error)
 {
+    if (EndsWith(path, ".fodt"))
+        return WriteSampleFodt(path, doc, error);
+    if (EndsWith(path, ".rtf"))
+        return WriteSampleRtf(path, doc, error);
     if (EndsWith(path, ".odt"))
         return WriteSampleOdt(path, doc, error);
     if (EndsWith(path, ".docx"))
         return WriteSampleDocx(path, doc, error);
     if (EndsWith(path, ".pdf"))
         return WriteSamplePdf(path, doc, error);
-    error = "Sample documents are .odt, .docx or .pdf files: " + path;
+    error = "Sample documents are .odt, .fodt, .docx, .rtf or .pdf files: " + path;
     return false;
 }

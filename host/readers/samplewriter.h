@@ -1,6 +1,7 @@
 #pragma once
 // Valid sample documents with chosen information, for the demo, the tests and the
-// benchmarks: ODF text (.odt), Word (.docx) and PDF.
+// benchmarks: ODF text (.odt) and flat ODF text (.fodt), Word (.docx), RTF and PDF (with
+// an XMP packet that agrees with its Info dictionary).
 #include <optional>
 #include <string>
 #include <vector>
@@ -21,12 +22,14 @@ struct SampleDoc {
 };
 
 // Each writes a complete file at `path`, replacing any file there; false with a message
-// in `error` on failure. Fields a format cannot hold are left out: DOCX has no printedBy,
-// PDF has no modifiedBy, printed stamp or comment.
+// in `error` on failure. Fields a format cannot hold are left out: DOCX and RTF have no
+// printedBy, PDF has no modifiedBy, printed stamp or comment.
 bool WriteSampleOdt(const std::string& path, const SampleDoc& doc, std::string& error);
+bool WriteSampleFodt(const std::string& path, const SampleDoc& doc, std::string& error);
+bool WriteSampleRtf(const std::string& path, const SampleDoc& doc, std::string& error);
 bool WriteSampleDocx(const std::string& path, const SampleDoc& doc, std::string& error);
 bool WriteSamplePdf(const std::string& path, const SampleDoc& doc, std::string& error);
-// Chooses the format by the extension of `path` (.odt, .docx, .pdf).
+// Chooses the format by the extension of `path` (.odt, .fodt, .docx, .rtf, .pdf).
 bool WriteSample(const std::string& path, const SampleDoc& doc, std::string& error);
 
 // Paragraphs of a body text.

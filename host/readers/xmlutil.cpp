@@ -42,15 +42,26 @@ std::string_view LocalName(pugi::xml_node node)
     return colon == std::string_view::npos ? name : name.substr(colon + 1);
 }
 
-std::string NamespaceOf(pugi::xml_node node)
+std::string NamespaceOfPrefix(pugi::xml_node node, std::string_view prefix)
 {
-    const std::string_view prefix = PrefixOf(node.name());
     const std::string attribute = prefix.empty() ? "xmlns" : "xmlns:" + std::string(prefix);
     for (pugi::xml_node n = node; n && n.type() == pugi::node_element; n = n.parent()) {
         if (pugi::xml_attribute a = n.attribute(attribute.c_str()))
             return a.value();
     }
     return {};
+}
+
+std::string NamespaceOf(pugi::xml_node node)
+{
+    return NamespaceOfPrefix(node, PrefixOf(node.name()));
+}
+
+std::string NamespaceOf(pugi::xml_attribute attribute, pugi::xml_node owner)
+{
+    // An attribute without prefix is in no namespace.
+    const std::string_view prefix = PrefixOf(attribute.name());
+    return prefix.empty() || prefix == "xmlns" ? std::string() : NamespaceOfPrefix(owner, prefix);
 }
 
 bool Is(pugi::xml_node node, const char* uri, const char* local)

@@ -18,6 +18,10 @@ std::string Save(const pugi::xml_document& doc);
 std::string_view LocalName(pugi::xml_node node);
 // Namespace URI of an element, from the xmlns declarations in force at it.
 std::string NamespaceOf(pugi::xml_node node);
+// Namespace URI of an attribute of `owner`; empty for an unprefixed attribute.
+std::string NamespaceOf(pugi::xml_attribute attribute, pugi::xml_node owner);
+// Namespace URI bound to `prefix` at `node`; empty if none.
+std::string NamespaceOfPrefix(pugi::xml_node node, std::string_view prefix);
 bool Is(pugi::xml_node node, const char* uri, const char* local);
 // First child element with that namespace and local name; empty node if none.
 pugi::xml_node Child(pugi::xml_node parent, const char* uri, const char* local);

@@ -127,7 +127,7 @@ bool WriteOthers(const std::string& dir, Picker& pick, SampleLibraryResult& resu
 
 SampleLibraryResult WriteSampleLibrary(const std::string& dir, int count, uint32_t seed)
 {
-    static constexpr std::array<const char*, 3> extensions = {".odt", ".docx", ".pdf"};
+    static constexpr std::array<const char*, 5> extensions = {".odt", ".docx", ".pdf", ".fodt", ".rtf"};
     SampleLibraryResult result;
     Picker pick(seed);
     for (int i = 0; i < count; ++i) {

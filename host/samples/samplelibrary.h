@@ -10,6 +10,6 @@ struct SampleLibraryResult {
     std::string error;  // set when a file could not be written
 };
 
-// Writes `count` documents (ODF text, DOCX and PDF in turn) and a few files that are
+// Writes `count` documents (ODF text, DOCX, PDF, flat ODF text and RTF in turn) and a few files that are
 // not documents into the existing directory `dir`.
 SampleLibraryResult WriteSampleLibrary(const std::string& dir, int count, uint32_t seed);

@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 
 #include "tests/host/cli_fixture.h"
+#include "tests/host/readers_fixtures.h"
 
 namespace clitest {
 namespace {
@@ -224,6 +225,26 @@ TEST_F(CliListTest, AwkwardTextsKeepTheFormatsIntact)
         QByteArray::fromStdString(List(config, {"--format", "json"}).out));
     const QJsonObject row = oddDoc.array()[0].toObject();
     EXPECT_EQ(QByteArray::fromBase64(row["pathBase64"].toString().toLatin1()).toStdString(), odd);
+}
+
+TEST_F(CliListTest, JsonSaysWhyADocumentShowsNoInformation)
+{
+    WriteDoc("lib/a.odt", "Readable", "Ann", 1);
+    readertest::WritePdf(dir.PathOf("lib/locked.pdf"), "<< /Title (Secret) >>", "user-password");
+    dir.MakeFile("lib/broken.docx", "plain text under an OOXML name");
+    GroupSpec group{.name = "Lib", .paths = Lib(), .sortColumn = 1, .columns = {1}};
+    const std::string config = WriteConfig(ConfigText({group}));
+    // The second listing comes from the index, which keeps no reason: it is found again.
+    for (int pass = 0; pass < 2; ++pass) {
+        SCOPED_TRACE(pass);
+        const RunResult json = List(config, {"--format", "json"});
+        ASSERT_EQ(json.status, 0) << json.err;
+        const QJsonArray rows = QJsonDocument::fromJson(QByteArray::fromStdString(json.out)).array();
+        ASSERT_EQ(rows.size(), 3) << json.out;
+        EXPECT_TRUE(rows[0].toObject()["problem"].isNull());
+        EXPECT_EQ(rows[1].toObject()["problem"].toString(), "not a zip");
+        EXPECT_EQ(rows[2].toObject()["problem"].toString(), "encrypted");
+    }
 }
 
 TEST_F(CliListTest, AnEmptyListIsStillWellFormed)

@@ -1,4 +1,4 @@
-#include <QCoreApplication>
+#include <QApplication>
 #include <gtest/gtest.h>
 
 #include "docmgr/tools/resmgr.h"
@@ -6,9 +6,9 @@
 int main(int argc, char** argv)
 {
     ::testing::InitGoogleTest(&argc, argv);
-    // Qt's event machinery (child processes, file times) and the module's English texts
-    // for the whole run.
-    QCoreApplication app(argc, argv);
+    // Qt's event machinery (child processes, file times, the host's dialogs) and the
+    // module's English texts for the whole run.
+    QApplication app(argc, argv);
     ResModule resources(Language::English);
     return RUN_ALL_TESTS();
 }

@@ -144,7 +144,8 @@ TEST(ReadersDamaged, PdfTextEncodingsAndDates)
     // PDFDocEncoding, UTF-16BE with byte order mark, a date without zone, a broken date.
     WritePdf(dir.PathOf("enc.pdf"),
              "<< /Title (Caf\\351) /Subject <FEFF005A006F00EB> /Keywords (a, b) /CreationDate (D:20010203040506) "
-             "/ModDate (D:2001xx) /Zeta (last) /Alpha (first) /Mid 7 /Trapped /False >>");
+             "/ModDate (D:2001xx) /Zeta (last) /Alpha (first) /Mid 7 /Trapped /False "
+             "/Author [(Ann) <FEFF005A006F00EB>] /Beta [(x) 1] >>");
     auto info = ReadDocInfo(dir.PathOf("enc.pdf"));
     ASSERT_NE(info, nullptr);
     EXPECT_EQ(info->title, "Café");
@@ -153,8 +154,10 @@ TEST(ReadersDamaged, PdfTextEncodingsAndDates)
     EXPECT_EQ(info->createdDate, Date(3, 2, 2001));
     EXPECT_EQ(info->createdTime, Time(4, 5, 6));
     EXPECT_EQ(info->modifiedDate, Date());
+    // An array of texts reads as the texts; any other array as PDF.
+    EXPECT_EQ(info->author, "Ann, Zoë");
     // Without a recorded order, the non-standard entries come by name.
-    EXPECT_EQ(info->info, (std::array<std::string, 4>{"first", "7", "last", ""}));
+    EXPECT_EQ(info->info, (std::array<std::string, 4>{"first", "[ (x) 1 ]", "7", "last"}));
 }
 
 TEST(ReadersDamaged, PasswordProtectedOfficeFileAndHugeSize)
@@ -174,4 +177,35 @@ TEST(ReadersDamaged, PasswordProtectedOfficeFileAndHugeSize)
     auto info = ReadDocInfo(huge);
     ASSERT_NE(info, nullptr);
     EXPECT_EQ(info->size, 0xFFFFFFFEu);
+}
+
+TEST(ReadersDamaged, TheProblemSaysWhyInformationIsMissing)
+{
+    TempDir dir;
+    std::string error;
+    ASSERT_TRUE(WriteSampleOdt(dir.PathOf("whole.odt"), FullSample(), error)) << error;
+    dir.MakeFile("truncated.odt", dir.Read("whole.odt").substr(0, dir.Size("whole.odt") / 2));
+    WritePdf(dir.PathOf("locked.pdf"), "<< /Title (Secret) >>", "user-password");
+    WriteOle(dir.PathOf("locked.doc"), FullSample(), std::string("\0\1", 2));
+    dir.MakeFile("text.xlsx", "plain text with an office name");
+    dir.MakeFile("garbage.pdf", "%PDF-1.7\n\x01 not objects");
+    dir.MakeFile("garbage.doc", "not an OLE file");
+    dir.MakeFile("notxml.fodt", "<office:document");
+    dir.MakeFile("empty.rtf", "{\\rtf1 no information group}");
+    WritePdf(dir.PathOf("bare.pdf"), "<< /Producer (x) >>");
+    const std::vector<std::pair<std::string, ReadProblem>> cases = {
+        {"whole.odt", ReadProblem::None},           {"truncated.odt", ReadProblem::Damaged},
+        {"locked.pdf", ReadProblem::Encrypted},     {"locked.doc", ReadProblem::Encrypted},
+        {"text.xlsx", ReadProblem::NotZip},         {"garbage.pdf", ReadProblem::Damaged},
+        {"garbage.doc", ReadProblem::Damaged},      {"notxml.fodt", ReadProblem::Damaged},
+        {"empty.rtf", ReadProblem::NoInformation},  {"bare.pdf", ReadProblem::NoInformation},
+    };
+    for (const auto& [name, problem] : cases) {
+        SCOPED_TRACE(name);
+        const DocReading reading = ReadDocument(dir.PathOf(name));
+        ASSERT_NE(reading.info, nullptr);
+        EXPECT_EQ(ProblemText(reading.problem), ProblemText(problem));
+    }
+    // An encrypted Word file still shows the properties it keeps in the clear.
+    EXPECT_EQ(ReadDocInfo(dir.PathOf("locked.doc"))->title, FullSample().title);
 }

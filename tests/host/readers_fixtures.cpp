@@ -71,13 +71,15 @@ void WriteOoxmlCore(const std::string& path, const std::string& coreChildren)
 }
 
 void WritePdf(const std::string& path, const std::string& infoDict, const char* userPassword,
-              const char* ownerPassword)
+              const char* ownerPassword, const std::string& xmpPacket)
 {
     QPDF pdf;
     pdf.emptyPDF();
     QPDFObjectHandle page = pdf.makeIndirectObject(QPDFObjectHandle::parse("<< /Type /Page /MediaBox [0 0 200 200] >>"));
     QPDFPageDocumentHelper(pdf).addPage(page, false);
     pdf.getTrailer().replaceKey("/Info", pdf.makeIndirectObject(QPDFObjectHandle::parse(infoDict)));
+    if (!xmpPacket.empty())
+        pdf.getRoot().replaceKey("/Metadata", QPDFObjectHandle::newStream(&pdf, xmpPacket));
     QPDFWriter writer(pdf, path.c_str());
     if (userPassword || ownerPassword)
         writer.setR6EncryptionParameters(userPassword ? userPassword : "", ownerPassword ? ownerPassword : "owner",

@@ -26,9 +26,14 @@ void WriteOdfMeta(const std::string& path, const std::string& metaChildren);
 void WriteOoxmlCore(const std::string& path, const std::string& coreChildren);
 
 // A one-page PDF whose Info dictionary is `infoDict` (PDF syntax), encrypted when a
-// password is given.
+// password is given, with `xmpPacket` as its metadata stream unless that is empty.
 void WritePdf(const std::string& path, const std::string& infoDict, const char* userPassword = nullptr,
-              const char* ownerPassword = nullptr);
+              const char* ownerPassword = nullptr, const std::string& xmpPacket = {});
+
+// A legacy Word file: an OLE compound file with the property sets of `doc` (user fields
+// as user-defined properties) and the head of a Word stream whose flags word (2 bytes,
+// little-endian; "\0\1" marks it encrypted) is `wordFlags`.
+void WriteOle(const std::string& path, const SampleDoc& doc, const std::string& wordFlags = std::string(2, '\0'));
 
 // The local Date and Time of a stamp.
 Date DateOf(const QDateTime& stamp);

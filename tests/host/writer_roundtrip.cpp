@@ -9,6 +9,8 @@
 #include "host/readers/docreader.h"
 #include "host/readers/docwriter.h"
 #include "host/readers/samplewriter.h"
+#include "host/readers/qpdfapi.h"
+#include "host/readers/xmppacket.h"
 #include "host/readers/ziparchive.h"
 #include "tests/host/readers_fixtures.h"
 #include "tests/support/tempdir.h"
@@ -207,11 +209,14 @@ TEST(WriterRoundTrip, RefusalsLeaveTheOriginalUntouched)
     dir.MakeFile("broken.pdf", "%PDF-1.4\nnothing else");
     dir.MakeFile("broken.odt", "not a zip");
     WriteOdfMeta(dir.PathOf("malformed.odt"), "<dc:title>x</dc:titel>");
+    WriteOle(dir.PathOf("legacy.doc"), FullSample());
+    ASSERT_TRUE(WriteSample(dir.PathOf("text.rtf"), FullSample(), error)) << error;
 
     const std::vector<std::pair<std::string, std::string>> cases = {
         {"readonly.odt", "read-only"}, {"locked.pdf", "encrypted"}, {"owner.pdf", "encrypted"},
         {"locked.docx", "encrypted"},  {"notes.txt", "cannot be changed"}, {"broken.pdf", "damaged"},
-        {"broken.odt", "damaged"},     {"malformed.odt", "damaged"},  {"missing.odt", "does not exist"}};
+        {"broken.odt", "damaged"},     {"malformed.odt", "damaged"},  {"missing.odt", "does not exist"},
+        {"legacy.doc", "of this kind"}, {"text.rtf", "of this kind"}};
     std::vector<std::string> names;
     for (const auto& [name, reason] : cases) {
         SCOPED_TRACE(name);
@@ -241,4 +246,40 @@ TEST(WriterRoundTrip, AReadOnlyFolderIsReported)
     EXPECT_FALSE(WriteDocMeta(path, EditedMeta(), error));
     EXPECT_NE(error.find("read-only"), std::string::npos) << error;
     EXPECT_EQ(testfs::ReadFile(path), before);
+}
+
+TEST(WriterRoundTrip, PdfXmpFollowsTheInfoDictionary)
+{
+    TempDir dir;
+    const std::string packet =
+        "<?xpacket begin=\"\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?><x:xmpmeta xmlns:x=\"adobe:ns:meta/\">"
+        "<rdf:RDF xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\">"
+        "<rdf:Description rdf:about=\"\" xmlns:dc=\"http://purl.org/dc/elements/1.1/\" "
+        "xmlns:pdf=\"http://ns.adobe.com/pdf/1.3/\" pdf:Keywords=\"old keys\">"
+        "<dc:title><rdf:Alt><rdf:li xml:lang=\"x-default\">Old title</rdf:li></rdf:Alt></dc:title>"
+        "<dc:format>application/pdf</dc:format></rdf:Description>"
+        "<rdf:Description rdf:about=\"\" xmlns:xmp=\"http://ns.adobe.com/xap/1.0/\">"
+        "<xmp:CreatorTool>Some Tool</xmp:CreatorTool></rdf:Description></rdf:RDF></x:xmpmeta>"
+        "<?xpacket end=\"w\"?>";
+    WritePdf(dir.PathOf("xmp.pdf"), "<< /Title (Old title) >>", nullptr, nullptr, packet);
+    std::string error;
+    ASSERT_TRUE(WriteDocMeta(dir.PathOf("xmp.pdf"), EditedMeta(), error)) << error;
+
+    QPDF pdf;
+    pdf.processFile(dir.PathOf("xmp.pdf").c_str());
+    const std::shared_ptr<Buffer> data = pdf.getRoot().getKey("/Metadata").getStreamData();
+    const std::string written(reinterpret_cast<const char*>(data->getBuffer()), data->getSize());
+    xmp::Fields fields;
+    ASSERT_TRUE(xmp::Read(written, fields)) << written;
+    const DocMeta meta = EditedMeta();
+    EXPECT_EQ(fields.title, meta.title);
+    EXPECT_EQ(fields.description, meta.topic);
+    EXPECT_EQ(fields.keywords, meta.keywords);
+    EXPECT_EQ(fields.subject, meta.keywords);
+    // Everything else in the packet stays, and the old texts are gone.
+    for (const char* kept : {"<dc:format>application/pdf</dc:format>", "<xmp:CreatorTool>Some Tool</xmp:CreatorTool>",
+                             "<?xpacket end=\"w\"?>"})
+        EXPECT_NE(written.find(kept), std::string::npos) << kept;
+    EXPECT_EQ(written.find("Old title"), std::string::npos);
+    EXPECT_EQ(written.find("old keys"), std::string::npos);
 }

@@ -1,0 +1,59 @@
+// Document information of a flat ODF file (.fodt .fods .fodp .fodg): one XML document
+// whose root <office:document> holds the <office:meta> element of a package's meta.xml.
+#include <fstream>
+
+#include "host/readers/formatreaders.h"
+#include "host/readers/namespaces.h"
+#include "host/readers/odffields.h"
+#include "host/readers/xmlutil.h"
+#include "host/readers/ziparchive.h"
+
+namespace {
+
+// Producers write the information first; a larger file (embedded pictures) is cut
+// after it and closed, so that only its head is parsed.
+constexpr size_t kMaxFlatHead = kMaxXmlPart;
+
+bool ReadHead(const std::string& path, std::string& bytes, bool& whole)
+{
+    std::ifstream in(path, std::ios::binary);
+    if (!in)
+        return false;
+    bytes.resize(kMaxFlatHead + 1);
+    in.read(bytes.data(), std::streamsize(bytes.size()));
+    bytes.resize(size_t(in.gcount()));
+    whole = bytes.size() <= kMaxFlatHead;
+    return true;
+}
+
+// The head up to the end of the meta element, with the root closed after it.
+bool CutAfterMeta(std::string& bytes)
+{
+    static const std::string end = "</office:meta>";
+    const size_t at = bytes.find(end);
+    if (at == std::string::npos)
+        return false;
+    bytes.resize(at + end.size());
+    bytes += "</office:document>";
+    return true;
+}
+
+}  // namespace
+
+ReadProblem ReadFlatOdfInfo(const std::string& path, DocInfo& info)
+{
+    std::string bytes;
+    bool whole = false;
+    if (!ReadHead(path, bytes, whole))
+        return ReadProblem::Damaged;
+    if (!whole && !CutAfterMeta(bytes))
+        return ReadProblem::Damaged;
+    pugi::xml_document doc;
+    if (!xmlutil::Parse(bytes, doc))
+        return ReadProblem::Damaged;
+    const pugi::xml_node root = doc.document_element();
+    if (!xmlutil::Is(root, ns::office, "document"))
+        return ReadProblem::Damaged;
+    ReadOdfMetaFields(xmlutil::Child(root, ns::office, "meta"), info);
+    return ReadProblem::None;
+}

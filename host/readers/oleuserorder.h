@@ -1,0 +1,10 @@
+#pragma once
+// The order of the user-defined properties in an OLE document summary stream, which
+// libgsf does not keep: the names as the section's property table lists them.
+#include <string>
+#include <string_view>
+#include <vector>
+
+// Names (UTF-8) of the user-defined properties in file order; empty when the stream has
+// no user-defined section or it cannot be read. Bounded by the stream's size.
+std::vector<std::string> UserPropertyOrder(std::string_view stream);
