@@ -1,7 +1,6 @@
 // Document information of a flat ODF file (.fodt .fods .fodp .fodg): one XML document
 // whose root <office:document> holds the <office:meta> element of a package's meta.xml.
-#include <fstream>
-
+#include "host/readers/filehead.h"
 #include "host/readers/formatreaders.h"
 #include "host/readers/namespaces.h"
 #include "host/readers/odffields.h"
@@ -16,14 +15,7 @@ constexpr size_t kMaxFlatHead = kMaxXmlPart;
 
 bool ReadHead(const std::string& path, std::string& bytes, bool& whole)
 {
-    std::ifstream in(path, std::ios::binary);
-    if (!in)
-        return false;
-    bytes.resize(kMaxFlatHead + 1);
-    in.read(bytes.data(), std::streamsize(bytes.size()));
-    bytes.resize(size_t(in.gcount()));
-    whole = bytes.size() <= kMaxFlatHead;
-    return true;
+    return ReadFileHead(path, kMaxFlatHead, bytes, whole);
 }
 
 // The head up to the end of the meta element, with the root closed after it.

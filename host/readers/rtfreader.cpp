@@ -1,6 +1,5 @@
 // Document information of an RTF file, from its information group.
-#include <fstream>
-
+#include "host/readers/filehead.h"
 #include "host/readers/formatreaders.h"
 #include "host/readers/rtfinfo.h"
 
@@ -14,9 +13,9 @@ constexpr size_t kMaxRtfHead = 4u << 20;
 
 ReadProblem ReadRtfInfo(const std::string& path, DocInfo& info)
 {
-    std::ifstream in(path, std::ios::binary);
-    std::string head(kMaxRtfHead, '\0');
-    in.read(head.data(), std::streamsize(head.size()));
-    head.resize(size_t(in.gcount()));
+    std::string head;
+    bool whole = false;
+    if (!ReadFileHead(path, kMaxRtfHead, head, whole))
+        return ReadProblem::Damaged;
     return ParseRtfInfo(head, info) ? ReadProblem::None : ReadProblem::Damaged;
 }
