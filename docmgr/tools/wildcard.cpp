@@ -102,8 +102,14 @@ bool PatternList::Matches(std::string_view text) const
     } else {
         decoded = Decode(ignoreCase_ ? std::string_view(textcase::ToUpper(text)) : text);
     }
-    return std::any_of(patterns_.begin(), patterns_.end(),
-                       [&](const std::u32string& pattern) { return MatchDecoded(pattern, decoded); });
+    return std::any_of(patterns_.begin(), patterns_.end(), [&](const std::u32string& pattern) {
+        // "*.odt" and its like, most of a list of file patterns: a comparison of the end.
+        if (pattern.size() > 1 && pattern[0] == U'*' &&
+            pattern.find_first_of(U"*?", 1) == std::u32string::npos)
+            return decoded.size() >= pattern.size() - 1 &&
+                   decoded.compare(decoded.size() - (pattern.size() - 1), pattern.size() - 1, pattern, 1) == 0;
+        return MatchDecoded(pattern, decoded);
+    });
 }
 
 }  // namespace wildcard

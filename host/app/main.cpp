@@ -8,13 +8,9 @@
 
 int main(int argc, char** argv)
 {
-    const std::vector<std::string> args(argv + 1, argv + argc);
     CommandLine cmd;
-    std::string error;
-    if (!ParseCommandLine(args, cmd, error)) {
-        std::cerr << "docmanager: " << error << "\n\n" << UsageText();
+    if (!ParseProgramArguments(argc, argv, cmd))
         return 2;
-    }
     try {
         return RunWindow(argc, argv, cmd);
     } catch (const std::exception& e) {

@@ -1,5 +1,6 @@
 #include "host/cli/commandline.h"
 
+#include <iostream>
 #include <optional>
 
 #include "docmgr/records/docfields.h"
@@ -195,4 +196,14 @@ std::string UsageText()
            "Column ids: 1 file name, 2 size, 3 title, 4 topic, 5/6 created date/time,\n"
            "7 author, 8/9/10 modified date/time/by, 11/12/13 printed date/time/by,\n"
            "14 comment, 15 keywords, 16-19 information fields, 20 directory.\n";
+}
+
+bool ParseProgramArguments(int argc, char** argv, CommandLine& out)
+{
+    const std::vector<std::string> args(argv + 1, argv + argc);
+    std::string error;
+    if (ParseCommandLine(args, out, error))
+        return true;
+    std::cerr << "docmanager: " << error << "\n\n" << UsageText();
+    return false;
 }

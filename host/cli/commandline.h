@@ -25,3 +25,6 @@ bool ParseCommandLine(const std::vector<std::string>& args, CommandLine& out, st
 
 // The usage text, one line per form, ending with a line break.
 std::string UsageText();
+// The program's own arguments parsed; a mistake is told with the usage on standard error,
+// and false returned.
+bool ParseProgramArguments(int argc, char** argv, CommandLine& out);
