@@ -67,22 +67,6 @@ size_t KxFileStream::Write(const void* buffer, size_t n)
     return done;
 }
 
-bool KxFileStream::ReadAll(std::string& out)
-{
-    out.clear();
-    if (fd_ < 0)
-        return false;
-    out.resize(size_t(Size()));
-    position_ = 0;
-    const size_t got = Read(out.data(), out.size());
-    out.resize(got);
-    // A file that grew meanwhile: take the rest too.
-    char chunk[4096];
-    for (size_t more; (more = Read(chunk, sizeof chunk)) > 0;)
-        out.append(chunk, more);
-    return true;
-}
-
 void KxFileStream::Seek(uint64_t position)
 {
     position_ = position;

@@ -21,8 +21,6 @@ public:
     // Reads or writes up to n bytes at the current position; returns the count moved.
     size_t Read(void* buffer, size_t n);
     size_t Write(const void* buffer, size_t n);
-    // Reads the whole file from offset 0 into memory in one call.
-    bool ReadAll(std::string& out);
 
     void Seek(uint64_t position);
     void SeekRel(int64_t delta);

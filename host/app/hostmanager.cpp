@@ -3,7 +3,6 @@
 #include <QMessageBox>
 
 #include "host/app/docpropertiesdialog.h"
-#include "host/readers/docreader.h"
 
 std::unique_ptr<DocInfo> HostManager::CreateDocInfo(const std::string& file)
 {

@@ -91,10 +91,12 @@ TEST_F(CommandsTest, DeleteRemovesTheSelectedFilesAndRewritesThePathLine)
     Start();
     EXPECT_EQ(host->GetPathLine(), "4 documents in " + docs);
 
-    Select({"a.odt", "b.odt", "d.odt"});
+    Select({"c.odt"});
     AnswerBoxes(RET_NO);
     host->Command(CMD_DELETE);
+    EXPECT_EQ(queries, std::vector<std::string>{"Do you really want to delete the document \"c.odt\"?"});
     EXPECT_EQ(AnsweredDocBox().defaultAnswer, RET_NO);  // Enter keeps the files
+    Select({"a.odt", "b.odt", "d.odt"});
     EXPECT_EQ(Browser().GetRowCount(), 4);
     EXPECT_TRUE(dir.Exists("docs/a.odt"));
 
@@ -130,17 +132,6 @@ TEST_F(CommandsTest, PrintDocumentsEndsTheDialogForTheHost)
     EXPECT_EQ(host->Execute(), RET_PRINTDOCS);
     ASSERT_NE(host->GetFirstDoc(), nullptr);
     EXPECT_EQ(*host->GetFirstDoc(), docs + "/c.odt");
-}
-
-TEST_F(CommandsTest, OneDocumentIsNamedInTheDeleteQuestion)
-{
-    WriteDefaultConfig();
-    MakeDocs();
-    Start();
-    Select({"c.odt"});
-    AnswerBoxes(RET_NO);
-    host->Command(CMD_DELETE);
-    EXPECT_EQ(queries, std::vector<std::string>{"Do you really want to delete the document \"c.odt\"?"});
 }
 
 TEST_F(CommandsTest, DeleteAndF2InTheListRunTheirCommandsWhenEnabled)

@@ -112,12 +112,10 @@ TEST_F(Files, StreamReadsWritesAtPositionsAndLocksExclusively)
     writer.Seek(2);
     EXPECT_EQ(writer.Write("zz", 2), 2u);
     EXPECT_EQ(writer.Size(), 5u);
-    std::string all;
-    ASSERT_TRUE(writer.ReadAll(all));
-    EXPECT_EQ(all, std::string("KIzz\0", 5));
     char buffer[8];
-    writer.Seek(3);
-    EXPECT_EQ(writer.Read(buffer, 8), 2u);  // a short read at the end
+    writer.Seek(0);
+    EXPECT_EQ(writer.Read(buffer, 8), 5u);  // a short read at the end
+    EXPECT_EQ(std::string(buffer, 5), std::string("KIzz\0", 5));
 
     ASSERT_TRUE(writer.LockExclusive(0));
     KxFileStream other;
