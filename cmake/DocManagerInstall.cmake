@@ -15,12 +15,12 @@ set(DOCMGR_QT_COMPONENTS Widgets)
 
 # The window program, which docmanager starts, finds the installed module wherever the
 # prefix is.
-set(DOCMGR_WINDOW_DIR ${CMAKE_INSTALL_LIBEXECDIR}/docmanager)
 file(RELATIVE_PATH _docmgr_window_to_lib "/${DOCMGR_WINDOW_DIR}" "/${CMAKE_INSTALL_LIBDIR}")
 set_target_properties(docmanager-window PROPERTIES INSTALL_RPATH "$ORIGIN/${_docmgr_window_to_lib}")
 
 install(TARGETS docmanager docmanager-samples RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(TARGETS docmanager-window RUNTIME DESTINATION ${DOCMGR_WINDOW_DIR})
+install(TARGETS docmanager-pdfole LIBRARY DESTINATION ${DOCMGR_MODULE_DIR})
 install(TARGETS docmgr EXPORT DocManagerTargets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 
 foreach(_header IN LISTS DOCMGR_PUBLIC_HEADERS)

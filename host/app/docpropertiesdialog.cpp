@@ -53,6 +53,8 @@ QString ProblemNote(ReadProblem problem)
         return DocPropertiesDialog::tr("The file is not a zip package, as documents of its kind are; its information could not be read.");
     case ReadProblem::NoInformation:
         return DocPropertiesDialog::tr("The document holds no information yet.");
+    case ReadProblem::NoReader:
+        return DocPropertiesDialog::tr("No reader for documents of this kind could be loaded; its information could not be read.");
     }
     return {};
 }

@@ -11,7 +11,7 @@
 
 #include "host/cli/commandline.h"
 #include "host/cli/headless.h"
-#include "host/launcher/windowprogram.h"
+#include "host/launcher/installedfiles.h"
 
 namespace {
 

@@ -5,6 +5,7 @@
 
 #include "host/readers/docformat.h"
 #include "host/readers/formatreaders.h"
+#include "host/readers/pdfolereaders.h"
 #include "host/readers/ziparchive.h"
 
 namespace {
@@ -61,11 +62,15 @@ ReadProblem ReadByContent(const std::string& path, uint64_t fileSize, DocFormat 
     switch (ReadSignature(path)) {
     case Signature::Pdf:
         isDocument = true;
-        return ReadPdfInfo(path, fileSize, info);
+        if (const PdfOleReaders* readers = GetPdfOleReaders())
+            return readers->readPdf(path, fileSize, info);
+        return ReadProblem::NoReader;
     case Signature::Zip:
         return ReadPackage(path, byName, info, isDocument);
     case Signature::Cfb:
-        return ReadOleInfo(path, byName, info, isDocument);
+        if (const PdfOleReaders* readers = GetPdfOleReaders())
+            return readers->readOle(path, byName, info, isDocument);
+        return isDocument ? ReadProblem::NoReader : ReadProblem::None;
     case Signature::Rtf:
         isDocument = true;
         return ReadRtfInfo(path, info);
@@ -96,6 +101,7 @@ std::string_view ProblemText(ReadProblem problem)
     case ReadProblem::Damaged: return "damaged";
     case ReadProblem::NotZip: return "not a zip";
     case ReadProblem::NoInformation: return "no information";
+    case ReadProblem::NoReader: return "no reader";
     }
     return {};
 }

@@ -9,7 +9,8 @@ enum class ReadProblem {
     Damaged,        // broken or truncated, or not of the kind its name says
     NotZip,         // an ODF or OOXML name, but the file is not a zip package
     NoInformation,  // read, but it holds none of the fields
+    NoReader,       // the reader for its kind could not be loaded
 };
 
-// "encrypted", "damaged", "not a zip", "no information"; empty for None.
+// "encrypted", "damaged", "not a zip", "no information", "no reader"; empty for None.
 std::string_view ProblemText(ReadProblem problem);

@@ -57,6 +57,34 @@ The file was left as it was.</source>
         <translation>Die Dokumentinformationen von &quot;%1&quot; konnten nicht geändert werden: %2.
 Die Datei blieb unverändert.</translation>
     </message>
+    <message>
+        <source>The document is encrypted; its information could not be read.</source>
+        <translation>Das Dokument ist verschlüsselt; seine Informationen konnten nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The document is damaged; only part of its information, or none, could be read.</source>
+        <translation>Das Dokument ist beschädigt; nur ein Teil seiner Informationen oder keine konnte gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The file is not a zip package, as documents of its kind are; its information could not be read.</source>
+        <translation>Die Datei ist kein Zip-Paket, wie es Dokumente ihrer Art sind; ihre Informationen konnten nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The document holds no information yet.</source>
+        <translation>Das Dokument enthält noch keine Informationen.</translation>
+    </message>
+    <message>
+        <source>No reader for documents of this kind could be loaded; its information could not be read.</source>
+        <translation>Für Dokumente dieser Art konnte kein Leser geladen werden; seine Informationen konnten nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Documents of this kind (legacy Office, RTF, flat ODF) are read-only here: their information is shown but cannot be changed.</source>
+        <translation>Dokumente dieser Art (ältere Office-Formate, RTF, Flat-ODF) sind hier schreibgeschützt: ihre Informationen werden angezeigt, können aber nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
 </context>
 <context>
     <name>HostManager</name>

@@ -57,6 +57,34 @@ The file was left as it was.</source>
         <translation>The document information of &quot;%1&quot; could not be changed: %2.
 The file was left as it was.</translation>
     </message>
+    <message>
+        <source>The document is encrypted; its information could not be read.</source>
+        <translation>The document is encrypted; its information could not be read.</translation>
+    </message>
+    <message>
+        <source>The document is damaged; only part of its information, or none, could be read.</source>
+        <translation>The document is damaged; only part of its information, or none, could be read.</translation>
+    </message>
+    <message>
+        <source>The file is not a zip package, as documents of its kind are; its information could not be read.</source>
+        <translation>The file is not a zip package, as documents of its kind are; its information could not be read.</translation>
+    </message>
+    <message>
+        <source>The document holds no information yet.</source>
+        <translation>The document holds no information yet.</translation>
+    </message>
+    <message>
+        <source>No reader for documents of this kind could be loaded; its information could not be read.</source>
+        <translation>No reader for documents of this kind could be loaded; its information could not be read.</translation>
+    </message>
+    <message>
+        <source>Documents of this kind (legacy Office, RTF, flat ODF) are read-only here: their information is shown but cannot be changed.</source>
+        <translation>Documents of this kind (legacy Office, RTF, flat ODF) are read-only here: their information is shown but cannot be changed.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
 </context>
 <context>
     <name>HostManager</name>

@@ -17,6 +17,7 @@ quiet() { "$@" >"$work/log" 2>&1 || { cat "$work/log" >&2; fail "failed: $*"; };
 
 quiet "$cmake" --install "$build" --prefix "$prefix"
 for file in bin/docmanager bin/docmanager-samples libexec/docmanager/docmanager-window \
+            lib/docmanager/docmanager-pdfole.so \
             lib/libdocmgr.so.2 lib/libdocmgr.so include/docmgr/docmgr_export.h \
             include/docmgr/manager/docmanager.h include/docmgr/records/docinfo.h \
             include/docmgr/tools/datetime.h include/docmgr/tools/config.h \
@@ -24,6 +25,11 @@ for file in bin/docmanager bin/docmanager-samples libexec/docmanager/docmanager-
   [[ -e $prefix/$file ]] || fail "$file was not installed"
 done
 quiet "$prefix/bin/docmanager" --help
+# A listing loads qpdf and libgsf only with the first PDF or OLE file, from the installed module.
+! ldd "$prefix/bin/docmanager" | grep -Eq 'libqpdf|libgsf' || fail "docmanager links qpdf or libgsf itself"
+quiet "$prefix/bin/docmanager-samples" "$work/samples" 5
+listed=$(HOME=$work/home "$prefix/bin/docmanager" --list --columns 1,3 --format tsv "$work/samples" 2>&1)
+[[ $listed == *"letter-003.pdf	Customer Survey Letter"* ]] || fail "the installed docmanager read no PDF: $listed"
 # The window program is found and finds the installed library without help: with no
 # display it starts and says so.
 window_says=$(env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM "$prefix/bin/docmanager" 2>&1 || true)
