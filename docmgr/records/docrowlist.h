@@ -64,8 +64,6 @@ private:
     void ReadIndex(DirPass& pass);
     void WriteInPlace(DirPass& pass, uint64_t offset, const DocInfo& info);
     void FinishInPlace(DirPass& pass);
-    std::vector<std::string> PlanReads(const DirPass& pass, IndexBlocks& records,
-                                       int64_t indexMtimeNs) const;
     void ReadRecords(DirPass& pass, IndexBlocks& records, int64_t indexMtimeNs);
     void RewriteIndex(DirPass& pass);
     void ProbeAll(DirPass& pass);

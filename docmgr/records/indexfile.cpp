@@ -151,37 +151,21 @@ void DocRowList::ProbeAll(DirPass& pass)
     }
 }
 
-// The files the records leave to be read, in the order ReadRecords asks for them: those
-// changed since the index was written, then those it has no record of.
-std::vector<std::string> DocRowList::PlanReads(const DirPass& pass, IndexBlocks& records,
-                                               int64_t indexMtimeNs) const
-{
-    std::vector<std::string> reads;
-    std::vector<bool> recorded(pass.files.size(), false);
-    records.ForEach([&](uint64_t, const char* bytes) {
-        const std::string name = DocRecord::ReadName(bytes);
-        const auto found = pass.byName.find(name);
-        if (found == pass.byName.end() || recorded[found->second])
-            return;
-        recorded[found->second] = true;
-        if (indexMtimeNs <= pass.files[found->second].mtimeNs)
-            reads.push_back(fsutil::Join(pass.dir, name));
-    });
-    for (size_t i = 0; i < pass.files.size(); ++i) {
-        if (!recorded[i] && !pass.IsIndex(i))
-            reads.push_back(fsutil::Join(pass.dir, pass.files[i].name));
-    }
-    return reads;
-}
-
+// One walk over the records: an unchanged document's row is made from its record at
+// once; a changed one keeps its place in the rows and is read after the walk, with the
+// files the index has no record of, so that all those reads are known before the first.
 void DocRowList::ReadRecords(DirPass& pass, IndexBlocks& records, int64_t indexMtimeNs)
 {
-    source_.ReadAhead(PlanReads(pass, records, indexMtimeNs));
-
+    struct Changed {
+        size_t row;       // its place in pass.working
+        uint64_t offset;  // of its record
+        size_t file;
+    };
+    std::vector<Changed> changed;
+    std::vector<std::string> reads;  // the changed ones first, in record order
     // Only whole records count; a partial one at the end stays as it is.
     records.ForEach([&](uint64_t offset, const char* bytes) {
-        const DocRecord record = DocRecord::FromBytes(bytes);
-        const std::string name = record.ReadString(record.name, DocRecord::NAME_LEN);
+        const std::string name = DocRecord::ReadName(bytes);
         const auto found = pass.byName.find(name);
         if (found == pass.byName.end() || pass.consumed[found->second]) {
             pass.rewriteNeeded = true;  // vanished, no longer matching, or a duplicate
@@ -189,25 +173,41 @@ void DocRowList::ReadRecords(DirPass& pass, IndexBlocks& records, int64_t indexM
         }
         const size_t file = found->second;
         const fsutil::DirItem& item = pass.files[file];
-        const std::string path = fsutil::Join(pass.dir, name);
-        std::unique_ptr<DocInfo> info;
-        if (indexMtimeNs > item.mtimeNs) {
-            info = std::make_unique<DocInfo>();
-            info->entry = path;
-            info->size = record.hasInfo != 0 ? FileSize32(item.size) : NO_DOC_INFO;
-            record.FillDocInfo(*info);
-        } else {
-            info = source_.CreateDocInfo(path);
-            if (!info)
-                return;  // not consumed: probed again with the new files
-            info->entry = path;
-            info->size = FileSize32(item.size);
-            if (pass.InPlaceUpdates())
-                WriteInPlace(pass, offset, *info);
-        }
-        pass.working.push_back(std::move(info));
         pass.consumed[file] = true;
+        if (indexMtimeNs <= item.mtimeNs) {
+            changed.push_back({pass.working.size(), offset, file});
+            reads.push_back(fsutil::Join(pass.dir, name));
+            pass.working.emplace_back();
+            return;
+        }
+        const DocRecord record = DocRecord::FromBytes(bytes);
+        auto info = std::make_unique<DocInfo>();
+        info->entry = fsutil::Join(pass.dir, name);
+        info->size = record.hasInfo != 0 ? FileSize32(item.size) : NO_DOC_INFO;
+        record.FillDocInfo(*info);
+        pass.working.push_back(std::move(info));
     });
+    for (size_t i = 0; i < pass.files.size(); ++i) {
+        if (!pass.consumed[i] && !pass.IsIndex(i))
+            reads.push_back(fsutil::Join(pass.dir, pass.files[i].name));
+    }
+    source_.ReadAhead(reads);
+
+    for (size_t k = 0; k < changed.size(); ++k) {
+        const Changed& doc = changed[k];
+        std::unique_ptr<DocInfo> info = source_.CreateDocInfo(reads[k]);
+        if (!info) {
+            pass.consumed[doc.file] = false;  // probed again with the new files
+            continue;
+        }
+        info->entry = reads[k];
+        info->size = FileSize32(pass.files[doc.file].size);
+        if (pass.InPlaceUpdates())
+            WriteInPlace(pass, doc.offset, *info);
+        pass.working[doc.row] = std::move(info);
+    }
+    if (!changed.empty())
+        std::erase(pass.working, nullptr);
 
     for (size_t i = 0; i < pass.files.size(); ++i) {
         if (pass.consumed[i] || pass.IsIndex(i))
