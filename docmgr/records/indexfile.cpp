@@ -139,12 +139,14 @@ std::unique_ptr<DocInfo> DocRowList::Probe(const DirPass& pass, size_t file)
 
 void DocRowList::ProbeAll(DirPass& pass)
 {
-    std::vector<std::string> reads;
-    for (size_t i = 0; i < pass.files.size(); ++i) {
-        if (!pass.IsIndex(i))
-            reads.push_back(fsutil::Join(pass.dir, pass.files[i].name));
-    }
-    source_.ReadAhead(reads);
+    {
+        std::vector<std::string> reads;
+        for (size_t i = 0; i < pass.files.size(); ++i) {
+            if (!pass.IsIndex(i))
+                reads.push_back(fsutil::Join(pass.dir, pass.files[i].name));
+        }
+        source_.ReadAhead(reads);
+    }  // the plan's memory is back before the rows take theirs
     for (size_t i = 0; i < pass.files.size(); ++i) {
         if (!pass.IsIndex(i))
             pass.working.push_back(Probe(pass, i));
@@ -192,6 +194,8 @@ void DocRowList::ReadRecords(DirPass& pass, IndexBlocks& records, int64_t indexM
             reads.push_back(fsutil::Join(pass.dir, pass.files[i].name));
     }
     source_.ReadAhead(reads);
+    reads.resize(changed.size());
+    reads.shrink_to_fit();
 
     for (size_t k = 0; k < changed.size(); ++k) {
         const Changed& doc = changed[k];

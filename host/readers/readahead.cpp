@@ -63,22 +63,22 @@ std::unique_ptr<DocInfo> DocReadAhead::Take(const std::string& path)
 {
     std::unique_lock lock(mutex_);
     const auto found = index_.find(path);
+    // Not planned, or asked again: read here, as without the pool.
     if (found == index_.end())
         return ReadDocInfo(path);
     const size_t i = found->second;
-    switch (states_[i]) {
-    case State::Waiting:
-        states_[i] = State::Taken;
+    index_.erase(found);
+    if (states_[i] == State::Waiting) {
+        states_[i] = State::Read;  // no worker starts it now
         lock.unlock();
+        std::string().swap(paths_[i]);
         return ReadDocInfo(path);
-    case State::Taken:
-        lock.unlock();
-        return ReadDocInfo(path);  // asked again: read again, as without the pool
-    case State::Reading:
-    case State::Read:
-        read_.wait(lock, [&] { return states_[i] == State::Read; });
-        states_[i] = State::Taken;
-        return std::move(results_[i]);
     }
-    return nullptr;
+    read_.wait(lock, [&] { return states_[i] == State::Read; });
+    std::string().swap(paths_[i]);
+    const std::unique_ptr<DocInfo> read = std::move(results_[i]);
+    lock.unlock();
+    // Copied on this thread, to the texts' lengths: the reader's strings, grown among its
+    // scratch buffers in its own arena, would pin that memory for as long as the row lives.
+    return read ? std::make_unique<DocInfo>(*read) : nullptr;
 }
