@@ -61,11 +61,16 @@ bool IsFlatOdfHead(std::string_view head)
 
 Signature ReadSignature(const std::string& path)
 {
-    // PDF readers accept a header anywhere in the first 1024 bytes.
     std::ifstream in(path, std::ios::binary);
     char head[1024];
     in.read(head, sizeof head);
-    const std::string_view got(head, size_t(in.gcount()));
+    return SignatureOf(std::string_view(head, size_t(in.gcount())));
+}
+
+Signature SignatureOf(std::string_view head)
+{
+    // PDF readers accept a header anywhere in the first 1024 bytes.
+    const std::string_view got = head.substr(0, 1024);
     if (got.find("%PDF-") != std::string_view::npos)
         return Signature::Pdf;
     if (got.substr(0, 4) == "PK\3\4" || got.substr(0, 4) == "PK\5\6")

@@ -1,6 +1,7 @@
 #pragma once
 // Which of the supported formats a file is, by its name and by its first bytes.
 #include <string>
+#include <string_view>
 
 class ZipArchive;
 
@@ -19,6 +20,8 @@ enum class Signature {
 // By file name extension, case-insensitive.
 DocFormat FormatByExtension(const std::string& path);
 Signature ReadSignature(const std::string& path);
+// The same, from the file's first bytes (1024 are looked at).
+Signature SignatureOf(std::string_view head);
 // By the entries of an open zip: an ODF package or an OPC (OOXML) package; None for any
 // other zip.
 DocFormat FormatOfPackage(const ZipArchive& zip);

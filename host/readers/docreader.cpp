@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "host/readers/docformat.h"
+#include "host/readers/filehead.h"
 #include "host/readers/formatreaders.h"
 #include "host/readers/pdfolereaders.h"
 #include "host/readers/ziparchive.h"
@@ -20,10 +21,10 @@ void ApplyNeverPrinted(DocInfo& info)
     info.printedBy = info.author;
 }
 
-ReadProblem ReadPackage(const std::string& path, DocFormat byName, DocInfo& info, bool& isDocument)
+ReadProblem ReadPackage(const DocBytes& doc, DocFormat byName, DocInfo& info, bool& isDocument)
 {
     ZipArchive zip;
-    if (!zip.Open(path, ZipArchive::Mode::Read))
+    if (!zip.Open(doc))
         return ReadProblem::Damaged;
     DocFormat format = FormatOfPackage(zip);
     if (format == DocFormat::None)
@@ -40,12 +41,12 @@ ReadProblem ReadPackage(const std::string& path, DocFormat byName, DocInfo& info
 }
 
 // A file whose first bytes say nothing: only its name made it a document.
-ReadProblem ReadByName(const std::string& path, DocFormat byName, DocInfo& info)
+ReadProblem ReadByName(const DocBytes& doc, DocFormat byName, DocInfo& info)
 {
     switch (byName) {
     case DocFormat::FlatOdf:
         // Its root element may stand past the first kilobyte; the parser decides.
-        return ReadFlatOdfInfo(path, info);
+        return ReadFlatOdfInfo(doc, info);
     case DocFormat::Odf:
     case DocFormat::Ooxml:
         return ReadProblem::NotZip;
@@ -54,33 +55,37 @@ ReadProblem ReadByName(const std::string& path, DocFormat byName, DocInfo& info)
     }
 }
 
-// Content decides when it is recognisable; the name decides otherwise.
+// Content decides when it is recognisable; the name decides otherwise. The file is
+// opened and read once for all of it.
 ReadProblem ReadByContent(const std::string& path, uint64_t fileSize, DocFormat byName, DocInfo& info,
                           bool& isDocument)
 {
     isDocument = byName != DocFormat::None;
-    switch (ReadSignature(path)) {
+    DocBytes doc;
+    if (!ReadDocBytes(path, doc))
+        return ReadProblem::Damaged;
+    switch (SignatureOf(doc.bytes)) {
     case Signature::Pdf:
         isDocument = true;
         if (const PdfOleReaders* readers = GetPdfOleReaders())
-            return readers->readPdf(path, fileSize, info);
+            return readers->readPdf(doc, fileSize, info);
         return ReadProblem::NoReader;
     case Signature::Zip:
-        return ReadPackage(path, byName, info, isDocument);
+        return ReadPackage(doc, byName, info, isDocument);
     case Signature::Cfb:
         if (const PdfOleReaders* readers = GetPdfOleReaders())
-            return readers->readOle(path, byName, info, isDocument);
+            return readers->readOle(doc, byName, info, isDocument);
         return isDocument ? ReadProblem::NoReader : ReadProblem::None;
     case Signature::Rtf:
         isDocument = true;
-        return ReadRtfInfo(path, info);
+        return ReadRtfInfo(doc, info);
     case Signature::FlatOdf:
         isDocument = true;
-        return ReadFlatOdfInfo(path, info);
+        return ReadFlatOdfInfo(doc, info);
     case Signature::Other:
         break;
     }
-    return isDocument ? ReadByName(path, byName, info) : ReadProblem::None;
+    return isDocument ? ReadByName(doc, byName, info) : ReadProblem::None;
 }
 
 }  // namespace

@@ -36,3 +36,9 @@ bool ReadFileHead(const std::string& path, size_t limit, std::string& out, bool&
     close(fd);
     return true;
 }
+
+bool ReadDocBytes(const std::string& path, DocBytes& doc)
+{
+    doc.path = path;
+    return ReadFileHead(path, kDocBytesLimit, doc.bytes, doc.whole);
+}

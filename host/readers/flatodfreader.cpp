@@ -11,12 +11,7 @@ namespace {
 
 // Producers write the information first; a larger file (embedded pictures) is cut
 // after it and closed, so that only its head is parsed.
-constexpr size_t kMaxFlatHead = kMaxXmlPart;
-
-bool ReadHead(const std::string& path, std::string& bytes, bool& whole)
-{
-    return ReadFileHead(path, kMaxFlatHead, bytes, whole);
-}
+static_assert(kDocBytesLimit <= kMaxXmlPart);
 
 // The head up to the end of the meta element, with the root closed after it.
 bool CutAfterMeta(std::string& bytes)
@@ -32,14 +27,15 @@ bool CutAfterMeta(std::string& bytes)
 
 }  // namespace
 
-ReadProblem ReadFlatOdfInfo(const std::string& path, DocInfo& info)
+ReadProblem ReadFlatOdfInfo(const DocBytes& file, DocInfo& info)
 {
-    std::string bytes;
-    bool whole = false;
-    if (!ReadHead(path, bytes, whole))
-        return ReadProblem::Damaged;
-    if (!whole && !CutAfterMeta(bytes))
-        return ReadProblem::Damaged;
+    std::string cut;
+    if (!file.whole) {
+        cut = file.bytes;
+        if (!CutAfterMeta(cut))
+            return ReadProblem::Damaged;
+    }
+    const std::string& bytes = file.whole ? file.bytes : cut;
     pugi::xml_document doc;
     if (!xmlutil::Parse(bytes, doc))
         return ReadProblem::Damaged;

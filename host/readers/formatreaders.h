@@ -9,12 +9,13 @@
 #include "host/readers/readproblem.h"
 
 class ZipArchive;
+struct DocBytes;
 
 ReadProblem ReadOdfInfo(const ZipArchive& zip, DocInfo& info);
-ReadProblem ReadFlatOdfInfo(const std::string& path, DocInfo& info);
+ReadProblem ReadFlatOdfInfo(const DocBytes& doc, DocInfo& info);
 ReadProblem ReadOoxmlInfo(const ZipArchive& zip, DocInfo& info);
-ReadProblem ReadPdfInfo(const std::string& path, uint64_t fileSize, DocInfo& info);
-ReadProblem ReadRtfInfo(const std::string& path, DocInfo& info);
+ReadProblem ReadPdfInfo(const DocBytes& doc, uint64_t fileSize, DocInfo& info);
+ReadProblem ReadRtfInfo(const DocBytes& doc, DocInfo& info);
 // An OLE compound file: a legacy Office document, or an OOXML document that Office
 // encrypted into one. Sets `isDocument` when its streams or `byName` say it is one.
-ReadProblem ReadOleInfo(const std::string& path, DocFormat byName, DocInfo& info, bool& isDocument);
+ReadProblem ReadOleInfo(const DocBytes& doc, DocFormat byName, DocInfo& info, bool& isDocument);

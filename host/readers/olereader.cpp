@@ -5,6 +5,7 @@
 #include <gsf/gsf-docprop-vector.h>
 #include <gsf/gsf-infile-msole.h>
 #include <gsf/gsf-infile.h>
+#include <gsf/gsf-input-memory.h>
 #include <gsf/gsf-input-stdio.h>
 #include <gsf/gsf-input.h>
 #include <gsf/gsf-meta-names.h>
@@ -18,6 +19,7 @@
 #include <string_view>
 #include <vector>
 
+#include "host/readers/filehead.h"
 #include "host/readers/formatreaders.h"
 #include "host/readers/metadates.h"
 #include "host/readers/oleuserorder.h"
@@ -222,11 +224,13 @@ bool ReadPropertySet(GsfInfile* ole, const char* stream, GsfDocMetaData* meta)
 
 }  // namespace
 
-ReadProblem ReadOleInfo(const std::string& path, DocFormat byName, DocInfo& info, bool& isDocument)
+ReadProblem ReadOleInfo(const DocBytes& doc, DocFormat byName, DocInfo& info, bool& isDocument)
 {
     InitGsf();
     GError* error = nullptr;
-    InputPtr file(gsf_input_stdio_new(path.c_str(), &error));
+    InputPtr file(doc.whole ? gsf_input_memory_new(reinterpret_cast<const guint8*>(doc.bytes.data()),
+                                                   gsf_off_t(doc.bytes.size()), FALSE)
+                            : gsf_input_stdio_new(doc.path.c_str(), &error));
     if (!file) {
         g_clear_error(&error);
         return ReadProblem::Damaged;

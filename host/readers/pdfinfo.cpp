@@ -15,6 +15,17 @@ void Open(QPDF& pdf, const std::string& path, bool repair)
     pdf.processFile(path.c_str());
 }
 
+void Open(QPDF& pdf, const DocBytes& doc, bool repair)
+{
+    if (!doc.whole) {
+        Open(pdf, doc.path, repair);
+        return;
+    }
+    pdf.setSuppressWarnings(true);
+    pdf.setAttemptRecovery(repair);
+    pdf.processMemoryFile(doc.path.c_str(), doc.bytes.data(), doc.bytes.size());
+}
+
 namespace {
 
 // An array of texts (as some producers store several authors or keywords) reads as its

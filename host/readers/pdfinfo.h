@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "host/readers/filehead.h"
 #include "host/readers/metafields.h"
 #include "host/readers/qpdfapi.h"
 
@@ -12,6 +13,8 @@ namespace pdfinfo {
 // Opens a PDF for reading its objects: no warnings on stderr, and damage is an
 // exception rather than a repair, unless `repair` is set.
 void Open(QPDF& pdf, const std::string& path, bool repair);
+// The same for a document being read: from its bytes when they are the whole file.
+void Open(QPDF& pdf, const DocBytes& doc, bool repair);
 // True for entries the PDF format defines (Title, Author, ..., Trapped) and for the
 // entry that records the order of the information fields.
 bool IsStandardKey(const std::string& key);

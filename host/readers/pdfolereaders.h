@@ -9,11 +9,12 @@
 
 #include "docmgr/records/docinfo.h"
 #include "host/readers/docformat.h"
+#include "host/readers/filehead.h"
 #include "host/readers/readproblem.h"
 
 struct PdfOleReaders {
-    ReadProblem (*readPdf)(const std::string& path, uint64_t fileSize, DocInfo& info);
-    ReadProblem (*readOle)(const std::string& path, DocFormat byName, DocInfo& info, bool& isDocument);
+    ReadProblem (*readPdf)(const DocBytes& doc, uint64_t fileSize, DocInfo& info);
+    ReadProblem (*readOle)(const DocBytes& doc, DocFormat byName, DocInfo& info, bool& isDocument);
 };
 
 // The readers, or null when they cannot be had (the program said why on standard error).

@@ -1,4 +1,5 @@
 // Document information of a PDF, from its Info dictionary.
+#include "host/readers/filehead.h"
 #include "host/readers/formatreaders.h"
 #include "host/readers/metadates.h"
 #include "host/readers/pdfinfo.h"
@@ -25,11 +26,11 @@ void FillFrom(QPDFObjectHandle dict, DocInfo& info)
         info.info[i] = TextOf(dict, keys[i]);
 }
 
-bool TryRead(const std::string& path, bool repair, DocInfo& info, bool& passwordNeeded)
+bool TryRead(const DocBytes& doc, bool repair, DocInfo& info, bool& passwordNeeded)
 {
     try {
         QPDF pdf;
-        pdfinfo::Open(pdf, path, repair);
+        pdfinfo::Open(pdf, doc, repair);
         QPDFObjectHandle dict = pdf.getTrailer().getKey("/Info");
         if (dict.isDictionary())
             FillFrom(dict, info);
@@ -45,17 +46,17 @@ bool TryRead(const std::string& path, bool repair, DocInfo& info, bool& password
 
 }  // namespace
 
-ReadProblem ReadPdfInfo(const std::string& path, uint64_t fileSize, DocInfo& info)
+ReadProblem ReadPdfInfo(const DocBytes& doc, uint64_t fileSize, DocInfo& info)
 {
     bool passwordNeeded = false;
-    if (TryRead(path, false, info, passwordNeeded))
+    if (TryRead(doc, false, info, passwordNeeded))
         return ReadProblem::None;
     if (passwordNeeded)
         return ReadProblem::Encrypted;
     if (fileSize > kMaxRepairSize)
         return ReadProblem::Damaged;
     DocInfo repaired = info;
-    if (!TryRead(path, true, repaired, passwordNeeded))
+    if (!TryRead(doc, true, repaired, passwordNeeded))
         return ReadProblem::Damaged;
     info = repaired;
     return ReadProblem::None;

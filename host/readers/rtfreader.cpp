@@ -11,11 +11,8 @@ constexpr size_t kMaxRtfHead = 4u << 20;
 
 }  // namespace
 
-ReadProblem ReadRtfInfo(const std::string& path, DocInfo& info)
+ReadProblem ReadRtfInfo(const DocBytes& doc, DocInfo& info)
 {
-    std::string head;
-    bool whole = false;
-    if (!ReadFileHead(path, kMaxRtfHead, head, whole))
-        return ReadProblem::Damaged;
+    const std::string_view head = std::string_view(doc.bytes).substr(0, kMaxRtfHead);
     return ParseRtfInfo(head, info) ? ReadProblem::None : ReadProblem::Damaged;
 }

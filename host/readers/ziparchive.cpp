@@ -4,6 +4,8 @@
 
 #include <cstring>
 
+#include "host/readers/filehead.h"
+
 namespace {
 
 std::string OpenErrorText(int code)
@@ -46,6 +48,26 @@ bool ZipArchive::Open(const std::string& path, Mode mode)
         return false;
     }
     return true;
+}
+
+bool ZipArchive::Open(const DocBytes& doc)
+{
+    if (!doc.whole)
+        return Open(doc.path, Mode::Read);
+    Close();
+    error_.clear();
+    zip_error_t error;
+    zip_error_init(&error);
+    zip_source_t* source = zip_source_buffer_create(doc.bytes.data(), doc.bytes.size(), 0, &error);
+    if (source)
+        zip_ = zip_open_from_source(source, ZIP_RDONLY, &error);
+    if (!zip_) {
+        error_ = zip_error_strerror(&error);
+        if (source)
+            zip_source_free(source);
+    }
+    zip_error_fini(&error);
+    return zip_ != nullptr;
 }
 
 bool ZipArchive::Has(const std::string& name) const

@@ -8,6 +8,7 @@
 #include <string>
 
 struct zip;
+struct DocBytes;
 
 // Outcome of reading one entry.
 enum class ZipRead {
@@ -33,6 +34,9 @@ public:
 
     // False when the file is missing or not a readable zip; Error() tells why.
     bool Open(const std::string& path, Mode mode);
+    // Read-only, from the document's bytes when it was read whole (they must outlive the
+    // archive), else from its path.
+    bool Open(const DocBytes& doc);
     bool IsOpen() const { return zip_ != nullptr; }
 
     bool Has(const std::string& name) const;
