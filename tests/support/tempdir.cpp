@@ -34,8 +34,7 @@ void testfs::WriteFile(const std::string& path, const std::string& contents)
 
 TempDir::TempDir() : dir_(QDir::tempPath() + QStringLiteral("/docmgr-test-XXXXXX"))
 {
-    if (!dir_.isValid())
-        ADD_FAILURE() << "cannot create a temporary directory";
+    EXPECT_TRUE(dir_.isValid()) << "cannot create a temporary directory";
     // Canonical, so paths compare equal to what the program makes absolute.
     std::error_code error;
     path_ = fs::canonical(dir_.path().toStdString(), error).string();
@@ -78,8 +77,7 @@ std::string TempDir::MakeDir(const std::string& relative)
 {
     std::error_code error;
     fs::create_directories(PathOf(relative), error);
-    if (error)
-        ADD_FAILURE() << "cannot create " << PathOf(relative) << ": " << error.message();
+    EXPECT_FALSE(error) << "cannot create " << PathOf(relative);
     return PathOf(relative);
 }
 
@@ -87,8 +85,7 @@ std::string TempDir::MakeLink(const std::string& relative, const std::string& ta
 {
     std::error_code error;
     fs::create_symlink(target, PathOf(relative), error);
-    if (error)
-        ADD_FAILURE() << "cannot create the link " << PathOf(relative);
+    EXPECT_FALSE(error) << "cannot create the link " << PathOf(relative);
     return PathOf(relative);
 }
 
@@ -105,8 +102,9 @@ bool TempDir::Exists(const std::string& relative) const
 
 uint64_t TempDir::Size(const std::string& relative) const
 {
-    struct stat st {};
-    return stat(PathOf(relative).c_str(), &st) == 0 ? uint64_t(st.st_size) : 0;
+    std::error_code error;
+    const uint64_t size = fs::file_size(PathOf(relative), error);
+    return error ? 0 : size;
 }
 
 int64_t TempDir::MTimeNs(const std::string& relative) const
