@@ -27,39 +27,71 @@ int32_t TimeKey(const Time& time, const Date& date)
 
 }  // namespace
 
-std::string GetFieldString(const DocInfo& info, uint16_t columnId)
+FieldKind KindOfColumn(uint16_t columnId)
 {
     switch (columnId) {
-    case COL_NAME: return fsutil::FileName(info.entry);
-    case COL_SIZE: return std::to_string(info.size);
+    case COL_NAME: return FieldKind::Name;
+    case COL_SIZE: return FieldKind::Size;
+    case COL_CREATED_DATE:
+    case COL_MODIFIED_DATE:
+    case COL_PRINTED_DATE: return FieldKind::Date;
+    case COL_CREATED_TIME:
+    case COL_MODIFIED_TIME:
+    case COL_PRINTED_TIME: return FieldKind::Time;
+    case COL_DIRECTORY: return FieldKind::Directory;
+    default: return columnId >= COL_TITLE && columnId <= COL_INFO3 ? FieldKind::Text : FieldKind::None;
+    }
+}
+
+const std::string& TextField(const DocInfo& info, uint16_t columnId)
+{
+    switch (columnId) {
     case COL_TITLE: return info.title;
     case COL_TOPIC: return info.topic;
-    case COL_CREATED_DATE: return DateText(info.createdDate);
-    case COL_CREATED_TIME: return TimeText(info.createdTime, info.createdDate);
     case COL_AUTHOR: return info.author;
-    // The modified stamp is judged by what its texts show, the printed one by its values.
-    case COL_MODIFIED_DATE:
-        return DateKey(info.modifiedDate) == DateKey(info.createdDate) ? NOT_SET
-                                                                        : DateText(info.modifiedDate);
-    case COL_MODIFIED_TIME:
-        return TimeKey(info.modifiedTime, info.modifiedDate) == TimeKey(info.createdTime, info.createdDate)
-                   ? NOT_SET
-                   : TimeText(info.modifiedTime, info.modifiedDate);
     case COL_MODIFIED_BY: return info.modifiedBy;
-    case COL_PRINTED_DATE:
-        return info.NeverPrinted() ? NOT_SET : DateText(info.printedDate);
-    case COL_PRINTED_TIME:
-        return info.NeverPrinted() ? NOT_SET : TimeText(info.printedTime, info.printedDate);
-    case COL_PRINTED_BY: return info.NeverPrinted() ? NOT_SET : info.printedBy;
+    case COL_PRINTED_BY: return info.printedBy;
     case COL_COMMENT: return info.comment;
     case COL_KEYWORDS: return info.keywords;
-    case COL_INFO0:
-    case COL_INFO1:
-    case COL_INFO2:
-    case COL_INFO3: return info.info[columnId - COL_INFO0];
-    case COL_DIRECTORY: return fsutil::DirName(info.entry);
-    default: return {};
+    default: return info.info[size_t(columnId - COL_INFO0) % info.info.size()];
     }
+}
+
+const Date& DateField(const DocInfo& info, uint16_t columnId)
+{
+    return columnId == COL_CREATED_DATE    ? info.createdDate
+           : columnId == COL_MODIFIED_DATE ? info.modifiedDate
+                                           : info.printedDate;
+}
+
+const Time& TimeField(const DocInfo& info, uint16_t columnId)
+{
+    return columnId == COL_CREATED_TIME    ? info.createdTime
+           : columnId == COL_MODIFIED_TIME ? info.modifiedTime
+                                           : info.printedTime;
+}
+
+std::string GetFieldString(const DocInfo& info, uint16_t columnId)
+{
+    // The modified stamp is judged by what its texts show, the printed one by its values.
+    if (columnId >= COL_PRINTED_DATE && columnId <= COL_PRINTED_BY && info.NeverPrinted())
+        return NOT_SET;
+    if (columnId == COL_MODIFIED_DATE && DateKey(info.modifiedDate) == DateKey(info.createdDate))
+        return NOT_SET;
+    if (columnId == COL_MODIFIED_TIME &&
+        TimeKey(info.modifiedTime, info.modifiedDate) == TimeKey(info.createdTime, info.createdDate))
+        return NOT_SET;
+    switch (KindOfColumn(columnId)) {
+    case FieldKind::Name: return fsutil::FileName(info.entry);
+    case FieldKind::Size: return std::to_string(info.size);
+    case FieldKind::Text: return TextField(info, columnId);
+    case FieldKind::Date: return DateText(DateField(info, columnId));
+    // Each time column follows the date column of its stamp.
+    case FieldKind::Time: return TimeText(TimeField(info, columnId), DateField(info, columnId - 1));
+    case FieldKind::Directory: return fsutil::DirName(info.entry);
+    case FieldKind::None: break;
+    }
+    return {};
 }
 
 std::string GetColumnTitle(uint16_t columnId, const DocGroupConfig& group)

@@ -17,6 +17,18 @@ enum DocColumn : uint16_t {
 };
 constexpr uint16_t COLUMN_COUNT = 20;
 
+// What a column holds; the cell texts, the sort and the filter all read a column through
+// these, so the column-to-field mapping lives here alone.
+enum class FieldKind { None, Name, Size, Text, Date, Time, Directory };
+// None for ids outside 1..20.
+FieldKind KindOfColumn(uint16_t columnId);
+// The stored text of a Text column (3, 4, 7, 10, 13..19).
+const std::string& TextField(const DocInfo& info, uint16_t columnId);
+// The date of column 5, 8 or 11, and the time of 6, 9 or 12; any other id gives the
+// printed stamp.
+const Date& DateField(const DocInfo& info, uint16_t columnId);
+const Time& TimeField(const DocInfo& info, uint16_t columnId);
+
 // Text of one cell: "---" for 8/9 when their texts equal 5/6, and for 11..13 when the
 // printed stamp equals the created stamp; empty for ids outside 1..20.
 std::string GetFieldString(const DocInfo& info, uint16_t columnId);

@@ -7,7 +7,5 @@
 
 #include "docmgr/records/docinfo.h"
 
-// -1, 0, +1 for a against b by column `columnId` (1..20), ascending.
-int CompareByColumn(const DocInfo& a, const DocInfo& b, uint16_t columnId);
 // Sorts with an unstable sort; equal keys end up in no defined order.
 void SortRows(std::vector<std::unique_ptr<DocInfo>>& rows, uint16_t columnId, bool ascending);

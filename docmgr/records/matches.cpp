@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "docmgr/config/impldocconfig.h"
+#include "docmgr/records/docfields.h"
 #include "docmgr/tools/fsutil.h"
 #include "docmgr/tools/intl.h"
 #include "docmgr/tools/textcase.h"
@@ -14,48 +15,6 @@
 namespace {
 
 constexpr int COND_WILDCARD = 6;
-
-enum class FieldKind { Text, Number, Date, Time };
-
-FieldKind KindOf(uint16_t field)
-{
-    switch (field) {
-    case 1: case 3: case 4: case 7: case 10: case 13: case 14: case 15:
-    case 16: case 17: case 18: case 19:
-        return FieldKind::Text;
-    case 2:
-        return FieldKind::Number;
-    case 5: case 8: case 11:
-        return FieldKind::Date;
-    default:
-        return FieldKind::Time;  // 6, 9, 12, and also 0 and 20 and above (printedTime)
-    }
-}
-
-std::string TextOf(const DocInfo& info, uint16_t field)
-{
-    switch (field) {
-    case 1: return fsutil::FileName(info.entry);
-    case 3: return info.title;
-    case 4: return info.topic;
-    case 7: return info.author;
-    case 10: return info.modifiedBy;
-    case 13: return info.printedBy;
-    case 14: return info.comment;
-    case 15: return info.keywords;
-    default: return info.info[size_t(field - 16)];
-    }
-}
-
-Date DateOf(const DocInfo& info, uint16_t field)
-{
-    return field == 5 ? info.createdDate : field == 8 ? info.modifiedDate : info.printedDate;
-}
-
-Time TimeOf(const DocInfo& info, uint16_t field)
-{
-    return field == 6 ? info.createdTime : field == 9 ? info.modifiedTime : info.printedTime;
-}
 
 // Condition codes 0..5 on the comparison of document value against comparison value.
 bool Holds(int condition, std::strong_ordering c)
@@ -105,28 +64,33 @@ public:
         const std::string& value = group_.filterValue[r];
         const bool wild = condition == COND_WILDCARD;
 
-        switch (KindOf(field)) {
+        switch (KindOfColumn(field)) {
+        case FieldKind::Name:
         case FieldKind::Text: {
-            const std::string text = Cased(TextOf(info, field));
+            const std::string text =
+                Cased(field == COL_NAME ? fsutil::FileName(info.entry) : TextField(info, field));
             const std::string other = Cased(value);
             if (wild)
                 return wildcard::Match(other, text);
             return Holds(condition, text.compare(other) <=> 0);
         }
-        case FieldKind::Number: {
+        case FieldKind::Size: {
             const auto number = static_cast<uint32_t>(tokens::ToNumber(value));
             if (wild)  // the value's wildcards are lost on the way: equality
                 return wildcard::Match(std::to_string(number), std::to_string(info.size));
             return Holds(condition, info.size <=> number);
         }
         case FieldKind::Date: {
-            const Date date = DateOf(info, field);
+            const Date& date = DateField(info, field);
             if (wild)
                 return wildcard::Match(value, intl::FormatDate(date));
             return Holds(condition, date.GetDate() <=> group_.filterDate[r]);
         }
-        case FieldKind::Time: {
-            const Time time = TimeOf(info, field);
+        // Codes 0 and 20 and above compare the printed time.
+        case FieldKind::Time:
+        case FieldKind::Directory:
+        case FieldKind::None: {
+            const Time& time = TimeField(info, field);
             if (wild)
                 return wildcard::Match(value, intl::FormatTime(time));
             return Holds(condition, time.GetTime() <=> static_cast<int32_t>(group_.filterTime[r]));

@@ -97,18 +97,3 @@ TEST_F(SaveTest, RemovingAGroupRenumbersTheSections)
     EXPECT_EQ(saved.ReadKey("VIEWMODE"), "SINGLE");
     EXPECT_EQ(saved.ReadKey("ACTUALGROUP"), "3");
 }
-
-TEST_F(SaveTest, ExportOfANewConfiguration)
-{
-    WriteFile("");
-    Config config(Path());
-    ImplDocConfig docConfig(&config, "*.odt");
-    const std::string expected = "@DocManager[2.1][F][1][2][" + docConfig.WorkingGroup().Export() +
-                                 "}[" + docConfig.Group(0).Export() + "}!";
-    EXPECT_EQ(docConfig.Export(), expected);
-    EXPECT_EQ(docConfig.Group(0).Export().substr(0, 22), "Standard;General;[][][");
-
-    docConfig.singleView = true;
-    docConfig.actualGroup = 0;
-    EXPECT_EQ(docConfig.Export().substr(0, 25), "@DocManager[2.1][T][0][2]");
-}

@@ -41,6 +41,13 @@ TEST_F(ManagerConfigTest, EmptyFileMakesAndSavesAFirstGroup)
         EXPECT_EQ(docConfig.Group(0).section, ResString(15716));
         EXPECT_EQ(docConfig.WorkingGroup().groupName, ResString(15717));
         EXPECT_EQ(docConfig.WorkingGroup().filterFiles, "*.odt");
+        // The one-line export: header, working group, then the list.
+        EXPECT_EQ(docConfig.Export(), "@DocManager[2.1][F][1][2][" + docConfig.WorkingGroup().Export() +
+                                          "}[" + docConfig.Group(0).Export() + "}!");
+        EXPECT_EQ(docConfig.Group(0).Export().substr(0, 22), "Standard;General;[][][");
+        docConfig.singleView = true;
+        docConfig.actualGroup = 0;
+        EXPECT_EQ(docConfig.Export().substr(0, 25), "@DocManager[2.1][T][0][2]");
     }
     ASSERT_EQ(messages.size(), 1u);
     EXPECT_EQ(messages[0], ResString(15721));

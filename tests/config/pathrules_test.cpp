@@ -3,13 +3,11 @@
 
 #include "docmgr/config/impldocconfig.h"
 #include "docmgr/config/pathrules.h"
-#include "docmgr/tools/config.h"
-#include "tests/config/configfixture.h"
+#include "docmgr/tools/resmgr.h"
 
-using PathRulesTest = ConfigFileTest;
-
-TEST_F(PathRulesTest, SubdirectoryMarker)
+TEST(PathRules, SubdirectoryMarker)
 {
+    ResModule module(Language::English);  // the marker is one of its texts
     EXPECT_TRUE(TestSub("/**"));
     EXPECT_EQ(WoutSub("/**"), "");
     EXPECT_FALSE(TestSub("/*"));
@@ -24,11 +22,10 @@ TEST_F(PathRulesTest, SubdirectoryMarker)
     }
 }
 
-TEST_F(PathRulesTest, ExceptionListRunsOnePastItsLastEntry)
+TEST(PathRules, ExceptionListRunsOnePastItsLastEntry)
 {
-    WriteFile("");
-    Config config(Path());
-    ImplDocConfig docConfig(&config, "*");
+    ResModule module(Language::English);
+    ImplDocConfig docConfig(nullptr, "*");
     EXPECT_EQ(docConfig.GetExceptionCount(), 0u);
     EXPECT_TRUE(docConfig.IsExceptionPath(""));
     EXPECT_FALSE(docConfig.IsExceptionPath("/tmp"));

@@ -23,12 +23,16 @@ TEST_F(IndexTest, CollectTakesExistingDirectoriesInPathListOrder)
 
 TEST_F(IndexTest, CollectFiltersAndSortsByTheWorkingGroup)
 {
-    for (const char* name : {"b.odt", "c.odt", "a.odt"}) {
-        DocInfo info = TestSource::Sample(name);
-        info.title = name[0] == 'c' ? "Other" : "Plan";
-        source.known[name] = info;
+    auto record = [this](const char* name, const char* title) {
         Doc(name);
-    }
+        return indeximage::SampleRecord(name).Text(indeximage::TITLE, 63, title);
+    };
+    // Without a sort column rows keep the index order.
+    WriteIndex(Image({record("b.odt", "Plan"), record("c.odt", "Other"), record("a.odt", "Plan")}));
+    ASSERT_EQ(config.WorkingGroup().sortColumnId, NO_COLUMN);
+    rows.CollectFiles(dir.Path());
+    EXPECT_EQ(RowNames(), (Names{"b.odt", "c.odt", "a.odt"}));
+
     DocGroupConfig& group = config.WorkingGroup();
     group.sortColumnId = 1;
     group.sortAscending = false;
@@ -73,15 +77,4 @@ TEST_F(IndexTest, SelectedRowsAreWalkedAndRemovedRowsLeaveTheIndex)
     EXPECT_EQ(rows.RowRemoved(dir.PathOf("b.odt")), std::vector<long>{1});
     EXPECT_EQ(RowNames(), (Names{"a.odt", "c.odt"}));
     EXPECT_EQ(Index(), index);
-}
-
-TEST_F(IndexTest, WithoutSortColumnRowsKeepIndexOrder)
-{
-    using indeximage::SampleRecord;
-    for (const char* name : {"a.odt", "b.odt", "c.odt"})
-        Doc(name);
-    WriteIndex(Image({SampleRecord("b.odt"), SampleRecord("c.odt"), SampleRecord("a.odt")}));
-    ASSERT_EQ(config.WorkingGroup().sortColumnId, NO_COLUMN);
-    rows.CollectFiles(dir.Path());
-    EXPECT_EQ(RowNames(), (Names{"b.odt", "c.odt", "a.odt"}));
 }

@@ -1,7 +1,4 @@
 // Reading a directory with its subdirectories.
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <filesystem>
 
 #include "tests/records/indextestbase.h"
@@ -41,17 +38,4 @@ TEST_F(IndexTest, LinkCycleIsNotFollowedAndExceptionPathsAreSkipped)
     ReadDir(true);
     EXPECT_EQ(RowNames(), (Names{"a.odt", "b.odt"}));
     EXPECT_FALSE(dir.Exists("skip/.docindex"));
-}
-
-TEST_F(IndexTest, UnreadableSubdirectoryIsSkipped)
-{
-    if (geteuid() == 0)
-        GTEST_SKIP() << "root reads any directory";
-    Doc("a.odt");
-    Doc("closed/b.odt");
-    Doc("open/c.odt");
-    chmod(dir.PathOf("closed").c_str(), 0);
-
-    ReadDir(true);
-    EXPECT_EQ(RowNames(), (Names{"a.odt", "c.odt"}));
 }

@@ -26,12 +26,13 @@ protected:
     bool Passes(const DocInfo& doc) const { return Matches(doc, config); }
 };
 
-DocInfo Doc(const std::string& title, uint32_t size = 10)
+DocInfo Doc(const std::string& title, uint32_t size = 10, const std::string& author = {})
 {
     DocInfo info;
     info.entry = "/docs/" + title + ".odt";
     info.title = title;
     info.size = size;
+    info.author = author;
     return info;
 }
 
@@ -44,67 +45,55 @@ TEST_F(MatchesTest, TextFiltersCaseAndWhatPutsAFilterInForce)
     group.filterFiles = "*.odt";
     EXPECT_FALSE(FilterInForce(group)) << "case flag and pattern alone";
     EXPECT_TRUE(Passes(Doc("anything")));
-
     group.filterTitle = "Plan";
     EXPECT_TRUE(FilterInForce(group));
-    EXPECT_TRUE(Passes(Doc("Plan")));
-    EXPECT_FALSE(Passes(Doc("plan")));
-    group.filterSensitive = false;
-    EXPECT_TRUE(Passes(Doc("PLAN")));
-    EXPECT_FALSE(Passes(Doc("Plans")));
-    group.filterTitle = "*\xC3\xA9t\xC3\xA9*";  // upper-casing is not ASCII-only
-    EXPECT_TRUE(Passes(Doc("Un \xC3\x89T\xC3\x89 chaud")));
 
-    // Keywords: alternatives split at ";", else at ",".
-    group.filterTitle.clear();
-    DocInfo doc = Doc("x");
-    doc.keywords = "beta";
-    group.filterKeywords = "alpha;beta";
-    EXPECT_TRUE(Passes(doc));
-    group.filterKeywords = "alpha,beta";
-    EXPECT_TRUE(Passes(doc));
-    doc.keywords = "alpha beta";
-    EXPECT_FALSE(Passes(doc));
+    // Upper-casing is not ASCII-only; keywords are alternatives split at ";", else at ",".
+    const struct { bool sensitive; const char* title; const char* keywords; const char* docTitle;
+                   const char* docKeywords; bool passes; } cases[] = {
+        {true, "Plan", "", "Plan", "", true},   {true, "Plan", "", "plan", "", false},
+        {false, "Plan", "", "PLAN", "", true},  {false, "Plan", "", "Plans", "", false},
+        {false, "*\xC3\xA9t\xC3\xA9*", "", "Un \xC3\x89T\xC3\x89 chaud", "", true},
+        {false, "", "alpha;beta", "x", "beta", true}, {false, "", "alpha,beta", "x", "beta", true},
+        {false, "", "alpha,beta", "x", "alpha beta", false}};
+    for (const auto& c : cases) {
+        group.filterSensitive = c.sensitive;
+        group.filterTitle = c.title;
+        group.filterKeywords = c.keywords;
+        DocInfo doc = Doc(c.docTitle);
+        doc.keywords = c.docKeywords;
+        EXPECT_EQ(Passes(doc), c.passes) << c.title << c.keywords << " / " << c.docTitle << c.docKeywords;
+    }
 }
 
 TEST_F(MatchesTest, ConditionKinds)
 {
-    // Size with the wildcard condition is equality: the star is lost.
-    Row(0, 2, 6, "1*");
-    EXPECT_TRUE(Passes(Doc("x", 1)));
-    EXPECT_FALSE(Passes(Doc("x", 10)));
-
-    // Never modified (date 0) is less than any date.
-    DocInfo doc = Doc("x");
-    Row(0, 8, 4, {}, 19990101);
-    EXPECT_TRUE(Passes(doc));
-    doc.modifiedDate = Date(1, 1, 1999);
-    EXPECT_FALSE(Passes(doc));
-
-    // Field 20 and above, and 0, compare the printed time, signed.
-    doc.printedTime = Time(-int32_t(Time(1, 0, 0).GetTime()));
-    Row(0, 20, 4, {}, 0, 0);
-    EXPECT_TRUE(Passes(doc));
-    Row(0, 0, 3, {}, 0, -1000000);
-    EXPECT_FALSE(Passes(doc));
-
-    // Text rows compare whole texts byte-wise; condition 6 takes one pattern.
-    Row(0, 3, 5, "abc");
-    EXPECT_TRUE(Passes(Doc("abcd")));
-    EXPECT_FALSE(Passes(Doc("ABC"))) << "case is ignored unless respected";
-    Row(0, 3, 2, "b");
-    EXPECT_TRUE(Passes(Doc("B")));
-    EXPECT_FALSE(Passes(Doc("c")));
-    Row(0, 1, 6, "*.ODT;x");
-    EXPECT_FALSE(Passes(Doc("name")));
-
-    // Dates and times with the wildcard condition use the locale's texts.
-    doc.modifiedDate = Date(24, 12, 2021);
-    Row(0, 8, 6, intl::FormatDate(doc.modifiedDate));
-    EXPECT_TRUE(Passes(doc));
-    doc.createdTime = Time(12, 0, 0);
-    Row(0, 6, 6, intl::FormatTime(Time(12, 0, 0)));
-    EXPECT_TRUE(Passes(doc));
+    DocInfo stamped = Doc("x");
+    stamped.modifiedDate = Date(24, 12, 2021);
+    stamped.createdTime = Time(12, 0, 0);
+    stamped.printedTime = Time(-int32_t(Time(1, 0, 0).GetTime()));
+    DocInfo never = Doc("x");  // never modified: date 0
+    const struct { const char* what; uint16_t field; int condition; std::string value;
+                   uint32_t date; int32_t time; DocInfo doc; bool passes; } cases[] = {
+        {"size, the star is lost: equality", 2, 6, "1*", 0, 0, Doc("x", 1), true},
+        {"size, the star is lost", 2, 6, "1*", 0, 0, Doc("x", 10), false},
+        {"date 0 is less than any date", 8, 4, {}, 19990101, 0, never, true},
+        {"a later date", 8, 4, {}, 19990101, 0, stamped, false},
+        {"field 20 compares the printed time, signed", 20, 4, {}, 0, 0, stamped, true},
+        {"field 0 compares the printed time", 0, 3, {}, 0, -1000000, stamped, false},
+        {"whole texts", 3, 5, "abc", 0, 0, Doc("abcd"), true},
+        {"case is ignored unless respected", 3, 5, "abc", 0, 0, Doc("ABC"), false},
+        {"byte-wise order", 3, 2, "b", 0, 0, Doc("B"), true},
+        {"byte-wise order", 3, 2, "b", 0, 0, Doc("c"), false},
+        {"condition 6 takes one pattern", 1, 6, "*.ODT;x", 0, 0, Doc("name"), false},
+        {"file name by pattern", 1, 6, "*.ODT", 0, 0, Doc("name"), true},
+        {"date by the locale's text", 8, 6, intl::FormatDate(stamped.modifiedDate), 0, 0, stamped, true},
+        {"time by the locale's text", 6, 6, intl::FormatTime(Time(12, 0, 0)), 0, 0, stamped, true},
+    };
+    for (const auto& c : cases) {
+        Row(0, c.field, c.condition, c.value, c.date, c.time);
+        EXPECT_EQ(Passes(c.doc), c.passes) << c.what;
+    }
 }
 
 TEST_F(MatchesTest, TwoRowsTakeTheirLinkFromTheSortSettings)
@@ -132,29 +121,19 @@ TEST_F(MatchesTest, ThreeRowsBindAndTighterThanOr)
     Row(0, 3, 0, "A");
     Row(1, 2, 0, "1");
     Row(2, 7, 0, "Z");
-    auto doc = [](const std::string& title, uint32_t size, const std::string& author) {
-        DocInfo info = Doc(title, size);
-        info.author = author;
-        return info;
+    // Links 1 = AND, others OR: {2, 1} is r0 OR (r1 AND r2), {1, 2} is (r0 AND r1) OR r2.
+    const struct { std::array<int32_t, 2> link; DocInfo doc; bool passes; } cases[] = {
+        {{2, 1}, Doc("A", 0), true},       {{2, 1}, Doc("B", 1), false},
+        {{2, 1}, Doc("B", 1, "Z"), true},  {{1, 2}, Doc("A", 0), false},
+        {{1, 2}, Doc("A", 1), true},       {{1, 2}, Doc("B", 0, "Z"), true},
+        {{1, 1}, Doc("A", 1), false},      {{1, 1}, Doc("A", 1, "Z"), true},
+        {{3, 3}, Doc("B", 0, "Z"), true},  {{3, 3}, Doc("B", 0, "Y"), false},
     };
-
-    group.filterLink = {2, 1};  // r0 OR (r1 AND r2)
-    EXPECT_TRUE(Passes(doc("A", 0, "")));
-    EXPECT_FALSE(Passes(doc("B", 1, "")));
-    EXPECT_TRUE(Passes(doc("B", 1, "Z")));
-
-    group.filterLink = {1, 2};  // (r0 AND r1) OR r2
-    EXPECT_FALSE(Passes(doc("A", 0, "")));
-    EXPECT_TRUE(Passes(doc("A", 1, "")));
-    EXPECT_TRUE(Passes(doc("B", 0, "Z")));
-
-    group.filterLink = {1, 1};
-    EXPECT_FALSE(Passes(doc("A", 1, "")));
-    EXPECT_TRUE(Passes(doc("A", 1, "Z")));
-
-    group.filterLink = {3, 3};
-    EXPECT_TRUE(Passes(doc("B", 0, "Z")));
-    EXPECT_FALSE(Passes(doc("B", 0, "Y")));
+    for (const auto& c : cases) {
+        group.filterLink = c.link;
+        EXPECT_EQ(Passes(c.doc), c.passes)
+            << c.link[0] << "," << c.link[1] << " " << c.doc.title << c.doc.size << c.doc.author;
+    }
 }
 
 TEST_F(MatchesTest, ConditionAboveSixKeepsThePreviousResult)

@@ -1,6 +1,7 @@
 #pragma once
-// A temporary directory for tests: files with chosen contents and modification times,
+// A QTemporaryDir for tests, with files of chosen contents and modification times,
 // subdirectories and links; removed with everything in it when the object goes.
+#include <QTemporaryDir>
 #include <cstdint>
 #include <string>
 
@@ -8,12 +9,10 @@ class TempDir {
 public:
     // Creates a fresh directory under $TMPDIR (or /tmp).
     TempDir();
-    // Removes the tree, giving back permissions a test took away.
+    // Gives back permissions a test took away, so that the tree can be removed.
     ~TempDir();
-    TempDir(const TempDir&) = delete;
-    TempDir& operator=(const TempDir&) = delete;
 
-    // Absolute path of the directory, or of `relative` inside it.
+    // Absolute canonical path of the directory, or of `relative` inside it.
     const std::string& Path() const { return path_; }
     std::string PathOf(const std::string& relative) const;
 
@@ -34,14 +33,13 @@ public:
     void Remove(const std::string& relative) const;
 
 private:
+    QTemporaryDir dir_;
     std::string path_;
 };
 
-// Helpers on any path.
+// Helpers on any path; they fail the test when they cannot do their job.
 namespace testfs {
-// Sets the modification (and access) time with nanoseconds; fails the test when it cannot.
 void SetMTime(const std::string& path, int64_t seconds, long nanoseconds = 0);
-int64_t MTimeNs(const std::string& path);
 std::string ReadFile(const std::string& path);
 void WriteFile(const std::string& path, const std::string& contents);
 }  // namespace testfs

@@ -23,11 +23,6 @@ void TestSource::ReadAhead(const std::vector<std::string>& paths)
     askedOfPlan.clear();
 }
 
-int TestSource::PlanMisses() const
-{
-    return unplannedCalls + unaskedPlans + int(planned.size() - plannedAsked);
-}
-
 std::unique_ptr<DocInfo> TestSource::CreateDocInfo(const std::string& path)
 {
     ++totalCalls;
@@ -46,34 +41,4 @@ std::unique_ptr<DocInfo> TestSource::CreateDocInfo(const std::string& path)
     auto info = std::make_unique<DocInfo>(it != known.end() ? it->second : Sample(name));
     info->entry = path;
     return info;
-}
-
-void TestSource::CollectProgress(size_t dirs, size_t docs)
-{
-    ++progressCalls;
-    lastProgressDirs = dirs;
-    lastProgressDocs = docs;
-}
-
-int TestSource::CallsFor(const std::string& path) const
-{
-    const auto it = callsPerPath.find(path);
-    return it == callsPerPath.end() ? 0 : it->second;
-}
-
-void TestSource::ResetCalls()
-{
-    callsPerPath.clear();
-    totalCalls = 0;
-}
-
-long TestSelection::FirstSelected() const
-{
-    return rows.empty() ? -1 : *rows.begin();
-}
-
-long TestSelection::NextSelected(long row) const
-{
-    const auto it = rows.upper_bound(row);
-    return it == rows.end() ? -1 : *it;
 }

@@ -16,17 +16,29 @@ public:
     static DocInfo Sample(const std::string& name);
 
     std::unique_ptr<DocInfo> CreateDocInfo(const std::string& path) override;
-    void CollectProgress(size_t dirs, size_t docs) override;
+    void CollectProgress(size_t /*dirs*/, size_t docs) override
+    {
+        ++progressCalls;
+        lastProgressDocs = docs;
+    }
     // Checks the plan against the calls that follow it: each file asked for the first time
     // must be the next one planned, and a new plan (or the end) finds the last one done.
     void ReadAhead(const std::vector<std::string>& paths) override;
     // Calls that broke the last plan, and planned files never asked for.
-    int PlanMisses() const;
+    int PlanMisses() const { return unplannedCalls + unaskedPlans + int(planned.size() - plannedAsked); }
 
     // Calls for the file at `path` (absolute), and for all files.
-    int CallsFor(const std::string& path) const;
+    int CallsFor(const std::string& path) const
+    {
+        const auto it = callsPerPath.find(path);
+        return it == callsPerPath.end() ? 0 : it->second;
+    }
     int TotalCalls() const { return totalCalls; }
-    void ResetCalls();
+    void ResetCalls()
+    {
+        callsPerPath.clear();
+        totalCalls = 0;
+    }
 
     std::map<std::string, DocInfo> known;  // by file name
     std::set<std::string> notDocuments;    // file names answered with null
@@ -38,17 +50,19 @@ public:
     int unplannedCalls = 0;
     int unaskedPlans = 0;
     size_t progressCalls = 0;
-    size_t lastProgressDirs = 0;
     size_t lastProgressDocs = 0;
 };
 
 // A fixed set of selected rows.
 class TestSelection : public DocSelection {
 public:
-    TestSelection() = default;
-    explicit TestSelection(std::set<long> rows) : rows(std::move(rows)) {}
-    long FirstSelected() const override;
-    long NextSelected(long row) const override;
+    explicit TestSelection(std::set<long> rows = {}) : rows(std::move(rows)) {}
+    long FirstSelected() const override { return rows.empty() ? -1 : *rows.begin(); }
+    long NextSelected(long row) const override
+    {
+        const auto it = rows.upper_bound(row);
+        return it == rows.end() ? -1 : *it;
+    }
 
     std::set<long> rows;
 };
