@@ -89,6 +89,7 @@ TEST(WriterRoundTrip, EachFormatReadsBackWhatWasWritten)
                "<manifest:file-entry manifest:full-path=\"/\" manifest:media-type=\"x\"/></manifest:manifest>"},
               {"content.xml", "<c/>"}});
     WritePdf(dir.PathOf("noinfo.pdf"), "<< >>");
+    const std::vector<RawEntry> before = RawEntries(dir.PathOf("doc.odt"));
     const std::vector<std::string> names = {"doc.odt", "doc.docx", "doc.pdf", "nocustom.docx", "nometa.odt", "noinfo.pdf"};
     for (const std::string& name : names) {
         SCOPED_TRACE(name);
@@ -115,30 +116,21 @@ TEST(WriterRoundTrip, EachFormatReadsBackWhatWasWritten)
     EXPECT_NE(Entry(dir.PathOf("nometa.odt"), "META-INF/manifest.xml").find("manifest:full-path=\"meta.xml\""),
               std::string::npos);
     EXPECT_EQ(StrayFiles(dir, names), std::vector<std::string>{});
-}
 
-TEST(WriterRoundTrip, OtherPackageEntriesStayByteIdentical)
-{
-    TempDir dir;
-    const std::string path = dir.PathOf("keep.odt");
-    std::string error;
-    ASSERT_TRUE(WriteSampleOdt(path, FullSample(), error)) << error;
-    const std::vector<RawEntry> before = RawEntries(path);
-    ASSERT_TRUE(WriteDocMeta(path, EditedMeta(), error)) << error;
-    const std::vector<RawEntry> after = RawEntries(path);
+    // The other entries of a package stay byte-identical; the mimetype entry stays first
+    // and stored, so the package type is still found by offset.
+    const std::vector<RawEntry> after = RawEntries(dir.PathOf("doc.odt"));
     ASSERT_EQ(after.size(), before.size());
-    // The mimetype entry stays first and stored, so the package type is still found by offset.
-    EXPECT_EQ(after[0].name, "mimetype");
+    EXPECT_EQ(dir.Read("doc.odt").substr(30, 8), "mimetype");
     EXPECT_EQ(after[0].method, 0);
-    EXPECT_EQ(dir.Read("keep.odt").substr(30, 8), "mimetype");
     for (size_t i = 0; i < after.size(); ++i) {
         SCOPED_TRACE(after[i].name);
         EXPECT_EQ(after[i].name, before[i].name);
-        if (after[i].name == "meta.xml")
-            continue;
-        EXPECT_EQ(after[i].method, before[i].method);
-        EXPECT_EQ(after[i].crc, before[i].crc);
-        EXPECT_EQ(after[i].raw, before[i].raw);
+        if (after[i].name != "meta.xml") {
+            EXPECT_EQ(after[i].method, before[i].method);
+            EXPECT_EQ(after[i].crc, before[i].crc);
+            EXPECT_EQ(after[i].raw, before[i].raw);
+        }
     }
 }
 
@@ -200,11 +192,17 @@ TEST(WriterRoundTrip, RefusalsLeaveTheOriginalUntouched)
     WriteOle(dir.PathOf("legacy.doc"), FullSample());
     ASSERT_TRUE(WriteSample(dir.PathOf("text.rtf"), FullSample(), error)) << error;
 
-    const std::vector<std::pair<std::string, std::string>> cases = {
+    std::vector<std::pair<std::string, std::string>> cases = {
         {"readonly.odt", "read-only"}, {"locked.pdf", "encrypted"}, {"owner.pdf", "encrypted"},
         {"locked.docx", "encrypted"},  {"notes.txt", "cannot be changed"}, {"broken.pdf", "damaged"},
         {"broken.odt", "damaged"},     {"malformed.odt", "damaged"},  {"missing.odt", "does not exist"},
         {"legacy.doc", "of this kind"}, {"text.rtf", "of this kind"}};
+    if (::geteuid() != 0) {  // the superuser writes into read-only folders
+        dir.MakeDir("sub");
+        ASSERT_TRUE(WriteSampleDocx(dir.PathOf("sub/doc.docx"), FullSample(), error)) << error;
+        ::chmod(dir.PathOf("sub").c_str(), 0555);
+        cases.emplace_back("sub/doc.docx", "read-only");
+    }
     std::vector<std::string> names;
     for (const auto& [name, reason] : cases) {
         SCOPED_TRACE(name);
@@ -214,26 +212,10 @@ TEST(WriterRoundTrip, RefusalsLeaveTheOriginalUntouched)
         EXPECT_NE(error.find(reason), std::string::npos) << error;
         if (exists) {
             EXPECT_EQ(dir.Read(name), before);
-            names.push_back(name);
+            names.push_back(name.substr(0, name.find('/')));
         }
     }
     EXPECT_EQ(StrayFiles(dir, names), std::vector<std::string>{});
-}
-
-TEST(WriterRoundTrip, AReadOnlyFolderIsReported)
-{
-    if (::geteuid() == 0)
-        GTEST_SKIP() << "the superuser writes into read-only folders";
-    TempDir dir;
-    std::string error;
-    const std::string path = dir.PathOf("sub/doc.docx");
-    dir.MakeDir("sub");
-    ASSERT_TRUE(WriteSampleDocx(path, FullSample(), error)) << error;
-    const std::string before = testfs::ReadFile(path);
-    ::chmod(dir.PathOf("sub").c_str(), 0555);
-    EXPECT_FALSE(WriteDocMeta(path, EditedMeta(), error));
-    EXPECT_NE(error.find("read-only"), std::string::npos) << error;
-    EXPECT_EQ(testfs::ReadFile(path), before);
 }
 
 TEST(WriterRoundTrip, PdfXmpFollowsTheInfoDictionary)
