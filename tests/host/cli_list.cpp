@@ -97,12 +97,12 @@ TEST_F(CliListTest, TheIndexIsWrittenOnceThenUsedInsteadOfTheDocuments)
     GroupSpec group{.name = "Lib", .paths = Lib(), .sortColumn = 1, .columns = {1}};
     const std::string config = WriteConfig(ConfigText({group}));
     int64_t written = 0;
-    // The second listing comes from the index: the document may have turned to rubbish
-    // without its file time changing. The index keeps no reason why a document shows no
-    // information: it is found again.
+    // The second listing comes from the index (under the name given): the document may
+    // have turned to rubbish without its file time changing. The index keeps no reason why
+    // a document shows no information: it is found again.
     for (int pass = 0; pass < 2; ++pass) {
         SCOPED_TRACE(pass);
-        const RunResult json = List(config, {"--format", "json"});
+        const RunResult json = List(config, {"--format", "json", "--index-name", "my.idx"});
         ASSERT_EQ(json.status, 0) << json.err;
         const QJsonArray rows = QJsonDocument::fromJson(QByteArray::fromStdString(json.out)).array();
         ASSERT_EQ(rows.size(), 3) << json.out;
@@ -111,12 +111,13 @@ TEST_F(CliListTest, TheIndexIsWrittenOnceThenUsedInsteadOfTheDocuments)
         EXPECT_EQ(rows[1].toObject()["problem"].toString(), "not a zip");
         EXPECT_EQ(rows[2].toObject()["problem"].toString(), "encrypted");
         if (pass == 0) {
-            ASSERT_TRUE(dir.Exists("lib/.docindex"));
-            written = dir.MTimeNs("lib/.docindex");
+            ASSERT_TRUE(dir.Exists("lib/my.idx"));
+            written = dir.MTimeNs("lib/my.idx");
             dir.MakeFile("lib/a.odt", "rubbish", 1600000000 + 100);
         }
     }
-    EXPECT_EQ(dir.MTimeNs("lib/.docindex"), written) << "an index in use is not rewritten";
+    EXPECT_EQ(dir.MTimeNs("lib/my.idx"), written) << "an index in use is not rewritten";
+    EXPECT_FALSE(dir.Exists("lib/.docindex"));
 }
 
 TEST_F(CliListTest, StartPathsAreReadWhenTheGroupHasNoActivePath)
