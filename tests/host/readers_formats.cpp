@@ -44,8 +44,9 @@ TEST(ReadersFormats, EachFormatGivesItsFields)
         SCOPED_TRACE(c.name);
         const std::string name = c.name;
         std::string error;
-        if (name != "full.doc")
+        if (name != "full.doc") {
             ASSERT_TRUE(WriteSample(dir.PathOf(name), name.starts_with("never") ? unprinted : full, error)) << error;
+        }
         auto info = ReadDocInfo(dir.PathOf(name));
         ASSERT_NE(info, nullptr);
         EXPECT_EQ(info->entry, dir.PathOf(name));
@@ -238,8 +239,9 @@ TEST(ReadersFormats, ReadingAheadGivesWhatReadingGives)
         const std::unique_ptr<DocInfo> expected = ReadDocInfo(path);
         const std::unique_ptr<DocInfo> got = ahead.Take(path);
         ASSERT_EQ(got == nullptr, expected == nullptr) << path;
-        if (got)
+        if (got) {
             EXPECT_EQ(got->entry + " " + got->title, expected->entry + " " + expected->title);
+        }
     }
     ahead.Start(paths);  // dropped untaken, and gone cleanly with the object
 }
