@@ -224,7 +224,7 @@ TEST(ReadersFormats, ReadingAheadGivesWhatReadingGives)
     for (int i = 0; i < 12; ++i) {
         SampleDoc doc = FullSample();
         doc.title = "Doc " + std::to_string(i);
-        paths.push_back(dir.PathOf("d" + std::to_string(i) + (i % 3 == 0 ? ".odt" : i % 3 == 1 ? ".docx" : ".pdf")));
+        paths.push_back(dir.PathOf(std::to_string(i) + (i % 3 == 0 ? ".odt" : i % 3 == 1 ? ".docx" : ".pdf")));
         std::string error;
         ASSERT_TRUE(WriteSample(paths.back(), doc, error)) << error;
     }
