@@ -9,20 +9,11 @@ using CliArgsTest = CliTest;
 TEST_F(CliArgsTest, BadArgumentsExitWithTwoAndTheUsage)
 {
     const std::vector<QStringList> bad = {
-        {"--list", "--format", "xml"},
-        {"--list", "--columns", "0"},
-        {"--list", "--columns", "21"},
-        {"--list", "--columns", "3,,4"},
-        {"--list", "--columns", "title"},
-        {"--list", "--format"},
-        {"--list", "--export-config"},
-        {"--list", "--bogus"},
-        {"--list", "--print-paths"},
-        {"--list", "--index-name", "sub/idx"},
-        {"--list", "--list=yes"},
-        {"--group", "Standard"},
-        {"--export-config", "/some/path"},
-        {"--config="},
+        {"--list", "--format", "xml"},    {"--list", "--columns", "0"},     {"--list", "--columns", "21"},
+        {"--list", "--columns", "3,,4"},  {"--list", "--columns", "title"}, {"--list", "--format"},
+        {"--list", "--export-config"},    {"--list", "--bogus"},            {"--list", "--print-paths"},
+        {"--list", "--index-name", "sub/idx"}, {"--list", "--list=yes"},    {"--group", "Standard"},
+        {"--export-config", "/some/path"}, {"--config="},
     };
     for (const QStringList& args : bad) {
         const RunResult run = RunDocmanager(args, ConfigHome());
@@ -51,21 +42,6 @@ TEST_F(CliArgsTest, TheWindowWithoutADisplaySuggestsTheList)
     EXPECT_NE(run.err.find("display"), std::string::npos) << run.err;
     EXPECT_NE(run.err.find("--list"), std::string::npos) << run.err;
     EXPECT_FALSE(dir.Exists("xdg")) << "no configuration is made for a window never shown";
-}
-
-TEST_F(CliArgsTest, OptionsTakeTheirValueEitherWay)
-{
-    WriteDoc("lib/a.pdf", "Alpha", "Ann", 1);
-    const std::string config = WriteConfig(ConfigText({{.name = "Lib", .paths = dir.PathOf("lib")}}));
-    const RunResult spaced = RunDocmanager(
-        {"--list", "--config", QString::fromStdString(config), "--format", "tsv", "--columns", "3"},
-        ConfigHome());
-    const RunResult joined = RunDocmanager(
-        {"--list", "--config=" + QString::fromStdString(config), "--format=tsv", "--columns=3"},
-        ConfigHome());
-    EXPECT_EQ(spaced.status, 0) << spaced.err;
-    EXPECT_EQ(spaced.out, "Title\nAlpha\n");
-    EXPECT_EQ(joined.out, spaced.out);
 }
 
 }  // namespace

@@ -16,9 +16,9 @@ TEST_F(CliConfigTest, GroupOptionChoosesANamedGroup)
 {
     WriteDoc("first/1.odt", "In first", "A", 1);
     WriteDoc("second/2.odt", "In second", "A", 2);
-    const std::string config = WriteConfig(ConfigText(
-        {{.name = "First", .paths = dir.PathOf("first"), .columns = {3}},
-         {.name = "Second Group", .paths = dir.PathOf("second"), .columns = {3}}}));
+    const std::string text = ConfigText({{.name = "First", .paths = dir.PathOf("first"), .columns = {3}},
+                                         {.name = "Second Group", .paths = dir.PathOf("second"), .columns = {3}}});
+    const std::string config = WriteConfig(text);
 
     EXPECT_EQ(List(config, {"--format", "tsv"}).out, "Title\nIn first\n");
     const RunResult second = List(config, {"--format", "tsv", "--group", "Second Group"});
@@ -34,57 +34,44 @@ TEST_F(CliConfigTest, GroupOptionChoosesANamedGroup)
     EXPECT_NE(unknown.err.find("\"Second Group\""), std::string::npos) << unknown.err;
 
     // Listing leaves the configuration as it was.
-    EXPECT_EQ(dir.Read("docmanager.cfg"), ConfigText(
-        {{.name = "First", .paths = dir.PathOf("first"), .columns = {3}},
-         {.name = "Second Group", .paths = dir.PathOf("second"), .columns = {3}}}));
+    EXPECT_EQ(dir.Read("docmanager.cfg"), text);
 }
 
-TEST_F(CliConfigTest, AnEmptyConfigurationGetsItsFirstGroup)
+TEST_F(CliConfigTest, AMissingOrEmptyConfigurationGetsItsFirstGroup)
 {
     WriteDoc("lib/a.docx", "Alpha", "A", 1);
-    const std::string config = WriteConfig("");
-    const RunResult run = List(config, {"--format", "tsv", "--columns", "3",
-                                        QString::fromStdString(dir.PathOf("lib"))});
+    const QStringList args{"--list", "--format", "tsv", "--columns", "3", QString::fromStdString(dir.PathOf("lib"))};
+    // None yet: it is made under the user's configuration directory.
+    ASSERT_FALSE(dir.Exists("xdg"));
+    RunResult run = RunDocmanager(args, ConfigHome());
     EXPECT_EQ(run.status, 0) << run.err;
     EXPECT_EQ(run.out, "Title\nAlpha\n");
-    EXPECT_NE(run.err.find("No document manager settings were found"), std::string::npos)
-        << run.err;
-    const std::string saved = dir.Read("docmanager.cfg");
+    EXPECT_NE(run.err.find("No document manager settings were found"), std::string::npos) << run.err;
+    const std::string saved = dir.Read("xdg/docmanager/docmanager.cfg");
     EXPECT_NE(saved.find("[GROUPS]\n0=Standard\n"), std::string::npos) << saved;
     EXPECT_NE(saved.find("FILLTERCONDITION0="), std::string::npos);
 
     // The next run finds the group and says nothing.
-    const RunResult again = List(config, {"--group", "Standard", "--columns", "3",
-                                          QString::fromStdString(dir.PathOf("lib"))});
-    EXPECT_EQ(again.status, 0);
-    EXPECT_EQ(again.err, "");
-    EXPECT_EQ(again.out, "Title\nAlpha\n");
-}
+    run = RunDocmanager(args + QStringList{"--group", "Standard"}, ConfigHome());
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.err, "");
+    EXPECT_EQ(run.out, "Title\nAlpha\n");
 
-TEST_F(CliConfigTest, DefaultConfigurationIsMadeUnderTheUsersConfigDirectory)
-{
-    ASSERT_FALSE(dir.Exists("xdg"));
-    const RunResult run = RunDocmanager({"--list", QString::fromStdString(dir.Path())}, ConfigHome());
-    EXPECT_EQ(run.status, 0) << run.err;
-    EXPECT_TRUE(dir.Exists("xdg/docmanager/docmanager.cfg"));
-    EXPECT_NE(dir.Read("xdg/docmanager/docmanager.cfg").find("GROUPNAME=Standard"),
-              std::string::npos);
-
-    // --config with a missing folder: the folder is made too.
-    const std::string nested = dir.PathOf("a/b/c.cfg");
-    const RunResult exported = RunDocmanager({"--export-config", "--config",
-                                              QString::fromStdString(nested)}, ConfigHome());
+    // An empty file is filled alike; for a missing one the folder is made too.
+    const std::string empty = WriteConfig("", "empty.cfg");
+    EXPECT_EQ(List(empty, {"--format", "tsv", "--columns", "3", args.last()}).out, "Title\nAlpha\n");
+    EXPECT_NE(dir.Read("empty.cfg").find("[GROUPS]\n0=Standard\n"), std::string::npos);
+    const RunResult exported =
+        RunDocmanager({"--export-config", "--config", QString::fromStdString(dir.PathOf("a/b/c.cfg"))}, ConfigHome());
     EXPECT_EQ(exported.status, 0) << exported.err;
     EXPECT_TRUE(dir.Exists("a/b/c.cfg"));
 }
 
 TEST_F(CliConfigTest, ExportConfigPrintsTheOneLineImage)
 {
-    const std::string config = WriteConfig(ConfigText(
-        {{.name = "Reports", .section = "Work", .paths = "/data/reports/**", .guis = "1"}},
-        0));
-    const RunResult run = RunDocmanager({"--export-config", "--config",
-                                         QString::fromStdString(config)}, ConfigHome());
+    const std::string config =
+        WriteConfig(ConfigText({{.name = "Reports", .section = "Work", .paths = "/data/reports/**", .guis = "1"}}, 0));
+    const RunResult run = RunDocmanager({"--export-config", "--config", QString::fromStdString(config)}, ConfigHome());
     ASSERT_EQ(run.status, 0) << run.err;
     EXPECT_EQ(run.out.rfind("@DocManager[2.1][F][0][2][", 0), 0u) << run.out;
     EXPECT_EQ(run.out.substr(run.out.size() - 3), "}!\n");

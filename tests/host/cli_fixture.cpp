@@ -7,7 +7,6 @@
 #include <QProcessEnvironment>
 #include <cstdlib>
 
-#include "docmgr/tools/tokens.h"
 #include "host/readers/samplewriter.h"
 
 namespace clitest {
@@ -80,22 +79,6 @@ std::string ConfigText(const std::vector<GroupSpec>& groups, int actualGroup)
         text += "PATHS=" + group.paths + "\nGUIS=" + group.guis + "\n";
     }
     return text;
-}
-
-std::vector<std::string> Lines(const std::string& text)
-{
-    std::vector<std::string> lines = tokens::Split(text, '\n');
-    if (!lines.empty() && lines.back().empty())
-        lines.pop_back();
-    return lines;
-}
-
-std::vector<std::vector<std::string>> TsvRows(const std::string& text)
-{
-    std::vector<std::vector<std::string>> rows;
-    for (const std::string& line : Lines(text))
-        rows.push_back(tokens::Split(line, '\t'));
-    return rows;
 }
 
 std::string CliTest::WriteDoc(const std::string& relative, const std::string& title,

@@ -43,10 +43,6 @@ struct GroupSpec {
 // A whole configuration file: GENERAL (ACTUALGROUP as given), GROUPS and the sections.
 std::string ConfigText(const std::vector<GroupSpec>& groups, int actualGroup = 1);
 
-// The lines of `text`, each split at tabs.
-std::vector<std::vector<std::string>> TsvRows(const std::string& text);
-std::vector<std::string> Lines(const std::string& text);
-
 class CliTest : public ::testing::Test {
 protected:
     // A document written by the sample writer (format by extension) with this title and

@@ -50,26 +50,6 @@ void WriteOdfMeta(const std::string& path, const std::string& metaChildren)
     WriteZip(path, {{"mimetype", "application/vnd.oasis.opendocument.text"}, {"meta.xml", meta}});
 }
 
-void WriteOoxmlCore(const std::string& path, const std::string& coreChildren)
-{
-    const std::string types =
-        "<?xml version=\"1.0\"?><Types xmlns=\"http://schemas.openxmlformats.org/package/2006/content-types\">"
-        "<Default Extension=\"rels\" ContentType=\"application/vnd.openxmlformats-package.relationships+xml\"/>"
-        "<Default Extension=\"xml\" ContentType=\"application/xml\"/>"
-        "<Override PartName=\"/docProps/core.xml\" "
-        "ContentType=\"application/vnd.openxmlformats-package.core-properties+xml\"/></Types>";
-    const std::string rels =
-        "<?xml version=\"1.0\"?><Relationships xmlns=\"http://schemas.openxmlformats.org/package/2006/relationships\">"
-        "<Relationship Id=\"rId1\" Type=\"http://schemas.openxmlformats.org/package/2006/relationships/"
-        "metadata/core-properties\" Target=\"docProps/core.xml\"/></Relationships>";
-    const std::string core =
-        "<?xml version=\"1.0\"?><cp:coreProperties "
-        "xmlns:cp=\"http://schemas.openxmlformats.org/package/2006/metadata/core-properties\" "
-        "xmlns:dc=\"http://purl.org/dc/elements/1.1/\" xmlns:dcterms=\"http://purl.org/dc/terms/\">"
-        + coreChildren + "</cp:coreProperties>";
-    WriteZip(path, {{"[Content_Types].xml", types}, {"_rels/.rels", rels}, {"docProps/core.xml", core}});
-}
-
 void WritePdf(const std::string& path, const std::string& infoDict, const char* userPassword,
               const char* ownerPassword, const std::string& xmpPacket)
 {

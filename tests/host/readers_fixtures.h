@@ -22,8 +22,6 @@ void WriteZip(const std::string& path, const std::vector<std::pair<std::string, 
 // An ODF package holding only a mimetype entry and a meta.xml with `metaChildren` inside
 // <office:meta>.
 void WriteOdfMeta(const std::string& path, const std::string& metaChildren);
-// An OOXML package with the usual part lists and a core part with `coreChildren`.
-void WriteOoxmlCore(const std::string& path, const std::string& coreChildren);
 
 // A one-page PDF whose Info dictionary is `infoDict` (PDF syntax), encrypted when a
 // password is given, with `xmpPacket` as its metadata stream unless that is empty.

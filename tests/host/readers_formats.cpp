@@ -2,8 +2,6 @@
 // the tests build.
 #include <gtest/gtest.h>
 
-#include <QTimeZone>
-
 #include <algorithm>
 
 #include "host/readers/docreader.h"
@@ -19,140 +17,62 @@ namespace {
 
 using Infos = std::array<std::string, 4>;
 
-std::unique_ptr<DocInfo> WriteAndRead(TempDir& dir, const std::string& name, const SampleDoc& doc)
-{
-    std::string error;
-    EXPECT_TRUE(WriteSample(dir.PathOf(name), doc, error)) << error;
-    auto info = ReadDocInfo(dir.PathOf(name));
-    EXPECT_NE(info, nullptr) << name;
-    return info;
-}
-
-// The fields all formats keep. libgsf writes user-defined properties in an order of its
-// own, so for legacy Office files only the values are compared.
-void ExpectCommonFields(const DocInfo& info, TempDir& dir, const std::string& name, bool infoInOrder = true)
-{
-    const SampleDoc doc = FullSample();
-    EXPECT_EQ(info.entry, dir.PathOf(name));
-    EXPECT_EQ(info.size, dir.Size(name));
-    EXPECT_EQ(info.title, doc.title);
-    EXPECT_EQ(info.topic, doc.topic);
-    EXPECT_EQ(info.author, doc.author);
-    EXPECT_EQ(info.keywords, "café, budget, 2019");
-    EXPECT_EQ(info.createdDate, Date(6, 5, 2019));
-    EXPECT_EQ(info.createdTime, Time(7, 8, 9));
-    EXPECT_EQ(info.modifiedDate, Date(12, 11, 2020));
-    EXPECT_EQ(info.modifiedTime, Time(13, 14, 15));
-    Infos infos = info.info;
-    if (!infoInOrder)
-        std::sort(infos.begin(), infos.end());
-    EXPECT_EQ(infos, (infoInOrder ? Infos{"Crème", "ACME", "open", "Li Wei"} : Infos{"ACME", "Crème", "Li Wei", "open"}));
-}
-
 }  // namespace
 
-TEST(ReadersFormats, OdfTextGivesEveryMappedField)
+TEST(ReadersFormats, EachFormatGivesItsFields)
 {
     TempDir dir;
-    auto info = WriteAndRead(dir, "full.odt", FullSample());
-    ASSERT_NE(info, nullptr);
-    ExpectCommonFields(*info, dir, "full.odt");
-    EXPECT_EQ(info->modifiedBy, "José García");
-    EXPECT_EQ(info->comment, "Zahlen <geprüft> & freigegeben");
-    EXPECT_EQ(info->printedDate, Date(1, 12, 2020));
-    EXPECT_EQ(info->printedTime, Time(16, 17, 18));
-    EXPECT_EQ(info->printedBy, "Jörg Müller");
-    EXPECT_FALSE(info->NeverPrinted());
-}
-
-TEST(ReadersFormats, DocxGivesCoreAndCustomProperties)
-{
-    TempDir dir;
-    auto info = WriteAndRead(dir, "full.docx", FullSample());
-    ASSERT_NE(info, nullptr);
-    ExpectCommonFields(*info, dir, "full.docx");
-    EXPECT_EQ(info->modifiedBy, "José García");
-    EXPECT_EQ(info->comment, "Zahlen <geprüft> & freigegeben");
-    // Stored in UTC, shown in local time again.
-    EXPECT_EQ(info->printedDate, Date(1, 12, 2020));
-    EXPECT_EQ(info->printedTime, Time(16, 17, 18));
-    EXPECT_EQ(info->printedBy, "");  // OOXML does not record who printed
-}
-
-TEST(ReadersFormats, PdfGivesTheInfoDictionary)
-{
-    TempDir dir;
-    auto info = WriteAndRead(dir, "full.pdf", FullSample());
-    ASSERT_NE(info, nullptr);
-    ExpectCommonFields(*info, dir, "full.pdf");
-    EXPECT_EQ(info->modifiedBy, "");
-    EXPECT_EQ(info->comment, "");
-    // A PDF has no printed stamp, so it counts as never printed.
-    EXPECT_TRUE(info->NeverPrinted());
-    EXPECT_EQ(info->printedBy, "Zoë Martin");
-}
-
-TEST(ReadersFormats, NeverPrintedShowsCreatedStampAndAuthor)
-{
-    TempDir dir;
-    SampleDoc doc = FullSample();
-    doc.printed.reset();
-    doc.printedBy.clear();
-    for (const char* name : {"never.odt", "never.docx", "never.pdf"}) {
-        auto info = WriteAndRead(dir, name, doc);
+    const SampleDoc full = FullSample();
+    SampleDoc unprinted = full;
+    unprinted.printed.reset();
+    unprinted.printedBy.clear();
+    WriteOle(dir.PathOf("full.doc"), full);
+    // Never printed (a PDF has no printed stamp): the printed stamp is the created one,
+    // by the author. Only ODF records who printed. User fields keep their recorded order.
+    const struct {
+        const char* name;
+        bool neverPrinted;
+        bool hasModifiedByAndComment;
+        const char* printedBy;
+    } cases[] = {
+        {"full.odt", false, true, "Jörg Müller"}, {"full.fodt", false, true, "Jörg Müller"},
+        {"full.docx", false, true, ""},           {"full.rtf", false, true, ""},
+        {"full.doc", false, true, ""},            {"full.pdf", true, false, "Zoë Martin"},
+        {"never.odt", true, true, "Zoë Martin"},  {"never.docx", true, true, "Zoë Martin"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        const std::string name = c.name;
+        std::string error;
+        if (name != "full.doc") {
+            ASSERT_TRUE(WriteSample(dir.PathOf(name), name.starts_with("never") ? unprinted : full, error)) << error;
+        }
+        auto info = ReadDocInfo(dir.PathOf(name));
         ASSERT_NE(info, nullptr);
-        EXPECT_EQ(info->printedDate, Date(6, 5, 2019)) << name;
-        EXPECT_EQ(info->printedTime, Time(7, 8, 9)) << name;
-        EXPECT_EQ(info->printedBy, "Zoë Martin") << name;
+        EXPECT_EQ(info->entry, dir.PathOf(name));
+        EXPECT_EQ(info->size, dir.Size(name));
+        EXPECT_EQ(info->title, full.title);
+        EXPECT_EQ(info->topic, full.topic);
+        EXPECT_EQ(info->author, full.author);
+        EXPECT_EQ(info->keywords, "café, budget, 2019");
+        EXPECT_EQ(info->createdDate, Date(6, 5, 2019));
+        EXPECT_EQ(info->createdTime, Time(7, 8, 9));
+        EXPECT_EQ(info->modifiedDate, Date(12, 11, 2020));
+        EXPECT_EQ(info->modifiedTime, Time(13, 14, 15));
+        EXPECT_EQ(info->modifiedBy, c.hasModifiedByAndComment ? full.modifiedBy : "");
+        EXPECT_EQ(info->comment, c.hasModifiedByAndComment ? full.comment : "");
+        EXPECT_EQ(info->NeverPrinted(), c.neverPrinted);
+        EXPECT_EQ(info->printedDate, c.neverPrinted ? Date(6, 5, 2019) : Date(1, 12, 2020));
+        EXPECT_EQ(info->printedTime, c.neverPrinted ? Time(7, 8, 9) : Time(16, 17, 18));
+        EXPECT_EQ(info->printedBy, c.printedBy);
+        // libgsf writes user-defined properties in an order of its own: only the values count.
+        Infos infos = info->info, expected{"Crème", "ACME", "open", "Li Wei"};
+        if (name == "full.doc") {
+            std::sort(infos.begin(), infos.end());
+            std::sort(expected.begin(), expected.end());
+        }
+        EXPECT_EQ(infos, expected);
     }
-    // Without any stamp at all, the printed stamp stays unset like the created one.
-    dir.MakeFile("bare.odt", "");
-    WriteOdfMeta(dir.PathOf("bare.odt"), "<dc:title>Bare</dc:title>");
-    auto bare = ReadDocInfo(dir.PathOf("bare.odt"));
-    ASSERT_NE(bare, nullptr);
-    EXPECT_EQ(bare->createdDate, Date());
-    EXPECT_EQ(bare->printedDate, Date());
-    EXPECT_EQ(bare->printedTime, Time());
-    EXPECT_EQ(bare->printedBy, "");
-}
-
-TEST(ReadersFormats, ZonedStampsBecomeLocalTime)
-{
-    TempDir dir;
-    const QDateTime india(QDate(2021, 3, 4), QTime(5, 6, 7, 890), QTimeZone(5 * 3600 + 1800));
-    const QDateTime pacific(QDate(2021, 12, 31), QTime(23, 30, 0), QTimeZone(-8 * 3600));
-    const QDateTime utc(QDate(2022, 7, 1), QTime(0, 15, 0), QTimeZone::utc());
-
-    WriteOdfMeta(dir.PathOf("zones.odt"),
-                 "<meta:creation-date>2021-03-04T05:06:07.89+05:30</meta:creation-date>"
-                 "<dc:date>2021-12-31T23:30:00-08:00</dc:date>"
-                 "<meta:print-date>2022-07-01T00:15:00Z</meta:print-date>");
-    auto odf = ReadDocInfo(dir.PathOf("zones.odt"));
-    ASSERT_NE(odf, nullptr);
-    EXPECT_EQ(odf->createdDate, DateOf(india));
-    EXPECT_EQ(odf->createdTime, TimeOf(india));
-    EXPECT_EQ(odf->createdTime.Get100Sec(), 89u);
-    EXPECT_EQ(odf->modifiedDate, DateOf(pacific));
-    EXPECT_EQ(odf->modifiedTime, TimeOf(pacific));
-    EXPECT_EQ(odf->printedDate, DateOf(utc));
-    EXPECT_EQ(odf->printedTime, TimeOf(utc));
-
-    WriteOoxmlCore(dir.PathOf("zones.docx"),
-                   "<dcterms:created>2021-12-31T23:30:00-08:00</dcterms:created>"
-                   "<dcterms:modified>2022-07-01T00:15:00Z</dcterms:modified>");
-    auto ooxml = ReadDocInfo(dir.PathOf("zones.docx"));
-    ASSERT_NE(ooxml, nullptr);
-    EXPECT_EQ(ooxml->createdDate, DateOf(pacific));
-    EXPECT_EQ(ooxml->createdTime, TimeOf(pacific));
-    EXPECT_EQ(ooxml->modifiedDate, DateOf(utc));
-    EXPECT_EQ(ooxml->modifiedTime, TimeOf(utc));
-
-    // A stamp without zone is local already and kept as it stands.
-    WriteOdfMeta(dir.PathOf("local.odt"), "<meta:creation-date>1999-12-31T23:59:58</meta:creation-date>");
-    auto local = ReadDocInfo(dir.PathOf("local.odt"));
-    ASSERT_NE(local, nullptr);
-    EXPECT_EQ(local->createdDate, Date(31, 12, 1999));
-    EXPECT_EQ(local->createdTime, Time(23, 59, 58));
 }
 
 TEST(ReadersFormats, ContentDecidesWhetherAFileIsADocument)
@@ -172,11 +92,8 @@ TEST(ReadersFormats, ContentDecidesWhetherAFileIsADocument)
     dir.MakeFile("empty", "");
     WriteZip(dir.PathOf("archive.zip"), {{"readme.txt", "old files"}});
     dir.MakeDir("folder.odt");
-    EXPECT_EQ(ReadDocInfo(dir.PathOf("notes.txt")), nullptr);
-    EXPECT_EQ(ReadDocInfo(dir.PathOf("empty")), nullptr);
-    EXPECT_EQ(ReadDocInfo(dir.PathOf("archive.zip")), nullptr);
-    EXPECT_EQ(ReadDocInfo(dir.PathOf("folder.odt")), nullptr);
-    EXPECT_EQ(ReadDocInfo(dir.PathOf("missing.pdf")), nullptr);
+    for (const char* name : {"notes.txt", "empty", "archive.zip", "folder.odt", "missing.pdf"})
+        EXPECT_EQ(ReadDocInfo(dir.PathOf(name)), nullptr) << name;
 }
 
 TEST(ReadersFormats, OoxmlPartsAreFoundThroughTheRelationships)
@@ -223,39 +140,11 @@ TEST(ReadersFormats, OnlyTheFirstFourUserFieldsAreRead)
     EXPECT_EQ(info->info, (Infos{"v1", "v2", "v3", "v4"}));
     // Keywords are joined wherever they stand; empty ones are left out.
     EXPECT_EQ(info->keywords, "one, two");
-}
-
-TEST(ReadersFormats, PdfFieldsComeInRecordedOrderThenByName)
-{
-    TempDir dir;
-    SampleDoc doc = FullSample();
-    doc.info = {{"Zulu", "z"}, {"Alpha", "a"}};
-    auto ordered = WriteAndRead(dir, "ordered.pdf", doc);
-    ASSERT_NE(ordered, nullptr);
-    EXPECT_EQ(ordered->info, (Infos{"z", "a", "", ""}));
-}
-
-TEST(ReadersFormats, FlatOdfRtfAndLegacyOfficeGiveTheirFields)
-{
-    TempDir dir;
-    std::string error;
-    ASSERT_TRUE(WriteSample(dir.PathOf("full.fodt"), FullSample(), error)) << error;
-    ASSERT_TRUE(WriteSample(dir.PathOf("full.rtf"), FullSample(), error)) << error;
-    WriteOle(dir.PathOf("full.doc"), FullSample());
-    // Only ODF records who printed.
-    const std::vector<std::pair<std::string, std::string>> cases = {
-        {"full.fodt", "Jörg Müller"}, {"full.rtf", ""}, {"full.doc", ""}};
-    for (const auto& [name, printedBy] : cases) {
-        SCOPED_TRACE(name);
-        auto info = ReadDocInfo(dir.PathOf(name));
-        ASSERT_NE(info, nullptr);
-        ExpectCommonFields(*info, dir, name, name != "full.doc");
-        EXPECT_EQ(info->modifiedBy, "José García");
-        EXPECT_EQ(info->comment, "Zahlen <geprüft> & freigegeben");
-        EXPECT_EQ(info->printedDate, Date(1, 12, 2020));
-        EXPECT_EQ(info->printedTime, Time(16, 17, 18));
-        EXPECT_EQ(info->printedBy, printedBy);
-    }
+    // Without any stamp at all, the printed stamp stays unset like the created one.
+    EXPECT_EQ(info->createdDate, Date());
+    EXPECT_EQ(info->printedDate, Date());
+    EXPECT_EQ(info->printedTime, Time());
+    EXPECT_EQ(info->printedBy, "");
 }
 
 TEST(ReadersFormats, RtfEscapesCodePagesAndGroups)
@@ -335,10 +224,9 @@ TEST(ReadersFormats, ReadingAheadGivesWhatReadingGives)
     for (int i = 0; i < 12; ++i) {
         SampleDoc doc = FullSample();
         doc.title = "Doc " + std::to_string(i);
-        const std::string name = "d" + std::to_string(i) + (i % 3 == 0 ? ".odt" : i % 3 == 1 ? ".docx" : ".pdf");
+        paths.push_back(dir.PathOf(std::to_string(i) + (i % 3 == 0 ? ".odt" : i % 3 == 1 ? ".docx" : ".pdf")));
         std::string error;
-        ASSERT_TRUE(WriteSample(dir.PathOf(name), doc, error)) << error;
-        paths.push_back(dir.PathOf(name));
+        ASSERT_TRUE(WriteSample(paths.back(), doc, error)) << error;
     }
     paths.push_back(dir.MakeFile("notes.txt", "plain"));
     DocReadAhead ahead;
@@ -352,10 +240,7 @@ TEST(ReadersFormats, ReadingAheadGivesWhatReadingGives)
         const std::unique_ptr<DocInfo> got = ahead.Take(path);
         ASSERT_EQ(got == nullptr, expected == nullptr) << path;
         if (got) {
-            EXPECT_EQ(got->title, expected->title) << path;
-            EXPECT_EQ(got->entry, expected->entry);
-            EXPECT_EQ(got->size, expected->size);
-            EXPECT_EQ(got->modifiedDate, expected->modifiedDate);
+            EXPECT_EQ(got->entry + " " + got->title, expected->entry + " " + expected->title);
         }
     }
     ahead.Start(paths);  // dropped untaken, and gone cleanly with the object
