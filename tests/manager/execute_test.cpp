@@ -9,7 +9,7 @@ TEST_F(ManagerTest, ExecuteEndsWithCloseOrOpen)
     WriteDefaultConfig();
     dir.MakeFile("docs/a.odt", "x");
     MakeHost();
-    managerloop::RunInManager(*host, [this] { Child<QPushButton>("closeButton")->click(); });
+    RunInManager([this] { Child<QPushButton>("closeButton")->click(); });
     EXPECT_EQ(host->result(), 0);
 
     QTimer::singleShot(0, host.get(), [this] {
@@ -31,13 +31,13 @@ TEST_F(ManagerTest, ASecondExecuteCollectsAgainButKeepsTheSettings)
     WriteDefaultConfig();
     dir.MakeFile("docs/a.odt", "x");
     MakeHost();
-    managerloop::RunInManager(*host, [] {});
+    RunInManager([] {});
     EXPECT_EQ(RowNames(), std::vector<std::string>{"a.odt"});
 
     // The file changes on disk; the running manager does not read it again.
     WriteConfig({{"Elsewhere", "Other", dir.MakeDir("other"), "1"}});
     dir.MakeFile("docs/b.odt", "x");
-    managerloop::RunInManager(*host, [] {});
+    RunInManager([] {});
     EXPECT_EQ(host->GetSelectedGroupName(), "Docs");
     EXPECT_EQ(Browser().GetRowCount(), 2);
 }
@@ -46,7 +46,7 @@ TEST_F(ManagerTest, ClosingSavesTheViewMode)
 {
     WriteDefaultConfig();
     MakeHost();
-    managerloop::RunInManager(*host, [this] {
+    RunInManager([this] {
         Child<QCheckBox>("singleViewBox")->click();
         EXPECT_NE(host->GetSummaryWindow(), nullptr);
         host->reject();  // Escape acts as the close button

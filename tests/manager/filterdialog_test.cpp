@@ -116,22 +116,3 @@ TEST_F(FilterDialogTest, CancelWritesNothing)
     EXPECT_EQ(Settings().WorkingGroup().filterTitle, "");
     EXPECT_EQ(Settings().WorkingGroup().filterField[0], NO_COLUMN);
 }
-
-TEST_F(FilterDialogTest, AConfirmedFilterMarksTheSettingsAndCollectsAgain)
-{
-    dir.MakeFile("docs/plan.odt", "x");
-    dir.MakeFile("docs/other.odt", "x");
-    host->CollectFiles();
-    ASSERT_EQ(Browser().GetRowCount(), 2);
-    OnNextModal([](QDialog& dialog) {
-        dialog.findChild<QLineEdit*>("titleEdit")->setText("plan*");
-        dialog.findChild<QPushButton*>("okButton")->click();
-    });
-    host->FilterHdl();
-    EXPECT_TRUE(host->IsChanged());
-    EXPECT_EQ(RowNames(), std::vector<std::string>{"plan.odt"});
-
-    OnNextModal([](QDialog& dialog) { dialog.findChild<QPushButton*>("cancelButton")->click(); });
-    host->FilterHdl();
-    EXPECT_EQ(Browser().GetRowCount(), 1);
-}

@@ -22,21 +22,39 @@ protected:
     }
 };
 
-TEST_F(HandlersTest, ConfirmedPathsMarkTheSettingsAndCollect)
+// A settings dialog ended with 0 changes nothing; confirmed, the settings count as changed
+// and the list is collected again (the groups dialog, which saves itself, only collects).
+TEST_F(HandlersTest, ConfirmedSettingsDialogsMarkTheSettingsAndCollect)
 {
-    dir.MakeFile("docs/new.odt", "x");
-    Confirm(0);
-    host->PathsHdl();
-    EXPECT_FALSE(host->IsChanged());
-    EXPECT_EQ(Browser().GetRowCount(), 3);
-
-    Confirm(1);
-    host->PathsHdl();
-    EXPECT_TRUE(host->IsChanged());
-    EXPECT_EQ(Browser().GetRowCount(), 4);
+    const struct {
+        const char* name;
+        void (TestHost::*handler)();
+        bool marks;
+    } table[] = {
+        {"paths", &TestHost::PathsHdl, true},
+        {"filter", &TestHost::FilterHdl, true},
+        {"sort without column", &TestHost::SortHdl, true},
+        {"groups", &TestHost::GroupsHdl, false},
+    };
+    for (const auto& row : table) {
+        SCOPED_TRACE(row.name);
+        host.reset();
+        Start();
+        Settings().WorkingGroup().sortColumnId = NO_COLUMN;
+        const int rows = Browser().GetRowCount();
+        dir.MakeFile(std::string("docs/") + row.name + ".odt", "x");
+        Confirm(0);
+        (host.get()->*row.handler)();
+        EXPECT_FALSE(host->IsChanged());
+        EXPECT_EQ(Browser().GetRowCount(), rows);
+        Confirm(1);
+        (host.get()->*row.handler)();
+        EXPECT_EQ(host->IsChanged(), row.marks);
+        EXPECT_EQ(Browser().GetRowCount(), rows + 1);
+    }
 }
 
-TEST_F(HandlersTest, ConfirmedSortSortsOrCollectsWithoutSortColumn)
+TEST_F(HandlersTest, ConfirmedSortSortsAndColumnsRebuildTheColumns)
 {
     Select({"c.odt"});
     Settings().WorkingGroup().sortColumnId = COL_NAME;
@@ -46,40 +64,24 @@ TEST_F(HandlersTest, ConfirmedSortSortsOrCollectsWithoutSortColumn)
     EXPECT_EQ(RowNames(), (std::vector<std::string>{"a.odt", "b.odt", "c.odt"}));
     EXPECT_EQ(Browser().GetSelectedRowCount(), 0);
 
-    // No sort column: the list is collected again, in the order of the directory.
-    dir.MakeFile("docs/d.odt", "x");
-    Settings().WorkingGroup().sortColumnId = NO_COLUMN;
-    Confirm();
-    host->SortHdl();
-    EXPECT_EQ(Browser().GetRowCount(), 4);
-}
-
-TEST_F(HandlersTest, ConfirmedColumnsRebuildTheColumns)
-{
     Settings().WorkingGroup().columnId[0] = COL_AUTHOR;
     Confirm(0);
     host->ColumnsHdl();
     EXPECT_EQ(Browser().GetColumnId(0), COL_NAME);
     Confirm(1);
     host->ColumnsHdl();
-    EXPECT_TRUE(host->IsChanged());
     EXPECT_EQ(Browser().GetColumnId(0), COL_AUTHOR);
 }
 
-TEST_F(HandlersTest, GroupsDialogTakesTheGroupAnewOnlyWhenItSaysSo)
+TEST_F(HandlersTest, TheGroupsDialogAsksFirstAboutChangedSettings)
 {
     AnswerBoxes(RET_YES);
     Confirm();
-    host->PathsHdl();  // changed settings: the groups dialog asks first
-    dir.MakeFile("docs/new.odt", "x");
+    host->PathsHdl();
     Confirm(0);
     host->GroupsHdl();
     EXPECT_EQ(queries.size(), 1u);
     EXPECT_FALSE(host->IsChanged());
-    EXPECT_EQ(Browser().GetRowCount(), 3);  // not collected
-    Confirm(1);
-    host->GroupsHdl();
-    EXPECT_EQ(Browser().GetRowCount(), 4);
 }
 
 TEST_F(HandlersTest, CopyAndRenameCollectOnlyWhenTheyChangedFiles)

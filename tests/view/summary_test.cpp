@@ -22,7 +22,7 @@ int InkedPixels(QFrame& widget)
 
 TEST_F(ManagerTest, SummaryPaneShowsTheFirstSelectedDocumentOnly)
 {
-    WriteDefaultConfig({}, true);
+    WriteDefaultConfig(true);
     dir.MakeFile("docs/a.odt", "x");
     dir.MakeFile("docs/b.odt", "x");
     Start();

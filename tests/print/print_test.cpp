@@ -1,0 +1,246 @@
+// The print dialog on a live manager: its controls, the column widths it prints with, one
+// whole job to a PDF printer read back from the file, and the progress dialog.
+#include <QFontMetrics>
+#include <QPageSize>
+#include <QPrinter>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <cstdio>
+#include <filesystem>
+
+#include "docmgr/print/doclistprinter.h"
+#include "docmgr/print/docprintdialog.h"
+#include "docmgr/print/docprintingdlg.h"
+#include "docmgr/records/docfields.h"
+#include "tests/support/managerfixture.h"
+
+namespace {
+
+// The output of one of poppler's tools (pdfinfo, pdftotext) on `pdf`; empty when it fails.
+QString Poppler(const char* program, QStringList arguments, const std::string& pdf)
+{
+    QProcess process;
+    arguments << QString::fromStdString(pdf);
+    if (QLatin1String(program) == QLatin1String("pdftotext"))
+        arguments << "-";
+    process.start(program, arguments);
+    if (!process.waitForFinished(60000) || process.exitCode() != 0)
+        return {};
+    return QString::fromUtf8(process.readAllStandardOutput());
+}
+
+// The lines of text of each page, their words joined by one blank.
+std::vector<std::vector<std::string>> PdfPages(const std::string& pdf)
+{
+    std::vector<std::vector<std::string>> pages;
+    const QStringList texts = Poppler("pdftotext", {"-layout"}, pdf).split('\f');
+    for (qsizetype p = 0; p + 1 < texts.size(); ++p) {  // each page ends with a form feed
+        pages.emplace_back();
+        for (const QString& line : texts[p].split('\n'))
+            if (!line.trimmed().isEmpty())
+                pages.back().push_back(line.simplified().toStdString());
+    }
+    return pages;
+}
+
+class PrintTest : public ManagerTest {
+protected:
+    // Documents doc00.odt ... in the listed directory, the list sorted by file name.
+    void StartWithDocs(int count)
+    {
+        for (int i = 0; i < count; ++i)
+            dir.MakeFile(DocName(i), "x");
+        WriteDefaultConfig();
+        Start(false);
+        Settings().WorkingGroup().sortColumnId = COL_NAME;
+        Settings().WorkingGroup().sortAscending = true;
+        Browser().SortFiles(false);
+    }
+    static std::string DocName(long i)
+    {
+        char name[32];
+        std::snprintf(name, sizeof name, "docs/doc%02ld.odt", i);
+        return name;
+    }
+
+    // A print dialog on the list that writes `pdf` on A4 sheets without margins, in its
+    // own fixed font at `points`.
+    std::unique_ptr<DocPrintDialog> MakeDialog(int points)
+    {
+        auto dialog = std::make_unique<DocPrintDialog>(host.get(), Browser());
+        QPrinter* printer = dialog->GetPrinter();
+        printer->setOutputFormat(QPrinter::PdfFormat);
+        printer->setOutputFileName(QString::fromStdString(pdf));
+        printer->setPageSize(QPageSize(QPageSize::A4));
+        printer->setPageMargins(QMarginsF(0, 0, 0, 0), QPageLayout::Millimeter);
+        QFont font = dialog->GetPrintFont();
+        font.setPointSize(points);
+        dialog->SetPrintFont(font);
+        return dialog;
+    }
+    static long LinesPerPage(const DocPrintDialog& dialog)
+    {
+        return dialog.GetPrinter()->height() / QFontMetrics(dialog.GetPrintFont(), dialog.GetPrinter()).height();
+    }
+    // Selects exactly the columns with these titles.
+    static void SelectColumns(DocPrintDialog& dialog, const std::set<uint16_t>& titleIds)
+    {
+        auto* list = In<QListWidget>(dialog, "columnList");
+        std::set<QString> titles;
+        for (uint16_t id : titleIds)
+            titles.insert(QString::fromStdString(ResString(id)));
+        for (int i = 0; i < list->count(); ++i)
+            list->item(i)->setSelected(titles.count(list->item(i)->text()) > 0);
+    }
+
+    std::string pdf = dir.PathOf("list.pdf");
+};
+
+TEST_F(PrintTest, EveryColumnStartsSelectedAndOkNeedsOne)
+{
+    StartWithDocs(0);
+    auto dialog = MakeDialog(10);
+    auto* list = In<QListWidget>(*dialog, "columnList");
+    auto* ok = In<QPushButton>(*dialog, "okButton");
+    ASSERT_EQ(list->count(), Browser().ColCount());
+    for (int i = 0; i < list->count(); ++i) {
+        EXPECT_EQ(list->item(i)->text().toStdString(), Browser().GetColumnTitle(Browser().GetColumnId(uint16_t(i))));
+        EXPECT_TRUE(list->item(i)->isSelected()) << i;
+    }
+    EXPECT_TRUE(ok->isEnabled());
+    list->clearSelection();
+    EXPECT_FALSE(ok->isEnabled());
+    list->item(3)->setSelected(true);
+    EXPECT_TRUE(ok->isEnabled());
+}
+
+TEST_F(PrintTest, TheDialogSaysWhenNotAllChosenColumnsFitAndOffersLandscape)
+{
+    StartWithDocs(0);
+    auto dialog = MakeDialog(40);  // large letters: few columns fit across A4
+    auto* list = In<QListWidget>(*dialog, "columnList");
+    auto* fit = In<QLabel>(*dialog, "fitLabel");
+    const int portrait = dialog->FittingColumns();
+    EXPECT_LT(portrait, list->count());
+    EXPECT_TRUE(fit->text().startsWith(QString("Only %1 of the %2 ").arg(portrait).arg(list->count())))
+        << fit->text().toStdString();
+
+    In<QCheckBox>(*dialog, "landscapeBox")->setChecked(true);
+    EXPECT_EQ(dialog->GetPrinter()->pageLayout().orientation(), QPageLayout::Landscape);
+    EXPECT_GT(dialog->FittingColumns(), portrait);
+
+    list->clearSelection();
+    list->item(0)->setSelected(true);
+    EXPECT_EQ(dialog->FittingColumns(), 1);
+    EXPECT_TRUE(fit->isHidden());
+}
+
+TEST_F(PrintTest, ColumnsGoInIdOrderEachAsWideAsItsWidestText)
+{
+    DocInfo info;
+    info.title = std::string(14, 'x');
+    info.author = "Tester";
+    StartWithDocs(2);
+    host->known["doc01.odt"] = info;
+    std::filesystem::remove(docs + "/.docindex");  // so that the host is asked again
+    host->CollectFiles();
+    Settings().WorkingGroup().columnId = {5, 3, 1, 2, 4, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20};
+    Browser().InsertColumns();
+    QPrinter printer;
+    DocListPrinter listPrinter(Browser(), printer);
+    QSet<QString> titles;
+    for (uint16_t id : {15705, 15703, 15700, 15707})
+        titles.insert(QString::fromStdString(ResString(id)));
+    const auto widths = listPrinter.ColumnWidths(titles);
+    std::vector<uint16_t> ids;
+    for (const auto& [id, width] : widths)
+        ids.push_back(id);
+    EXPECT_EQ(ids, (std::vector<uint16_t>{1, 3, 5, 7}));
+    EXPECT_EQ(widths.at(1), 9);   // "doc00.odt" over "File name"
+    EXPECT_EQ(widths.at(3), 14);  // the long title on the second row
+    EXPECT_EQ(widths.at(7), 6);   // "Author" over "Tester"
+}
+
+TEST_F(PrintTest, NothingIsPrintedWithoutAJobOrOnAPageTooSmallForTwoLines)
+{
+    StartWithDocs(3);
+    auto dialog = MakeDialog(10);
+    EXPECT_FALSE(dialog->PrintPage(1)) << "no job running";
+    EXPECT_TRUE(dialog->StartJob("list"));
+    EXPECT_TRUE(dialog->PrintPage(1));
+    EXPECT_FALSE(dialog->PrintPage(2));
+    dialog->EndJob();
+    EXPECT_FALSE(dialog->PrintPage(1)) << "the job has ended";
+
+    QFont huge = dialog->GetPrintFont();
+    huge.setPointSize(600);
+    dialog->SetPrintFont(huge);
+    EXPECT_TRUE(dialog->StartJob("list"));
+    EXPECT_FALSE(dialog->PrintPage(1));
+    dialog->EndJob();
+}
+
+// The one real print: OK runs the whole job on a PDF printer and its progress dialog.
+TEST_F(PrintTest, OkPrintsTheListPageByPageToAPdfPrinter)
+{
+    if (QStandardPaths::findExecutable("pdftotext").isEmpty())
+        GTEST_SKIP() << "poppler-utils not installed";
+    StartWithDocs(0);
+    auto dialog = MakeDialog(40);
+    dialog->GetPrinter()->setPageMargins(QMarginsF(20, 15, 20, 15), QPageLayout::Millimeter);
+    const long lines = LinesPerPage(*dialog);
+    ASSERT_GT(lines, 2);
+    for (long i = 0; i < lines; ++i)
+        dir.MakeFile(DocName(i), "x");
+    host->CollectFiles();
+    Browser().SortFiles(false);
+    SelectColumns(*dialog, {15700, 15703});
+    In<QPushButton>(*dialog, "okButton")->click();
+    EXPECT_EQ(dialog->result(), 0);
+
+    const auto pages = PdfPages(pdf);
+    ASSERT_EQ(pages.size(), 2u);
+    ASSERT_EQ(pages[0].size(), size_t(lines));
+    EXPECT_EQ(pages[0][0], "File name Title");
+    EXPECT_EQ(pages[0][1], "doc00.odt doc00.odt");
+    const std::string last = DocName(lines - 1).substr(5);
+    EXPECT_EQ(pages[1], (std::vector<std::string>{"File name Title", last + " " + last}));
+    const QString info = Poppler("pdfinfo", {}, pdf);
+    const QString title = QRegularExpression::escape(QString::fromStdString(ResString(15743)));
+    EXPECT_TRUE(info.contains(QRegularExpression("^Title: *" + title + "$", QRegularExpression::MultilineOption)))
+        << info.toStdString();
+    // The header starts in the top left corner of the printable area: 20 mm (56.7 pt)
+    // from the left edge, 15 mm (42.5 pt) from the top.
+    const auto first = QRegularExpression(R"re(<word xMin="([\d.]+)" yMin="([\d.]+)")re")
+                           .match(Poppler("pdftotext", {"-bbox"}, pdf));
+    ASSERT_TRUE(first.hasMatch());
+    EXPECT_NEAR(first.captured(1).toDouble(), 56.7, 1.0);
+    EXPECT_GT(first.captured(2).toDouble(), 42.0);
+    EXPECT_LT(first.captured(2).toDouble(), 52.0);
+}
+
+TEST_F(PrintTest, APrinterThatCannotStartClosesTheDialogWithoutPrinting)
+{
+    StartWithDocs(2);
+    pdf = dir.PathOf("missing/folder/list.pdf");
+    auto dialog = MakeDialog(10);
+    In<QPushButton>(*dialog, "okButton")->click();
+    EXPECT_EQ(dialog->result(), 0);
+    EXPECT_FALSE(dialog->StartJob("again"));
+    EXPECT_FALSE(std::filesystem::exists(pdf));
+}
+
+TEST_F(PrintTest, TheProgressNamesThePrinterAndCancelEndsIt)
+{
+    QPrinter printer;
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(QString::fromStdString(pdf));
+    DocPrintingDlg progress(nullptr, &printer);
+    EXPECT_EQ(In<QLabel>(progress, "printerLabel")->text(), "list.pdf");
+    progress.setResult(7);
+    In<QPushButton>(progress, "cancelButton")->click();
+    EXPECT_EQ(progress.result(), 0);
+}
+
+}  // namespace
