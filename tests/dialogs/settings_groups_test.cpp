@@ -129,6 +129,13 @@ TEST_F(GroupsDialogTest, OpensOnTheActualGroupAndProtectsTheFirstGroup)
     EXPECT_TRUE(Button("okButton")->isEnabled());
     dialog->DeleteHdl();  // refused for the protected group
     EXPECT_EQ(Settings().GroupCount(), 3);
+
+    // The more button shows and hides the editing controls.
+    EXPECT_TRUE(SectionBox()->isHidden());
+    Button("moreButton")->click();
+    EXPECT_FALSE(SectionBox()->isHidden());
+    Button("moreButton")->click();
+    EXPECT_TRUE(Button("newButton")->isHidden());
 }
 
 TEST_F(GroupsDialogTest, NewMakesAFreeNameInTheNewSectionFromTheSettingsInForce)
@@ -275,20 +282,6 @@ TEST_F(GroupsDialogTest, SettingsMenuOpensTheDialogsOnTheSelectedGroup)
     OnNextModal([](QDialog& columns) { In<QPushButton>(columns, "cancelButton")->click(); });
     dialog->SettingsHdl(DocGroupsDialog::ITEM_COLUMNS);
     EXPECT_FALSE(dialog->IsMainGroupChanged());
-}
-
-TEST_F(GroupsDialogTest, MoreButtonShowsAndHidesTheEditingControls)
-{
-    Open({{standard, "General"}, {"Alpha", "Work"}}, 1);
-    QPushButton* more = Button("moreButton");
-    EXPECT_FALSE(more->isChecked());
-    EXPECT_TRUE(Button("newButton")->isHidden());
-    EXPECT_TRUE(NameEdit()->isHidden());
-    more->click();
-    EXPECT_FALSE(Button("newButton")->isHidden());
-    EXPECT_FALSE(SectionBox()->isHidden());
-    more->click();
-    EXPECT_TRUE(SectionBox()->isHidden());
 }
 
 }  // namespace

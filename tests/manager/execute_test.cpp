@@ -4,42 +4,34 @@
 #include "docmgr/view/docsummarywindow.h"
 #include "tests/support/managerfixture.h"
 
-TEST_F(ManagerTest, ExecuteEndsWithCloseOrOpen)
+TEST_F(ManagerTest, ExecuteEndsWithCloseOrOpenAndASecondRunCollectsAgainWithTheSameSettings)
 {
     WriteDefaultConfig();
-    dir.MakeFile("docs/a.odt", "x");
+    MakeDocs({"a.odt"});
     MakeHost();
-    RunInManager([this] { Child<QPushButton>("closeButton")->click(); });
+    RunInManager([this] {
+        EXPECT_EQ(RowNames(), std::vector<std::string>{"a.odt"});
+        Child<QPushButton>("closeButton")->click();
+    });
     EXPECT_EQ(host->result(), 0);
 
+    // The file changes on disk; the running manager does not read it again.
+    WriteConfig({{"Elsewhere", "Other", dir.MakeDir("other"), "1"}});
+    dir.MakeFile("docs/b.odt", "x");
     QTimer::singleShot(0, host.get(), [this] {
+        EXPECT_EQ(host->GetSelectedGroupName(), "Docs");
+        EXPECT_EQ(Browser().GetRowCount(), 2);
         Select({"a.odt"});
         Child<QCheckBox>("readOnlyBox")->setChecked(true);
         Child<QPushButton>("openButton")->click();
     });
     EXPECT_EQ(host->Execute(), 1);
     EXPECT_TRUE(host->IsReadOnly());
-    EXPECT_EQ(*host->GetFirstDoc(), docs + "/a.odt");
+    EXPECT_EQ(host->SelectedDocs(), std::vector<std::string>{docs + "/a.odt"});
     EXPECT_EQ(host->GetConfig().rfind("@DocManager[2.1]", 0), 0u);
     EXPECT_TRUE(host->IsAvailable());
     EXPECT_EQ(host->windowTitle(), "Document Manager");
     EXPECT_EQ(Child<QPushButton>("openButton")->text(), "&Open");
-}
-
-TEST_F(ManagerTest, ASecondExecuteCollectsAgainButKeepsTheSettings)
-{
-    WriteDefaultConfig();
-    dir.MakeFile("docs/a.odt", "x");
-    MakeHost();
-    RunInManager([] {});
-    EXPECT_EQ(RowNames(), std::vector<std::string>{"a.odt"});
-
-    // The file changes on disk; the running manager does not read it again.
-    WriteConfig({{"Elsewhere", "Other", dir.MakeDir("other"), "1"}});
-    dir.MakeFile("docs/b.odt", "x");
-    RunInManager([] {});
-    EXPECT_EQ(host->GetSelectedGroupName(), "Docs");
-    EXPECT_EQ(Browser().GetRowCount(), 2);
 }
 
 TEST_F(ManagerTest, ClosingSavesTheViewMode)

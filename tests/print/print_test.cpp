@@ -46,28 +46,16 @@ std::vector<std::vector<std::string>> PdfPages(const std::string& pdf)
 
 class PrintTest : public ManagerTest {
 protected:
-    // Documents doc00.odt ... in the listed directory, the list sorted by file name.
-    void StartWithDocs(int count)
+    // `count` documents doc00.odt ..., the list sorted by file name, and a print dialog on
+    // it that writes `pdf` on A4 sheets without margins, in its own fixed font at `points`.
+    std::unique_ptr<DocPrintDialog> Open(int count, int points)
     {
         for (int i = 0; i < count; ++i)
-            dir.MakeFile(DocName(i), "x");
+            dir.MakeFile("docs/" + DocName(i), "x");
         WriteDefaultConfig();
         Start(false);
         Settings().WorkingGroup().sortColumnId = COL_NAME;
-        Settings().WorkingGroup().sortAscending = true;
         Browser().SortFiles(false);
-    }
-    static std::string DocName(long i)
-    {
-        char name[32];
-        std::snprintf(name, sizeof name, "docs/doc%02ld.odt", i);
-        return name;
-    }
-
-    // A print dialog on the list that writes `pdf` on A4 sheets without margins, in its
-    // own fixed font at `points`.
-    std::unique_ptr<DocPrintDialog> MakeDialog(int points)
-    {
         auto dialog = std::make_unique<DocPrintDialog>(host.get(), Browser());
         QPrinter* printer = dialog->GetPrinter();
         printer->setOutputFormat(QPrinter::PdfFormat);
@@ -79,80 +67,57 @@ protected:
         dialog->SetPrintFont(font);
         return dialog;
     }
-    static long LinesPerPage(const DocPrintDialog& dialog)
+    static std::string DocName(long i)
     {
-        return dialog.GetPrinter()->height() / QFontMetrics(dialog.GetPrintFont(), dialog.GetPrinter()).height();
-    }
-    // Selects exactly the columns with these titles.
-    static void SelectColumns(DocPrintDialog& dialog, const std::set<uint16_t>& titleIds)
-    {
-        auto* list = In<QListWidget>(dialog, "columnList");
-        std::set<QString> titles;
-        for (uint16_t id : titleIds)
-            titles.insert(QString::fromStdString(ResString(id)));
-        for (int i = 0; i < list->count(); ++i)
-            list->item(i)->setSelected(titles.count(list->item(i)->text()) > 0);
+        char name[32];
+        std::snprintf(name, sizeof name, "doc%02ld.odt", i);
+        return name;
     }
 
     std::string pdf = dir.PathOf("list.pdf");
 };
 
-TEST_F(PrintTest, EveryColumnStartsSelectedAndOkNeedsOne)
+TEST_F(PrintTest, EveryColumnStartsSelectedOkNeedsOneAndTheDialogSaysWhatFits)
 {
-    StartWithDocs(0);
-    auto dialog = MakeDialog(10);
+    auto dialog = Open(0, 40);  // large letters: few columns fit across A4
     auto* list = In<QListWidget>(*dialog, "columnList");
     auto* ok = In<QPushButton>(*dialog, "okButton");
+    auto* fit = In<QLabel>(*dialog, "fitLabel");
     ASSERT_EQ(list->count(), Browser().ColCount());
     for (int i = 0; i < list->count(); ++i) {
         EXPECT_EQ(list->item(i)->text().toStdString(), Browser().GetColumnTitle(Browser().GetColumnId(uint16_t(i))));
         EXPECT_TRUE(list->item(i)->isSelected()) << i;
     }
     EXPECT_TRUE(ok->isEnabled());
-    list->clearSelection();
-    EXPECT_FALSE(ok->isEnabled());
-    list->item(3)->setSelected(true);
-    EXPECT_TRUE(ok->isEnabled());
-}
-
-TEST_F(PrintTest, TheDialogSaysWhenNotAllChosenColumnsFitAndOffersLandscape)
-{
-    StartWithDocs(0);
-    auto dialog = MakeDialog(40);  // large letters: few columns fit across A4
-    auto* list = In<QListWidget>(*dialog, "columnList");
-    auto* fit = In<QLabel>(*dialog, "fitLabel");
     const int portrait = dialog->FittingColumns();
     EXPECT_LT(portrait, list->count());
     EXPECT_TRUE(fit->text().startsWith(QString("Only %1 of the %2 ").arg(portrait).arg(list->count())))
         << fit->text().toStdString();
-
     In<QCheckBox>(*dialog, "landscapeBox")->setChecked(true);
     EXPECT_EQ(dialog->GetPrinter()->pageLayout().orientation(), QPageLayout::Landscape);
     EXPECT_GT(dialog->FittingColumns(), portrait);
 
     list->clearSelection();
+    EXPECT_FALSE(ok->isEnabled());
     list->item(0)->setSelected(true);
+    EXPECT_TRUE(ok->isEnabled());
     EXPECT_EQ(dialog->FittingColumns(), 1);
     EXPECT_TRUE(fit->isHidden());
 }
 
 TEST_F(PrintTest, ColumnsGoInIdOrderEachAsWideAsItsWidestText)
 {
-    DocInfo info;
-    info.title = std::string(14, 'x');
-    info.author = "Tester";
-    StartWithDocs(2);
-    host->known["doc01.odt"] = info;
+    auto dialog = Open(2, 10);
+    host->known["doc01.odt"].title = std::string(14, 'x');
+    host->known["doc01.odt"].author = "Tester";
     std::filesystem::remove(docs + "/.docindex");  // so that the host is asked again
     host->CollectFiles();
     Settings().WorkingGroup().columnId = {5, 3, 1, 2, 4, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20};
     Browser().InsertColumns();
-    QPrinter printer;
-    DocListPrinter listPrinter(Browser(), printer);
     QSet<QString> titles;
     for (uint16_t id : {15705, 15703, 15700, 15707})
         titles.insert(QString::fromStdString(ResString(id)));
-    const auto widths = listPrinter.ColumnWidths(titles);
+    const auto widths = DocListPrinter(Browser(), *dialog->GetPrinter()).ColumnWidths(titles);
     std::vector<uint16_t> ids;
     for (const auto& [id, width] : widths)
         ids.push_back(id);
@@ -164,8 +129,7 @@ TEST_F(PrintTest, ColumnsGoInIdOrderEachAsWideAsItsWidestText)
 
 TEST_F(PrintTest, NothingIsPrintedWithoutAJobOrOnAPageTooSmallForTwoLines)
 {
-    StartWithDocs(3);
-    auto dialog = MakeDialog(10);
+    auto dialog = Open(3, 10);
     EXPECT_FALSE(dialog->PrintPage(1)) << "no job running";
     EXPECT_TRUE(dialog->StartJob("list"));
     EXPECT_TRUE(dialog->PrintPage(1));
@@ -179,6 +143,13 @@ TEST_F(PrintTest, NothingIsPrintedWithoutAJobOrOnAPageTooSmallForTwoLines)
     EXPECT_TRUE(dialog->StartJob("list"));
     EXPECT_FALSE(dialog->PrintPage(1));
     dialog->EndJob();
+
+    // A printer that cannot start: OK closes the dialog without printing.
+    pdf = dir.PathOf("missing/folder/list.pdf");
+    dialog->GetPrinter()->setOutputFileName(QString::fromStdString(pdf));
+    In<QPushButton>(*dialog, "okButton")->click();
+    EXPECT_EQ(dialog->result(), 0);
+    EXPECT_FALSE(std::filesystem::exists(pdf));
 }
 
 // The one real print: OK runs the whole job on a PDF printer and its progress dialog.
@@ -186,16 +157,18 @@ TEST_F(PrintTest, OkPrintsTheListPageByPageToAPdfPrinter)
 {
     if (QStandardPaths::findExecutable("pdftotext").isEmpty())
         GTEST_SKIP() << "poppler-utils not installed";
-    StartWithDocs(0);
-    auto dialog = MakeDialog(40);
-    dialog->GetPrinter()->setPageMargins(QMarginsF(20, 15, 20, 15), QPageLayout::Millimeter);
-    const long lines = LinesPerPage(*dialog);
+    auto dialog = Open(0, 40);
+    QPrinter* printer = dialog->GetPrinter();
+    printer->setPageMargins(QMarginsF(20, 15, 20, 15), QPageLayout::Millimeter);
+    const long lines = printer->height() / QFontMetrics(dialog->GetPrintFont(), printer).height();
     ASSERT_GT(lines, 2);
     for (long i = 0; i < lines; ++i)
-        dir.MakeFile(DocName(i), "x");
+        dir.MakeFile("docs/" + DocName(i), "x");
     host->CollectFiles();
     Browser().SortFiles(false);
-    SelectColumns(*dialog, {15700, 15703});
+    auto* list = In<QListWidget>(*dialog, "columnList");
+    for (int i = 0; i < list->count(); ++i)  // file name and title
+        list->item(i)->setSelected(Browser().GetColumnId(uint16_t(i)) == 1 || Browser().GetColumnId(uint16_t(i)) == 3);
     In<QPushButton>(*dialog, "okButton")->click();
     EXPECT_EQ(dialog->result(), 0);
 
@@ -204,12 +177,10 @@ TEST_F(PrintTest, OkPrintsTheListPageByPageToAPdfPrinter)
     ASSERT_EQ(pages[0].size(), size_t(lines));
     EXPECT_EQ(pages[0][0], "File name Title");
     EXPECT_EQ(pages[0][1], "doc00.odt doc00.odt");
-    const std::string last = DocName(lines - 1).substr(5);
+    const std::string last = DocName(lines - 1);
     EXPECT_EQ(pages[1], (std::vector<std::string>{"File name Title", last + " " + last}));
-    const QString info = Poppler("pdfinfo", {}, pdf);
     const QString title = QRegularExpression::escape(QString::fromStdString(ResString(15743)));
-    EXPECT_TRUE(info.contains(QRegularExpression("^Title: *" + title + "$", QRegularExpression::MultilineOption)))
-        << info.toStdString();
+    EXPECT_TRUE(Poppler("pdfinfo", {}, pdf).contains(QRegularExpression("^Title: *" + title + "$", QRegularExpression::MultilineOption)));
     // The header starts in the top left corner of the printable area: 20 mm (56.7 pt)
     // from the left edge, 15 mm (42.5 pt) from the top.
     const auto first = QRegularExpression(R"re(<word xMin="([\d.]+)" yMin="([\d.]+)")re")
@@ -218,17 +189,6 @@ TEST_F(PrintTest, OkPrintsTheListPageByPageToAPdfPrinter)
     EXPECT_NEAR(first.captured(1).toDouble(), 56.7, 1.0);
     EXPECT_GT(first.captured(2).toDouble(), 42.0);
     EXPECT_LT(first.captured(2).toDouble(), 52.0);
-}
-
-TEST_F(PrintTest, APrinterThatCannotStartClosesTheDialogWithoutPrinting)
-{
-    StartWithDocs(2);
-    pdf = dir.PathOf("missing/folder/list.pdf");
-    auto dialog = MakeDialog(10);
-    In<QPushButton>(*dialog, "okButton")->click();
-    EXPECT_EQ(dialog->result(), 0);
-    EXPECT_FALSE(dialog->StartJob("again"));
-    EXPECT_FALSE(std::filesystem::exists(pdf));
 }
 
 TEST_F(PrintTest, TheProgressNamesThePrinterAndCancelEndsIt)

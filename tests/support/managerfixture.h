@@ -68,6 +68,21 @@ protected:
         WriteConfig({{"Docs", "Main", docs, "1"}}, 1, singleView);
     }
 
+    // Documents of these names in the documents directory.
+    void MakeDocs(std::initializer_list<const char*> names)
+    {
+        for (const char* name : names)
+            dir.MakeFile(std::string("docs/") + name, "x");
+    }
+
+    // The default configuration, these documents and the manager started on them.
+    TestHost& StartWith(std::initializer_list<const char*> names, bool openMode = true)
+    {
+        WriteDefaultConfig();
+        MakeDocs(names);
+        return Start(openMode);
+    }
+
     TestHost& MakeHost(bool openMode = true, const std::string& startPaths = {})
     {
         config = std::make_unique<Config>(configPath);

@@ -65,10 +65,7 @@ TEST_F(ManagerTest, ModelStaysConsistentThroughCollectSortDeleteAndEdit)
 
 TEST_F(ManagerTest, SelectedDocumentsAreWalkedInRowOrder)
 {
-    WriteDefaultConfig();
-    for (const char* name : {"a.odt", "b.odt", "c.odt", "d.odt", "e.odt"})
-        dir.MakeFile(std::string("docs/") + name, "x");
-    Start();
+    StartWith({"a.odt", "b.odt", "c.odt", "d.odt", "e.odt"});
     Settings().WorkingGroup().sortColumnId = COL_NAME;
     Browser().SortFiles(false);
     EXPECT_EQ(host->GetFirstDoc(), nullptr);
@@ -92,8 +89,7 @@ TEST_F(ManagerTest, SelectedDocumentsAreWalkedInRowOrder)
 TEST_F(ManagerTest, DoubleClickOnARowOpensItWhenOpeningIsPossible)
 {
     WriteDefaultConfig();
-    dir.MakeFile("docs/a.odt", "x");
-    dir.MakeFile("docs/b.odt", "x");
+    MakeDocs({"a.odt", "b.odt"});
     MakeHost();
     QTimer::singleShot(0, host.get(), [this] {
         QTableView& browser = Browser();
@@ -114,10 +110,7 @@ TEST_F(ManagerTest, DoubleClickOnARowOpensItWhenOpeningIsPossible)
 
 TEST_F(ManagerTest, TheFirstDownArrowSelectsTheFirstRow)
 {
-    WriteDefaultConfig();
-    for (const char* name : {"a.odt", "b.odt", "c.odt"})
-        dir.MakeFile(std::string("docs/") + name, "x");
-    Start();
+    StartWith({"a.odt", "b.odt", "c.odt"});
     host->show();
     QApplication::setActiveWindow(host.get());
     Browser().setFocus(Qt::TabFocusReason);  // the focus makes row 0 current, unselected
@@ -130,9 +123,7 @@ TEST_F(ManagerTest, TheFirstDownArrowSelectsTheFirstRow)
 
 TEST_F(ManagerTest, EditedDocumentInformationIsShownAnew)
 {
-    WriteDefaultConfig();
-    dir.MakeFile("docs/a.odt", "x");
-    Start();
+    StartWith({"a.odt"});
     Select({"a.odt"});
     const int calls = host->createCalls;
     host->known["a.odt"].title = "New title";

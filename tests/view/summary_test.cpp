@@ -51,9 +51,7 @@ TEST_F(ManagerTest, SummaryPaneShowsTheFirstSelectedDocumentOnly)
 
 TEST_F(ManagerTest, SummaryInAPaneLowerThanItsBlockIsDrawnOutOfSight)
 {
-    WriteDefaultConfig();
-    dir.MakeFile("docs/a.odt", "x");
-    Start();
+    StartWith({"a.odt"});
     Select({"a.odt"});
     DocSummaryWindow pane(host.get(), *host->GetBrowser(), host->ListHost());
     const int line = pane.fontMetrics().height();
