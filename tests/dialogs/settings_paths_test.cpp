@@ -52,18 +52,6 @@ protected:
     static QCheckBox* Include(const DocPathsDialog& dialog) { return In<QCheckBox>(dialog, "includeBox"); }
 };
 
-TEST_F(PathsDialogTest, OkStoresTheListedEntriesBeforeTheHiddenOnes)
-{
-    Working().paths = "P1;P2;P3";
-    Working().guis = "011";
-    DocPathsDialog dialog(nullptr, &Settings(), WORKING_GROUP);
-    EXPECT_EQ(Texts(List(dialog)), (std::vector<std::string>{"P2", "P3"}));
-    Button(dialog, "okButton")->click();
-    EXPECT_EQ(dialog.result(), 1);
-    EXPECT_EQ(Working().paths, "P2;P3;P1");
-    EXPECT_EQ(Working().guis, "110");
-}
-
 TEST_F(PathsDialogTest, IncludeBoxFollowsAndTogglesTheEntrysMarker)
 {
     Working().paths = "/data;/docs/**";
@@ -143,24 +131,25 @@ TEST_F(PathsDialogTest, RemovingSelectsTheNeighbourAndReenablesAdd)
     EXPECT_EQ(Working().paths, "");
 }
 
-TEST_F(PathsDialogTest, CancelKeepsTheGroupAndTheGroupNumberPicksTheGroup)
+TEST_F(PathsDialogTest, OkStoresTheListBeforeTheHiddenEntriesCancelNothing)
 {
     Working().paths = "W";
-    Settings().Group(0).paths = "G1;G2";
-    Settings().Group(0).guis = "10";
+    Settings().Group(0).paths = "G1;G2;G3";
+    Settings().Group(0).guis = "101";
     {
         DocPathsDialog dialog(nullptr, &Settings(), 0);
-        EXPECT_EQ(Texts(List(dialog)), (std::vector<std::string>{"G1"}));
+        EXPECT_EQ(Texts(List(dialog)), (std::vector<std::string>{"G1", "G3"}));
         Button(dialog, "removeAllButton")->click();
         Button(dialog, "cancelButton")->click();
         EXPECT_EQ(dialog.result(), 0);
     }
-    EXPECT_EQ(Settings().Group(0).paths, "G1;G2");
+    EXPECT_EQ(Settings().Group(0).paths, "G1;G2;G3");
     DocPathsDialog dialog(nullptr, &Settings(), 0);
-    Button(dialog, "removeAllButton")->click();
+    List(dialog)->setCurrentRow(0);
+    Button(dialog, "removeButton")->click();
     Button(dialog, "okButton")->click();
-    EXPECT_EQ(Settings().Group(0).paths, "G2");
-    EXPECT_EQ(Settings().Group(0).guis, "0");
+    EXPECT_EQ(Settings().Group(0).paths, "G3;G2");  // the listed entries before the hidden ones
+    EXPECT_EQ(Settings().Group(0).guis, "10");
     EXPECT_EQ(Working().paths, "W");
 }
 

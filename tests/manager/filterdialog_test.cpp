@@ -17,13 +17,6 @@ protected:
         WriteDefaultConfig();
         Start();
     }
-    template <class W>
-    static W* In(QDialog& dialog, const QString& name)
-    {
-        W* widget = dialog.findChild<W*>(name);
-        EXPECT_NE(widget, nullptr) << name.toStdString();
-        return widget;
-    }
     static QWidget* ShownEntry(QDialog& dialog, int row)
     {
         return In<QStackedWidget>(dialog, "entryStack" + QString::number(row))->currentWidget();
