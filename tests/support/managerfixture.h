@@ -103,19 +103,13 @@ protected:
     // Selects exactly the rows whose file names are in `names`; how many it selected.
     int Select(const std::set<std::string>& names)
     {
-        Browser().clearSelection();
-        const auto& rows = Browser().GetRowList().Rows();
         QItemSelection selection;
-        int selected = 0;
-        for (size_t row = 0; row < rows.size(); ++row) {
-            if (!names.count(fsutil::FileName(rows[row]->entry)))
-                continue;
-            const QModelIndex index = Browser().model()->index(int(row), 0);
-            selection.select(index, index);
-            ++selected;
-        }
-        Browser().selectionModel()->select(selection, QItemSelectionModel::Select | QItemSelectionModel::Rows);
-        return selected;
+        const std::vector<std::string> rows = RowNames();
+        for (int row = 0; row < int(rows.size()); ++row)
+            if (names.count(rows[size_t(row)]))
+                selection.select(Browser().model()->index(row, 0), Browser().model()->index(row, 0));
+        Browser().selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        return int(selection.size());
     }
 
     // Executes the manager (settings read, list collected), runs `body` once its loop is
