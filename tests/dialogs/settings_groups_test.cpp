@@ -53,17 +53,14 @@ TEST(GroupNames, AChangeNeedsANameAndASectionAndNoOtherGroupsName)
 
 class GroupsDialogTest : public ManagerTest {
 protected:
-    // A configuration with the named groups (name, section) and the manager on it with
+    // A configuration with these groups (name and section) and the manager on it with
     // group `actual` (0-based) selected; the dialog on that manager.
-    void Open(const std::vector<std::pair<std::string, std::string>>& groups, int actual)
+    void Open(const std::vector<GroupSpec>& groups, int actual)
     {
         dialog.reset();  // a child of the manager: goes first
         host.reset();
         std::filesystem::remove(configPath);
-        std::vector<GroupSpec> specs;
-        for (const auto& [name, section] : groups)
-            specs.push_back({name, section, docs, "1"});
-        WriteConfig(specs, uint16_t(actual + 1));
+        WriteConfig(groups, uint16_t(actual + 1));
         Start(false);
         AnswerBoxes(RET_NO);
         dialog = std::make_unique<DocGroupsDialog>(host.get(), &Settings(), host->GetSelectedGroupName());
