@@ -35,7 +35,7 @@ protected:
     std::string dst = dir.MakeDir("dst");
 };
 
-TEST_F(FileDialogTest, EnterCopiesTheSelectedDocumentsIntoTheChosenFolder)
+TEST_F(FileDialogTest, EnterCopiesTheSelectedDocumentsIntoANewFolder)
 {
     for (const char* name : {"a.odt", "b.odt", "c.odt"})
         dir.MakeFile(std::string("docs/") + name, name);
@@ -43,13 +43,19 @@ TEST_F(FileDialogTest, EnterCopiesTheSelectedDocumentsIntoTheChosenFolder)
     DocCopyDialog dialog(host.get(), host->SelectedDocs());
     EXPECT_EQ(ChosenDir(dialog), docs) << "starts in the documents' folder";
     Choose(dialog, dst);
+    OnNextModal([](QDialog& folder) {  // made below the chosen folder, and chosen
+        In<QLineEdit>(folder, "nameEdit")->setText("2024/Letters");
+        In<QPushButton>(folder, "okButton")->click();
+    });
+    In<QPushButton>(dialog, "folderButton")->click();
+    EXPECT_EQ(ChosenDir(dialog), dst + "/2024/Letters");
     dialog.show();
     QTest::keyClick(Tree(dialog), Qt::Key_Return);  // Enter on the chosen folder confirms
     EXPECT_EQ(dialog.result(), 1);
     EXPECT_EQ(dialog.GetDoneCount(), 2);
-    EXPECT_EQ(dir.Read("dst/a.odt"), "a.odt");
-    EXPECT_EQ(dir.Read("dst/c.odt"), "c.odt");
-    EXPECT_FALSE(dir.Exists("dst/b.odt"));
+    EXPECT_EQ(dir.Read("dst/2024/Letters/a.odt"), "a.odt");
+    EXPECT_EQ(dir.Read("dst/2024/Letters/c.odt"), "c.odt");
+    EXPECT_FALSE(dir.Exists("dst/2024/Letters/b.odt"));
     EXPECT_TRUE(dir.Exists("docs/a.odt"));
     EXPECT_TRUE(infos.empty());
 }
@@ -90,23 +96,6 @@ TEST_F(FileDialogTest, CopyOntoItselfFailsForEachDocumentAndEndsWithOne)
         EXPECT_TRUE(message.ends_with(ResString(15729))) << message;
     }
     EXPECT_EQ(dir.Read("docs/a.odt"), "a");
-}
-
-TEST_F(FileDialogTest, ANewFolderIsMadeBelowTheChosenOneAndBecomesTheTarget)
-{
-    dir.MakeFile("docs/a.odt", "a");
-    StartSelected({"a.odt"});
-    DocCopyDialog dialog(host.get(), host->SelectedDocs());
-    Choose(dialog, dst);
-    OnNextModal([](QDialog& folder) {
-        In<QLineEdit>(folder, "nameEdit")->setText("2024/Letters");
-        In<QPushButton>(folder, "okButton")->click();
-    });
-    In<QPushButton>(dialog, "folderButton")->click();
-    EXPECT_EQ(ChosenDir(dialog), dst + "/2024/Letters");
-    In<QPushButton>(dialog, "okButton")->click();
-    EXPECT_EQ(dir.Read("dst/2024/Letters/a.odt"), "a");
-    EXPECT_TRUE(infos.empty());
 }
 
 TEST_F(FileDialogTest, TheFolderDialogNeedsANameAndRefusesOneLeavingItsBase)
