@@ -135,19 +135,6 @@ TEST_F(GroupsDialogTest, OpensOnTheActualGroupAndProtectsTheFirstGroup)
     EXPECT_TRUE(Button("newButton")->isHidden());
 }
 
-TEST_F(GroupsDialogTest, NewMakesAFreeNameInTheNewSectionFromTheSettingsInForce)
-{
-    Open({{standard, "General"}, {stem + "2", "Work"}, {stem + "1", "Work"}}, 0);
-    Settings().WorkingGroup().sortColumnId = 7;
-    Button("newButton")->click();
-    EXPECT_EQ(Texts(List()), Names());
-    EXPECT_EQ(List()->currentRow(), 3);
-    EXPECT_EQ(Settings().Group(3).groupName, stem + "3");
-    EXPECT_EQ(Settings().Group(3).section, ResString(15716));
-    EXPECT_EQ(Settings().Group(3).sortColumnId, 7);
-    EXPECT_EQ(NameEdit()->text().toStdString(), stem + "3");
-}
-
 TEST_F(GroupsDialogTest, RenamingDropsBlanksAndMovesTheGroupToTheEnd)
 {
     Open({{standard, "General"}, {"Alpha", "Work"}, {"Beta", "Work"}, {"Gamma", "Home"}}, 1);
@@ -214,10 +201,17 @@ TEST_F(GroupsDialogTest, DeletingSelectsTheNewLastAndEmptiesTheListAtTheEnd)
     EXPECT_EQ(StoredGroup("0"), "");  // the removal was written at once
 }
 
-TEST_F(GroupsDialogTest, OkSavesAndMakesTheSelectedGroupActual)
+TEST_F(GroupsDialogTest, NewMakesAGroupFromTheSettingsInForceAndOkMakesTheSelectedOneActual)
 {
     Open({{standard, "General"}, {"Alpha", "Work"}, {"Beta", "Home"}}, 1);
+    Settings().WorkingGroup().sortColumnId = 7;
     Button("newButton")->click();
+    EXPECT_EQ(Texts(List()), Names());
+    EXPECT_EQ(List()->currentRow(), 3);
+    EXPECT_EQ(NameEdit()->text().toStdString(), stem + "1");
+    EXPECT_EQ(Settings().Group(3).section, ResString(15716));
+    EXPECT_EQ(Settings().Group(3).sortColumnId, 7);
+
     List()->setCurrentRow(2);
     Button("okButton")->click();
     EXPECT_EQ(dialog->result(), 1);
