@@ -54,27 +54,24 @@ TEST_F(ManagerTest, PathLineShowsTheActivePathsOrTheStartPaths)
     dir.MakeFile("docs/a.odt", "x");
     dir.MakeFile("other/b.odt", "x");
     dir.MakeFile("other/c.odt", "x");
-    // Flags shorter than the paths: the missing ones are off.
     WriteConfig({{"Both", "Main", docs + ";" + other + ";" + dir.Path(), "01"}});
-    Start();
-    EXPECT_EQ(host->GetPathLine(), "2 documents in " + other);
-
-    // No active path: the start paths are read.
-    Settings().WorkingGroup().guis = "000";
-    host->CollectFiles();
-    EXPECT_EQ(host->GetPathLine(), "0 documents in ");
-    host.reset();
-
-    Start(true, docs);
-    Settings().WorkingGroup().guis = "";
-    host->CollectFiles();
-    EXPECT_EQ(host->GetPathLine(), "1 documents in " + docs);
-    host.reset();
-
-    Start(true, "/**");  // the bare subdirectory marker means no start path
-    Settings().WorkingGroup().guis = "";
-    host->CollectFiles();
-    EXPECT_EQ(host->GetPathLine(), "0 documents in ");
+    const struct {
+        std::string startPaths;
+        const char* guis;
+        std::string line;
+    } table[] = {
+        {"", "01", "2 documents in " + other},  // flags shorter than the paths: the missing ones are off
+        {"", "000", "0 documents in "},          // no active path: the start paths are read
+        {docs, "", "1 documents in " + docs},
+        {"/**", "", "0 documents in "},          // the bare subdirectory marker means no start path
+    };
+    for (const auto& row : table) {
+        host.reset();
+        Start(true, row.startPaths);
+        Settings().WorkingGroup().guis = row.guis;
+        host->CollectFiles();
+        EXPECT_EQ(host->GetPathLine(), row.line) << "'" << row.startPaths << "', flags " << row.guis;
+    }
 }
 
 TEST_F(ManagerTest, WithoutAHostConfigurationDmgdumpCfgIsUsed)
