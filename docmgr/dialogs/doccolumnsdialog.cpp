@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "docmgr/config/impldocconfig.h"
+#include "docmgr/dialogs/columnmove.h"
 #include "docmgr/ui/dialogtext.h"
 #include "docmgr/ui/waitcursor.h"
 #include "docmgr/records/docfields.h"
@@ -133,13 +134,7 @@ void DocColumnsDialog::UpHdl()
     if (p < 1)
         return;
     SwapEntries(p - 1, p - 1);
-    const int s = SeparatorPos();
-    if (s == p - 1 || s == p)
-        return;  // the separator moved: only the frozen count changes
-    if (s < p)
-        std::swap(columnOrder_[p - 2], columnOrder_[p - 1]);
-    else
-        std::swap(columnOrder_[p - 1], columnOrder_[p]);
+    SwapSlots(p - 1);
 }
 
 void DocColumnsDialog::DownHdl()
@@ -148,13 +143,14 @@ void DocColumnsDialog::DownHdl()
     if (p < 0 || p >= kLastPos)
         return;
     SwapEntries(p, p + 1);
-    const int s = SeparatorPos();
-    if (s == p || s == p + 1)
-        return;
-    if (s < p)
-        std::swap(columnOrder_[p - 1], columnOrder_[p]);
-    else
-        std::swap(columnOrder_[p], columnOrder_[p + 1]);
+    SwapSlots(p);
+}
+
+void DocColumnsDialog::SwapSlots(int upper)
+{
+    const int slot = columnmove::SwappedSlot(upper, SeparatorPos());
+    if (slot >= 0)
+        std::swap(columnOrder_[size_t(slot)], columnOrder_[size_t(slot) + 1]);
 }
 
 void DocColumnsDialog::OKHdl()

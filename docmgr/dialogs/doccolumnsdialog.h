@@ -37,6 +37,8 @@ private:
     int SeparatorPos() const;
     // Exchanges list entries `a` and `a + 1` and selects `select`.
     void SwapEntries(int a, int select);
+    // Exchanges the ids of the slots behind the list entries `upper` and `upper + 1`.
+    void SwapSlots(int upper);
 
     ImplDocConfig* config_;
     unsigned short group_;

@@ -21,7 +21,7 @@
 #include "docmgr/dialogs/docfilterdialog.h"
 #include "docmgr/dialogs/docpathsdialog.h"
 #include "docmgr/dialogs/docsortdialog.h"
-#include "docmgr/tools/textcase.h"
+#include "docmgr/dialogs/groupnames.h"
 
 namespace {
 constexpr uint16_t kDialog = 15705;
@@ -30,10 +30,7 @@ constexpr uint16_t kNewSection = 15716;
 constexpr uint16_t kNewNameStem = 15719;
 
 QString Q(const std::string& text) { return QString::fromStdString(text); }
-QString WithoutBlanks(const QString& text)
-{
-    return Q(textcase::EraseBlanks(text.toStdString()));
-}
+using groupnames::WithoutBlanks;
 
 template <class W>
 W* Named(W* widget, const char* name)
@@ -245,10 +242,8 @@ void DocGroupsDialog::SelectHdl()
 
 void DocGroupsDialog::ModifyHdl()
 {
-    const QString name = WithoutBlanks(nameEdit_->text());
-    const QString section = WithoutBlanks(sectionBox_->currentText());
-    changeButton_->setEnabled(!name.isEmpty() && !section.isEmpty() &&
-                              (!ListHolds(name) || name == SelectedName()));
+    changeButton_->setEnabled(groupnames::CanChange(nameEdit_->text(), sectionBox_->currentText(), SelectedName(),
+                                                    [this](const QString& name) { return ListHolds(name); }));
 }
 
 void DocGroupsDialog::ChangeHdl()
@@ -308,13 +303,8 @@ void DocGroupsDialog::ChangeHdl()
 
 void DocGroupsDialog::NewHdl()
 {
-    const QString stem = DocResString(kNewNameStem);
-    QString name;
-    for (unsigned n = 1;; ++n) {
-        name = stem + QString::number(n);
-        if (!ListHolds(name))
-            break;
-    }
+    const QString name = groupnames::NewName(DocResString(kNewNameStem),
+                                             [this](const QString& taken) { return ListHolds(taken); });
     groupList_->addItem(name);
     const unsigned short pos = static_cast<unsigned short>(groupList_->count() - 1);
     SelectRow(pos);

@@ -14,8 +14,8 @@
 #include "docmgr/config/pathrules.h"
 #include "docmgr/ui/dialogtext.h"
 #include "docmgr/dialogs/docdirbox.h"
+#include "docmgr/dialogs/pathentries.h"
 #include "docmgr/ui/waitcursor.h"
-#include "docmgr/tools/tokens.h"
 
 namespace {
 constexpr uint16_t kDialog = 15701;
@@ -89,24 +89,17 @@ DocPathsDialog::DocPathsDialog(QWidget* parent, ImplDocConfig* config, unsigned 
     connect(pathList_, &QListWidget::currentRowChanged, this, &DocPathsDialog::PathsHdl);
     connect(dirTree_, &DocDirBox::DirSelected, this, &DocPathsDialog::DirectoriesHdl);
 
-    // Shown entries (flag "1") in stored order; the rest is kept aside with its flag.
+    // Shown entries in stored order; the rest is kept aside with its flag.
     const DocGroupConfig& g = config_->Group(group_);
-    const unsigned short count = tokens::Count(g.paths, ';');
+    pathentries::Entries entries = pathentries::Split(g.paths, g.guis);
     {
         const QSignalBlocker blocker(pathList_);
-        for (unsigned short i = 0; i < count; ++i) {
-            const std::string path = tokens::Get(g.paths, i, ';');
-            // A missing flag is "0": the entry is inactive, as the list collection reads it.
-            const char flag = i < g.guis.size() ? g.guis[i] : '0';
-            if (flag == '1') {
-                pathList_->addItem(Q(path));
-            } else {
-                hiddenPaths_ += path + ';';
-                hiddenFlags_ += flag;
-            }
-        }
+        for (const std::string& path : entries.shown)
+            pathList_->addItem(Q(path));
         pathList_->setCurrentRow(0);
     }
+    entries.shown.clear();
+    hidden_ = std::move(entries);
     PathsHdl();
     DirectoriesHdl();
 
@@ -202,20 +195,11 @@ void DocPathsDialog::OKHdl()
 {
     ScopedWaitCursor wait;
     DocGroupConfig& g = config_->Group(group_);
-    g.paths.clear();
-    g.guis.clear();
-    for (int i = 0; i < pathList_->count(); ++i) {
-        if (i > 0)
-            g.paths += ';';
-        g.paths += pathList_->item(i)->text().toStdString();
-        g.guis += '1';
-    }
-    // Every hidden entry gets the first hidden entry's flag; kept so on purpose.
-    for (size_t i = 0; i < hiddenFlags_.size(); ++i) {
-        if (!g.paths.empty())
-            g.paths += ';';
-        g.paths += tokens::Get(hiddenPaths_, static_cast<unsigned short>(i), ';');
-        g.guis += hiddenFlags_[0];
-    }
+    pathentries::Entries entries = hidden_;
+    for (int i = 0; i < pathList_->count(); ++i)
+        entries.shown.push_back(pathList_->item(i)->text().toStdString());
+    const pathentries::Stored stored = pathentries::Join(entries);
+    g.paths = stored.paths;
+    g.guis = stored.guis;
     done(1);
 }

@@ -2,6 +2,8 @@
 #include <QDialog>
 #include <string>
 
+#include "docmgr/dialogs/pathentries.h"
+
 class DocDirBox;
 class ImplDocConfig;
 class QCheckBox;
@@ -43,6 +45,5 @@ private:
     QGroupBox* frame_;
     QPushButton* okButton_;
     QPushButton* cancelButton_;
-    std::string hiddenPaths_;  // entries not shown, each followed by ";"
-    std::string hiddenFlags_;  // one flag character per hidden entry
+    pathentries::Entries hidden_;  // the entries not shown, with their flags
 };

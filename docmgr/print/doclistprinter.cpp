@@ -5,6 +5,7 @@
 #include <QPrinter>
 #include <algorithm>
 
+#include "docmgr/print/pageplan.h"
 #include "docmgr/view/docbrowser.h"
 
 namespace {
@@ -70,38 +71,21 @@ std::map<uint16_t, uint16_t> DocListPrinter::ColumnWidths(const QSet<QString>& t
 int DocListPrinter::FittingColumns(const QSet<QString>& titles) const
 {
     const QFontMetrics metrics(font_, &printer_);
-    const long charWidth = metrics.horizontalAdvance(QLatin1Char('X'));
-    const long pageWidth = printer_.width();
-    int fitting = 0;
-    long x = 0;
-    for (const auto& [id, width] : ColumnWidths(titles)) {
-        // A column fits when its title and its texts start on the page and its widest
-        // text ends on it.
-        x += long(width) * charWidth;
-        if (x > pageWidth)
-            break;
-        ++fitting;
-    }
-    return fitting;
+    return pageplan::FittingColumns(ColumnWidths(titles), metrics.horizontalAdvance(QLatin1Char('X')),
+                                    printer_.width());
 }
 
 bool DocListPrinter::PrintPage(unsigned short page, const QSet<QString>& titles)
 {
-    if (!IsJobRunning() || page == 0)
+    if (!IsJobRunning())
         return false;
     const QFontMetrics metrics(font_, &printer_);
-    const long pageHeight = printer_.height();
     const long lineHeight = metrics.height();
     const int charWidth = metrics.horizontalAdvance(QLatin1Char('X'));
     if (lineHeight <= 0)
         return false;
-    const long lines = pageHeight / lineHeight;
-    if (lines <= 1)
-        return false;
-    const long first = long(page - 1) * (lines - 1);
-    const long end = std::min(first + lines - 1, browser_.GetRowCount());
-    // A list that fills its pages exactly still gets a last page with the header only.
-    if (first > end)
+    const auto rows = pageplan::RowsOnPage(page, printer_.height() / lineHeight, browser_.GetRowCount());
+    if (!rows)
         return false;
 
     if (!widthsValid_ || widthTitles_ != titles) {
@@ -125,8 +109,8 @@ bool DocListPrinter::PrintPage(unsigned short page, const QSet<QString>& titles)
         y += lineHeight;
     };
     drawLine([&](uint16_t id) { return QString::fromStdString(browser_.GetColumnTitle(id)); });
-    const auto& rows = browser_.GetRowList().Rows();
-    for (long r = first; r < end; ++r)
-        drawLine([&](uint16_t id) { return QString::fromStdString(browser_.GetFieldString(*rows[size_t(r)], id)); });
+    const auto& list = browser_.GetRowList().Rows();
+    for (long r = rows->first; r < rows->end; ++r)
+        drawLine([&](uint16_t id) { return QString::fromStdString(browser_.GetFieldString(*list[size_t(r)], id)); });
     return true;
 }

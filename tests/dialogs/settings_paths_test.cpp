@@ -1,71 +1,76 @@
 // The paths dialog: shown and hidden entries, the subdirectory marker, adding from the tree.
-#include <QCheckBox>
-#include <QPushButton>
 #include <QTest>
 
 #include "docmgr/config/pathrules.h"
 #include "docmgr/dialogs/docdirbox.h"
 #include "docmgr/dialogs/docpathsdialog.h"
-#include "tests/dialogs/settings_fixture.h"
+#include "docmgr/dialogs/pathentries.h"
+#include "tests/support/managerfixture.h"
 
 namespace {
 
-class PathsDialogTest : public SettingsTest {
-protected:
-    QPushButton* Button(const DocPathsDialog& dialog, const char* name) { return Child<QPushButton>(dialog, name); }
-    QListWidget* List(const DocPathsDialog& dialog) { return Child<QListWidget>(dialog, "pathList"); }
-    QCheckBox* Include(const DocPathsDialog& dialog) { return Child<QCheckBox>(dialog, "includeBox"); }
-    void Ok(DocPathsDialog& dialog) { Button(dialog, "okButton")->click(); }
-};
-
-TEST_F(PathsDialogTest, HiddenEntriesAreKeptAfterTheShownOnesWithTheFirstHiddenFlag)
+TEST(PathEntries, HiddenEntriesGoAfterTheShownOnesWithTheFirstHiddenFlag)
 {
-    Working().paths = "P1;P2;P3";
-    Working().guis = "011";
-    {
-        DocPathsDialog dialog(nullptr, &config, WORKING_GROUP);
-        EXPECT_EQ(Texts(*List(dialog)), (std::vector<std::string>{"P2", "P3"}));
-        Ok(dialog);
-        EXPECT_EQ(dialog.result(), 1);
+    using Strings = std::vector<std::string>;
+    const struct {
+        const char* paths;
+        const char* guis;
+        Strings shown;
+        const char* storedPaths;
+        const char* storedGuis;
+    } table[] = {
+        {"P1;P2;P3", "011", {"P2", "P3"}, "P2;P3;P1", "110"},
+        {"A;B;C;D;E", "21x1", {"B", "D"}, "B;D;A;C;E", "11222"},  // a missing flag is hidden
+        {"A;B", "11", {"A", "B"}, "A;B", "11"},
+        {"A;B", "", {}, "A;B", "00"},
+    };
+    for (const auto& row : table) {
+        SCOPED_TRACE(std::string(row.paths) + " / " + row.guis);
+        const pathentries::Entries entries = pathentries::Split(row.paths, row.guis);
+        EXPECT_EQ(entries.shown, row.shown);
+        const pathentries::Stored stored = pathentries::Join(entries);
+        EXPECT_EQ(stored.paths, row.storedPaths);
+        EXPECT_EQ(stored.guis, row.storedGuis);
     }
-    EXPECT_EQ(Working().paths, "P2;P3;P1");
-    EXPECT_EQ(Working().guis, "110");
-
-    // Every hidden entry takes the first hidden flag; a missing flag counts as hidden.
-    Working().paths = "A;B;C;D;E";
-    Working().guis = "21x1";
-    {
-        DocPathsDialog dialog(nullptr, &config, WORKING_GROUP);
-        EXPECT_EQ(Texts(*List(dialog)), (std::vector<std::string>{"B", "D"}));
-        Ok(dialog);
-    }
-    EXPECT_EQ(Working().paths, "B;D;A;C;E");
-    EXPECT_EQ(Working().guis, "11222");
+    // What the user removed from the list is gone; the hidden entries stay.
+    pathentries::Entries edited = pathentries::Split("P1;P2;P3", "100");
+    edited.shown = {"N"};
+    EXPECT_EQ(pathentries::Join(edited).paths, "N;P2;P3");
+    EXPECT_EQ(pathentries::Join(edited).guis, "100");
 }
+
+class PathsDialogTest : public ManagerTest {
+protected:
+    void SetUp() override
+    {
+        WriteDefaultConfig();
+        Start();
+    }
+    DocGroupConfig& Working() { return Settings().WorkingGroup(); }
+    static QPushButton* Button(const DocPathsDialog& dialog, const char* name) { return In<QPushButton>(dialog, name); }
+    static QListWidget* List(const DocPathsDialog& dialog) { return In<QListWidget>(dialog, "pathList"); }
+    static QCheckBox* Include(const DocPathsDialog& dialog) { return In<QCheckBox>(dialog, "includeBox"); }
+};
 
 TEST_F(PathsDialogTest, IncludeBoxFollowsAndTogglesTheEntrysMarker)
 {
     Working().paths = "/data;/docs/**";
     Working().guis = "11";
-    DocPathsDialog dialog(nullptr, &config, WORKING_GROUP);
+    DocPathsDialog dialog(nullptr, &Settings(), WORKING_GROUP);
     QListWidget* list = List(dialog);
     QCheckBox* include = Include(dialog);
     EXPECT_EQ(list->currentRow(), 0);
-    EXPECT_TRUE(include->isEnabled());
     EXPECT_FALSE(include->isChecked());
     list->setCurrentRow(1);
     EXPECT_TRUE(include->isChecked());
-
     include->click();
     EXPECT_EQ(list->item(1)->text().toStdString(), "/docs");
     EXPECT_FALSE(include->isChecked());
     list->setCurrentRow(0);
     include->click();
     EXPECT_EQ(list->item(0)->text().toStdString(), "/data/**");
-    EXPECT_EQ(list->currentRow(), 0);
-    Ok(dialog);
+    Button(dialog, "okButton")->click();
     EXPECT_EQ(Working().paths, "/data/**;/docs");
-    EXPECT_EQ(Working().guis, "11");
 }
 
 TEST_F(PathsDialogTest, AddingTakesTheTreesDirectoryOnce)
@@ -74,8 +79,8 @@ TEST_F(PathsDialogTest, AddingTakesTheTreesDirectoryOnce)
     dir.MakeDir("two");
     Working().paths = WithSub(dir.PathOf("two"));
     Working().guis = "1";
-    DocPathsDialog dialog(nullptr, &config, WORKING_GROUP);
-    DocDirBox* tree = Child<DocDirBox>(dialog, "dirTree");
+    DocPathsDialog dialog(nullptr, &Settings(), WORKING_GROUP);
+    DocDirBox* tree = In<DocDirBox>(dialog, "dirTree");
     QPushButton* add = Button(dialog, "addButton");
     ASSERT_EQ(tree, dialog.GetDirBox());
 
@@ -84,19 +89,15 @@ TEST_F(PathsDialogTest, AddingTakesTheTreesDirectoryOnce)
     dialog.show();
     QTest::keyClick(tree, Qt::Key_Return);  // opens the entry; the dialog stays
     EXPECT_TRUE(dialog.isVisible());
-    EXPECT_EQ(tree->item(tree->GetSelectedPos())->text().trimmed().toStdString(), "+ one");
     add->click();
-    EXPECT_EQ(Texts(*List(dialog)), (std::vector<std::string>{WithSub(dir.PathOf("two")), dir.PathOf("one")}));
+    EXPECT_EQ(Texts(List(dialog)), (std::vector<std::string>{WithSub(dir.PathOf("two")), dir.PathOf("one")}));
     EXPECT_EQ(List(dialog)->currentRow(), 1);
-    EXPECT_FALSE(Include(dialog)->isChecked());
     EXPECT_FALSE(add->isEnabled());
 
     // A listed directory, with or without its marker, cannot be added again.
-    tree->setCurrentRow(tree->GetSelectedPos() + 1);
-    EXPECT_EQ(tree->GetDir(tree->GetSelectedPos()), dir.PathOf("two"));
+    tree->SelectDir(dir.PathOf("two"));
     EXPECT_FALSE(add->isEnabled());
-    tree->setCurrentRow(tree->GetSelectedPos() - 2);
-    EXPECT_EQ(tree->GetDir(tree->GetSelectedPos()), dir.Path());
+    tree->SelectDir(dir.Path());
     EXPECT_TRUE(add->isEnabled());
 }
 
@@ -104,60 +105,51 @@ TEST_F(PathsDialogTest, RemovingSelectsTheNeighbourAndReenablesAdd)
 {
     Working().paths = "P1;P2;P3";
     Working().guis = "111";
-    DocPathsDialog dialog(nullptr, &config, WORKING_GROUP);
+    DocPathsDialog dialog(nullptr, &Settings(), WORKING_GROUP);
     QListWidget* list = List(dialog);
     QPushButton* add = Button(dialog, "addButton");
     QPushButton* remove = Button(dialog, "removeButton");
-    QPushButton* removeAll = Button(dialog, "removeAllButton");
 
     list->setCurrentRow(2);
     add->setEnabled(false);
     remove->click();
-    EXPECT_EQ(Texts(*list), (std::vector<std::string>{"P1", "P2"}));
+    EXPECT_EQ(Texts(list), (std::vector<std::string>{"P1", "P2"}));
     EXPECT_EQ(list->currentRow(), 1);
     EXPECT_TRUE(add->isEnabled());
     list->setCurrentRow(0);
     remove->click();
-    EXPECT_EQ(list->currentRow(), 0);
     EXPECT_EQ(list->currentItem()->text().toStdString(), "P2");
 
-    Include(dialog)->click();
-    EXPECT_EQ(list->item(0)->text().toStdString(), "P2/**");
-    EXPECT_TRUE(Include(dialog)->isChecked());
     add->setEnabled(false);
-    removeAll->click();
+    Button(dialog, "removeAllButton")->click();
     EXPECT_EQ(list->count(), 0);
     EXPECT_FALSE(remove->isEnabled());
-    EXPECT_FALSE(removeAll->isEnabled());
+    EXPECT_FALSE(Button(dialog, "removeAllButton")->isEnabled());
     EXPECT_FALSE(Include(dialog)->isEnabled());
-    EXPECT_FALSE(Include(dialog)->isChecked());
     EXPECT_TRUE(add->isEnabled());
-    Ok(dialog);
+    Button(dialog, "okButton")->click();
     EXPECT_EQ(Working().paths, "");
-    EXPECT_EQ(Working().guis, "");
 }
 
-TEST_F(PathsDialogTest, CancelKeepsTheGroupAndTheGroupNumberPicksTheGroup)
+TEST_F(PathsDialogTest, OkStoresTheListBeforeTheHiddenEntriesCancelNothing)
 {
     Working().paths = "W";
-    Working().guis = "1";
-    config.Group(0).paths = "G1;G2";
-    config.Group(0).guis = "10";
+    Settings().Group(0).paths = "G1;G2;G3";
+    Settings().Group(0).guis = "101";
     {
-        DocPathsDialog dialog(nullptr, &config, 0);
-        EXPECT_EQ(Texts(*List(dialog)), (std::vector<std::string>{"G1"}));
+        DocPathsDialog dialog(nullptr, &Settings(), 0);
+        EXPECT_EQ(Texts(List(dialog)), (std::vector<std::string>{"G1", "G3"}));
         Button(dialog, "removeAllButton")->click();
         Button(dialog, "cancelButton")->click();
         EXPECT_EQ(dialog.result(), 0);
     }
-    EXPECT_EQ(config.Group(0).paths, "G1;G2");
-    {
-        DocPathsDialog dialog(nullptr, &config, 0);
-        Button(dialog, "removeAllButton")->click();
-        Ok(dialog);
-    }
-    EXPECT_EQ(config.Group(0).paths, "G2");
-    EXPECT_EQ(config.Group(0).guis, "0");
+    EXPECT_EQ(Settings().Group(0).paths, "G1;G2;G3");
+    DocPathsDialog dialog(nullptr, &Settings(), 0);
+    List(dialog)->setCurrentRow(0);
+    Button(dialog, "removeButton")->click();
+    Button(dialog, "okButton")->click();
+    EXPECT_EQ(Settings().Group(0).paths, "G3;G2");  // the listed entries before the hidden ones
+    EXPECT_EQ(Settings().Group(0).guis, "10");
     EXPECT_EQ(Working().paths, "W");
 }
 

@@ -4,49 +4,41 @@
 #include "docmgr/view/docsummarywindow.h"
 #include "tests/support/managerfixture.h"
 
-TEST_F(ManagerTest, ExecuteEndsWithCloseOrOpen)
+TEST_F(ManagerTest, ExecuteEndsWithCloseOrOpenAndASecondRunCollectsAgainWithTheSameSettings)
 {
     WriteDefaultConfig();
-    dir.MakeFile("docs/a.odt", "x");
+    MakeDocs({"a.odt"});
     MakeHost();
-    managerloop::RunInManager(*host, [this] { Child<QPushButton>("closeButton")->click(); });
+    RunInManager([this] {
+        EXPECT_EQ(RowNames(), std::vector<std::string>{"a.odt"});
+        Child<QPushButton>("closeButton")->click();
+    });
     EXPECT_EQ(host->result(), 0);
 
+    // The file changes on disk; the running manager does not read it again.
+    WriteConfig({{"Elsewhere", "Other", dir.MakeDir("other"), "1"}});
+    dir.MakeFile("docs/b.odt", "x");
     QTimer::singleShot(0, host.get(), [this] {
+        EXPECT_EQ(host->GetSelectedGroupName(), "Docs");
+        EXPECT_EQ(Browser().GetRowCount(), 2);
         Select({"a.odt"});
         Child<QCheckBox>("readOnlyBox")->setChecked(true);
         Child<QPushButton>("openButton")->click();
     });
     EXPECT_EQ(host->Execute(), 1);
     EXPECT_TRUE(host->IsReadOnly());
-    EXPECT_EQ(*host->GetFirstDoc(), docs + "/a.odt");
+    EXPECT_EQ(host->SelectedDocs(), std::vector<std::string>{docs + "/a.odt"});
     EXPECT_EQ(host->GetConfig().rfind("@DocManager[2.1]", 0), 0u);
     EXPECT_TRUE(host->IsAvailable());
     EXPECT_EQ(host->windowTitle(), "Document Manager");
     EXPECT_EQ(Child<QPushButton>("openButton")->text(), "&Open");
 }
 
-TEST_F(ManagerTest, ASecondExecuteCollectsAgainButKeepsTheSettings)
-{
-    WriteDefaultConfig();
-    dir.MakeFile("docs/a.odt", "x");
-    MakeHost();
-    managerloop::RunInManager(*host, [] {});
-    EXPECT_EQ(RowNames(), std::vector<std::string>{"a.odt"});
-
-    // The file changes on disk; the running manager does not read it again.
-    WriteConfig({{"Elsewhere", "Other", dir.MakeDir("other"), "1"}});
-    dir.MakeFile("docs/b.odt", "x");
-    managerloop::RunInManager(*host, [] {});
-    EXPECT_EQ(host->GetSelectedGroupName(), "Docs");
-    EXPECT_EQ(Browser().GetRowCount(), 2);
-}
-
 TEST_F(ManagerTest, ClosingSavesTheViewMode)
 {
     WriteDefaultConfig();
     MakeHost();
-    managerloop::RunInManager(*host, [this] {
+    RunInManager([this] {
         Child<QCheckBox>("singleViewBox")->click();
         EXPECT_NE(host->GetSummaryWindow(), nullptr);
         host->reject();  // Escape acts as the close button
@@ -62,27 +54,24 @@ TEST_F(ManagerTest, PathLineShowsTheActivePathsOrTheStartPaths)
     dir.MakeFile("docs/a.odt", "x");
     dir.MakeFile("other/b.odt", "x");
     dir.MakeFile("other/c.odt", "x");
-    // Flags shorter than the paths: the missing ones are off.
     WriteConfig({{"Both", "Main", docs + ";" + other + ";" + dir.Path(), "01"}});
-    Start();
-    EXPECT_EQ(host->GetPathLine(), "2 documents in " + other);
-
-    // No active path: the start paths are read.
-    Settings().WorkingGroup().guis = "000";
-    host->CollectFiles();
-    EXPECT_EQ(host->GetPathLine(), "0 documents in ");
-    host.reset();
-
-    Start(true, docs);
-    Settings().WorkingGroup().guis = "";
-    host->CollectFiles();
-    EXPECT_EQ(host->GetPathLine(), "1 documents in " + docs);
-    host.reset();
-
-    Start(true, "/**");  // the bare subdirectory marker means no start path
-    Settings().WorkingGroup().guis = "";
-    host->CollectFiles();
-    EXPECT_EQ(host->GetPathLine(), "0 documents in ");
+    const struct {
+        std::string startPaths;
+        const char* guis;
+        std::string line;
+    } table[] = {
+        {"", "01", "2 documents in " + other},  // flags shorter than the paths: the missing ones are off
+        {"", "000", "0 documents in "},          // no active path: the start paths are read
+        {docs, "", "1 documents in " + docs},
+        {"/**", "", "0 documents in "},          // the bare subdirectory marker means no start path
+    };
+    for (const auto& row : table) {
+        host.reset();
+        Start(true, row.startPaths);
+        Settings().WorkingGroup().guis = row.guis;
+        host->CollectFiles();
+        EXPECT_EQ(host->GetPathLine(), row.line) << "'" << row.startPaths << "', flags " << row.guis;
+    }
 }
 
 TEST_F(ManagerTest, WithoutAHostConfigurationDmgdumpCfgIsUsed)

@@ -44,7 +44,7 @@ TEST_F(SectionsTest, AFileWithoutAGeneralSectionOpensOnItsFirstGroup)
     EXPECT_EQ(RowNames(), std::vector<std::string>{"a1.odt"});
 }
 
-TEST_F(SectionsTest, SectionsAppearOnceInTheOrderOfTheirFirstGroup)
+TEST_F(SectionsTest, SectionsAppearOnceAndChoosingOneMakesItsFirstGroupCurrent)
 {
     Start();
     EXPECT_EQ(Texts(Sections()), (std::vector<std::string>{"Work", "Home"}));
@@ -53,12 +53,7 @@ TEST_F(SectionsTest, SectionsAppearOnceInTheOrderOfTheirFirstGroup)
     EXPECT_EQ(host->GetSelectedGroupName(), "Gamma");
     EXPECT_EQ(RowNames(), std::vector<std::string>{"c1.odt"});
     EXPECT_EQ(Child<QLabel>("sectionLabel")->text(), "S&ection");
-    EXPECT_EQ(Child<QLabel>("groupLabel")->text(), "Gro&up");
-}
 
-TEST_F(SectionsTest, ChoosingASectionMakesItsFirstGroupCurrent)
-{
-    Start();
     Sections()->setCurrentRow(1);  // "Home", as a click does
     EXPECT_EQ(Texts(Groups()), std::vector<std::string>{"Beta"});
     EXPECT_EQ(Groups()->currentRow(), 0);
@@ -103,13 +98,4 @@ TEST_F(SectionsTest, RefusedChangesAreDroppedForTheFirstGroup)
     EXPECT_EQ(Settings().actualGroup, 1);
     EXPECT_EQ(Settings().WorkingGroup().groupName, "Alpha");
     EXPECT_EQ(Settings().WorkingGroup().filterTitle, "");
-}
-
-TEST_F(SectionsTest, NothingIsAskedWithoutAChange)
-{
-    Start();
-    AnswerBoxes(RET_YES);
-    host->OpenHdl();
-    EXPECT_TRUE(queries.empty());
-    EXPECT_EQ(host->result(), 1);
 }

@@ -1,5 +1,5 @@
 #pragma once
-// Widget tests of the document manager: a configuration file with chosen groups in a
+// The fixture of every widget test: a configuration file with chosen groups in a
 // temporary directory, documents beside it, a TestHost on that configuration, and answers
 // for the message boxes. Header only: the core test programs, which link no widgets,
 // never include it.
@@ -11,6 +11,7 @@
 #include <QToolButton>
 #include <QDialog>
 #include <QLabel>
+#include <QItemSelectionModel>
 #include <QListWidget>
 #include <QTimer>
 #include <functional>
@@ -25,7 +26,6 @@
 #include "docmgr/tools/fsutil.h"
 #include "docmgr/tools/resmgr.h"
 #include "docmgr/view/docbrowser.h"
-#include "tests/support/managerloop.h"
 #include "tests/support/tempdir.h"
 #include "tests/support/testhost.h"
 
@@ -41,9 +41,8 @@ protected:
     ~ManagerTest() override { SetDocBoxAnswerer({}); }
 
     // Writes the configuration file: `groups` as user groups 0..n-1, `actual` as the
-    // stored ACTUALGROUP, `offRights` as access keys set to "OFF".
-    void WriteConfig(const std::vector<GroupSpec>& groups, uint16_t actual = 1,
-                     const std::vector<std::string>& offRights = {}, bool singleView = false)
+    // stored ACTUALGROUP.
+    void WriteConfig(const std::vector<GroupSpec>& groups, uint16_t actual = 1, bool singleView = false)
     {
         Config file(configPath);
         ImplDocConfig config(&file, "*", [](const std::string&) {});
@@ -60,16 +59,28 @@ protected:
         config.singleView = singleView;
         config.SaveConfig();
         config.SaveGeneralSection();
-        file.SetGroup("GENERAL");
-        for (const std::string& key : offRights)
-            file.WriteKey(key, "OFF");
         ASSERT_TRUE(file.Flush());
     }
 
     // One group "Docs" in section "Main" showing the documents directory.
-    void WriteDefaultConfig(const std::vector<std::string>& offRights = {}, bool singleView = false)
+    void WriteDefaultConfig(bool singleView = false)
     {
-        WriteConfig({{"Docs", "Main", docs, "1"}}, 1, offRights, singleView);
+        WriteConfig({{"Docs", "Main", docs, "1"}}, 1, singleView);
+    }
+
+    // Documents of these names in the documents directory.
+    void MakeDocs(std::initializer_list<const char*> names)
+    {
+        for (const char* name : names)
+            dir.MakeFile(std::string("docs/") + name, "x");
+    }
+
+    // The default configuration, these documents and the manager started on them.
+    TestHost& StartWith(std::initializer_list<const char*> names, bool openMode = true)
+    {
+        WriteDefaultConfig();
+        MakeDocs(names);
+        return Start(openMode);
     }
 
     TestHost& MakeHost(bool openMode = true, const std::string& startPaths = {})
@@ -89,9 +100,27 @@ protected:
     DocBrowser& Browser() { return *host->GetBrowser(); }
     ImplDocConfig& Settings() { return *host->GetSettings(); }
 
+    // Selects exactly the rows whose file names are in `names`; how many it selected.
     int Select(const std::set<std::string>& names)
     {
-        return managerloop::SelectFiles(Browser(), names);
+        QItemSelection selection;
+        const std::vector<std::string> rows = RowNames();
+        for (int row = 0; row < int(rows.size()); ++row)
+            if (names.count(rows[size_t(row)]))
+                selection.select(Browser().model()->index(row, 0), Browser().model()->index(row, 0));
+        Browser().selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        return int(selection.size());
+    }
+
+    // Executes the manager (settings read, list collected), runs `body` once its loop is
+    // up, and closes it afterwards with 0.
+    void RunInManager(const std::function<void()>& body)
+    {
+        QTimer::singleShot(0, host.get(), [this, &body] {
+            body();
+            host->done(0);
+        });
+        host->Execute();
     }
 
     std::vector<std::string> RowNames()
@@ -105,8 +134,15 @@ protected:
     template <class W>
     W* Child(const char* name)
     {
-        W* widget = host->findChild<W*>(QLatin1String(name));
-        EXPECT_NE(widget, nullptr) << name;
+        return In<W>(*host, name);
+    }
+
+    // The child `name` of a dialog or other widget.
+    template <class W>
+    static W* In(const QObject& parent, const QString& name)
+    {
+        W* widget = parent.findChild<W*>(name);
+        EXPECT_NE(widget, nullptr) << name.toStdString();
         return widget;
     }
 

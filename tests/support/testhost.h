@@ -17,23 +17,15 @@ public:
 
     // The dialog's steps and handlers, for tests that drive it without a modal loop.
     using DocManager::Init;
-    using DocManager::ResizeBrowser;
-    using DocManager::FillSectionBox;
-    using DocManager::SelectSection;
     using DocManager::QuerySave;
-    using DocManager::CommandsHdl;
-    using DocManager::SectionHdl;
-    using DocManager::GroupHdl;
     using DocManager::SummaryHdl;
     using DocManager::OpenHdl;
-    using DocManager::CloseHdl;
     using DocManager::GroupsHdl;
     using DocManager::PathsHdl;
     using DocManager::FilterHdl;
     using DocManager::SortHdl;
     using DocManager::ColumnsHdl;
     using DocManager::CollectFiles;
-    using DocManager::WatchControls;
     using DocManager::Command;
 
     // What the dialog holds, read through its inside.

@@ -26,11 +26,9 @@ std::string StoredWidth(const std::string& configPath, const char* section, unsi
 }
 }  // namespace
 
-TEST_F(ManagerTest, ColumnsComeFromTheWorkingGroupsSlots)
+TEST_F(ManagerTest, ColumnsComeFromTheWorkingGroupsSlotsAndCellsAreAlignedByKind)
 {
-    WriteDefaultConfig();
-    dir.MakeFile("docs/a.odt", "text");
-    Start();
+    StartWith({"a.odt"});
     DocBrowser& browser = Browser();
     const DocGroupConfig& group = Settings().WorkingGroup();
     ASSERT_EQ(browser.ColCount(), 20);
@@ -60,13 +58,21 @@ TEST_F(ManagerTest, ColumnsComeFromTheWorkingGroupsSlots)
     EXPECT_EQ(browser.columnWidth(1), 123);
     EXPECT_EQ(browser.GetColumnId(2), COL_DIRECTORY);
     EXPECT_EQ(browser.columnWidth(2), 20 * x);
+
+    // The texts are the records' field strings; the view adds their alignment.
+    auto cell = [&](uint16_t id, int role = Qt::DisplayRole) {
+        return browser.model()->data(browser.model()->index(0, ColumnOf(browser, id)), role);
+    };
+    EXPECT_EQ(cell(COL_NAME).toString(), "a.odt");
+    EXPECT_EQ(cell(COL_DIRECTORY).toString().toStdString(), docs);
+    EXPECT_TRUE(cell(COL_SIZE, Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
+    EXPECT_TRUE(cell(COL_TITLE, Qt::TextAlignmentRole).toInt() & Qt::AlignLeft);
+    EXPECT_EQ(browser.GetColumnText(1, COL_TITLE), "");  // no such row
 }
 
-TEST_F(ManagerTest, FrozenColumnsStayWhileTheListScrollsSideways)
+TEST_F(ManagerTest, FrozenColumnsStayWhileTheListScrollsSidewaysAndSingleViewHasNone)
 {
-    WriteDefaultConfig();
-    dir.MakeFile("docs/a.odt", "text");
-    Start();
+    StartWith({"a.odt", "b.odt"});
     host->resize(700, 500);
     host->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(host.get()));
@@ -90,39 +96,27 @@ TEST_F(ManagerTest, FrozenColumnsStayWhileTheListScrollsSideways)
     EXPECT_EQ(frozen->horizontalScrollBar()->value(), 0);
 
     // Selecting through the overlay selects in the list.
-    Select({"a.odt"});
-    EXPECT_TRUE(frozen->selectionModel()->isRowSelected(0, {}));
+    Select({"a.odt", "b.odt"});
+    EXPECT_TRUE(frozen->selectionModel()->isRowSelected(1, {}));
+
+    // Single view: one name column as wide as the list, one row selected, nothing frozen.
+    Child<QCheckBox>("singleViewBox")->click();
+    ASSERT_EQ(browser.ColCount(), 1);
+    EXPECT_EQ(browser.GetColumnId(0), COL_NAME);
+    EXPECT_EQ(browser.columnWidth(0), browser.viewport()->width());
+    EXPECT_EQ(browser.selectionMode(), QAbstractItemView::SingleSelection);
+    EXPECT_EQ(browser.GetSelectedRowCount(), 1);  // the first of the two stays
+    EXPECT_FALSE(frozen->isVisible());
+    Child<QCheckBox>("singleViewBox")->click();
+    EXPECT_EQ(browser.ColCount(), 20);
+    EXPECT_EQ(browser.selectionMode(), QAbstractItemView::ExtendedSelection);
 
     Settings().WorkingGroup().frozenColumns = 0;
     browser.InsertColumns();
     EXPECT_FALSE(frozen->isVisible());
 }
 
-TEST_F(ManagerTest, SingleViewShowsOneNameColumnAsWideAsTheList)
-{
-    WriteDefaultConfig();
-    dir.MakeFile("docs/a.odt", "text");
-    dir.MakeFile("docs/b.odt", "text");
-    Start();
-    host->resize(900, 500);
-    host->show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(host.get()));
-    Select({"a.odt", "b.odt"});
-    Child<QCheckBox>("singleViewBox")->click();
-    DocBrowser& browser = Browser();
-    ASSERT_EQ(browser.ColCount(), 1);
-    EXPECT_EQ(browser.GetColumnId(0), COL_NAME);
-    EXPECT_EQ(browser.columnWidth(0), browser.viewport()->width());
-    EXPECT_EQ(browser.selectionMode(), QAbstractItemView::SingleSelection);
-    EXPECT_EQ(browser.GetSelectedRowCount(), 1);  // the first of the two stays
-    EXPECT_FALSE(browser.GetFrozenView()->isVisible());
-
-    Child<QCheckBox>("singleViewBox")->click();
-    EXPECT_EQ(browser.ColCount(), 20);
-    EXPECT_EQ(browser.selectionMode(), QAbstractItemView::ExtendedSelection);
-}
-
-TEST_F(ManagerTest, HeaderDoubleClickFitsTheColumnAndStoresItsWidth)
+TEST_F(ManagerTest, HeaderDoubleClickFitsTheColumnAndWidthsAreStored)
 {
     WriteDefaultConfig();
     Start();
@@ -159,51 +153,11 @@ TEST_F(ManagerTest, HeaderDoubleClickFitsTheColumnAndStoresItsWidth)
     host->CollectFiles();
     browser.FitColumn(COL_TITLE);
     EXPECT_EQ(browser.columnWidth(titleColumn), browser.viewport()->width() / 2 - 1 + 2);
-}
 
-TEST_F(ManagerTest, AWidthTheUserDragsIsStoredWhenTheButtonIsReleased)
-{
-    WriteDefaultConfig();
-    dir.MakeFile("docs/a.odt", "text");
-    Start();
-    DocBrowser& browser = Browser();
+    // A width the user drags is stored when the button is released.
     browser.setColumnWidth(ColumnOf(browser, COL_AUTHOR), 77);  // as a drag does, step by step
     EXPECT_NE(StoredWidth(configPath, "0", 6), "77");
     QTest::mouseRelease(browser.horizontalHeader()->viewport(), Qt::LeftButton);
-    EXPECT_EQ(Settings().WorkingGroup().columnWidth[6], 77);
     EXPECT_EQ(Settings().Group(0).columnWidth[6], 77);
     EXPECT_EQ(StoredWidth(configPath, "0", 6), "77");
-}
-
-TEST_F(ManagerTest, CellsShowTheFieldTexts)
-{
-    WriteDefaultConfig();
-    dir.MakeFile("docs/empty.odt", "");
-    DocInfo info;
-    info.title = "Plan";
-    info.createdDate = Date(2, 1, 2020);
-    info.createdTime = Time(10, 0, 0);
-    info.modifiedDate = info.createdDate;  // same day, later time
-    info.modifiedTime = Time(11, 30, 0);
-    info.printedDate = info.createdDate;   // never printed
-    info.printedTime = info.createdTime;
-    info.printedBy = "Printer";
-    MakeHost().known["empty.odt"] = info;
-    host->Init();
-    DocBrowser& browser = Browser();
-    ASSERT_EQ(browser.GetRowCount(), 1);
-    auto cell = [&](uint16_t id, int role = Qt::DisplayRole) {
-        return browser.model()->data(browser.model()->index(0, ColumnOf(browser, id)), role);
-    };
-    EXPECT_EQ(cell(COL_NAME).toString(), "empty.odt");
-    EXPECT_EQ(cell(COL_SIZE).toString(), "0");
-    EXPECT_TRUE(cell(COL_SIZE, Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
-    EXPECT_TRUE(cell(COL_TITLE, Qt::TextAlignmentRole).toInt() & Qt::AlignLeft);
-    EXPECT_EQ(cell(COL_TITLE).toString(), "Plan");
-    EXPECT_EQ(cell(COL_MODIFIED_DATE).toString(), "---");
-    EXPECT_NE(cell(COL_MODIFIED_TIME).toString(), "---");
-    EXPECT_EQ(cell(COL_PRINTED_BY).toString(), "---");
-    EXPECT_EQ(cell(COL_DIRECTORY).toString().toStdString(), docs);
-    EXPECT_EQ(browser.GetColumnText(0, COL_TITLE), "Plan");
-    EXPECT_EQ(browser.GetColumnText(1, COL_TITLE), "");  // no such row
 }

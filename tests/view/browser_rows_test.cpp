@@ -3,7 +3,6 @@
 #include <QAbstractItemModelTester>
 #include <QMouseEvent>
 #include <QTest>
-#include <QToolButton>
 
 #include "docmgr/records/docfields.h"
 #include "docmgr/view/collectprogress.h"
@@ -66,10 +65,7 @@ TEST_F(ManagerTest, ModelStaysConsistentThroughCollectSortDeleteAndEdit)
 
 TEST_F(ManagerTest, SelectedDocumentsAreWalkedInRowOrder)
 {
-    WriteDefaultConfig();
-    for (const char* name : {"a.odt", "b.odt", "c.odt", "d.odt", "e.odt"})
-        dir.MakeFile(std::string("docs/") + name, "x");
-    Start();
+    StartWith({"a.odt", "b.odt", "c.odt", "d.odt", "e.odt"});
     Settings().WorkingGroup().sortColumnId = COL_NAME;
     Browser().SortFiles(false);
     EXPECT_EQ(host->GetFirstDoc(), nullptr);
@@ -93,8 +89,7 @@ TEST_F(ManagerTest, SelectedDocumentsAreWalkedInRowOrder)
 TEST_F(ManagerTest, DoubleClickOnARowOpensItWhenOpeningIsPossible)
 {
     WriteDefaultConfig();
-    dir.MakeFile("docs/a.odt", "x");
-    dir.MakeFile("docs/b.odt", "x");
+    MakeDocs({"a.odt", "b.odt"});
     MakeHost();
     QTimer::singleShot(0, host.get(), [this] {
         QTableView& browser = Browser();
@@ -115,10 +110,7 @@ TEST_F(ManagerTest, DoubleClickOnARowOpensItWhenOpeningIsPossible)
 
 TEST_F(ManagerTest, TheFirstDownArrowSelectsTheFirstRow)
 {
-    WriteDefaultConfig();
-    for (const char* name : {"a.odt", "b.odt", "c.odt"})
-        dir.MakeFile(std::string("docs/") + name, "x");
-    Start();
+    StartWith({"a.odt", "b.odt", "c.odt"});
     host->show();
     QApplication::setActiveWindow(host.get());
     Browser().setFocus(Qt::TabFocusReason);  // the focus makes row 0 current, unselected
@@ -129,54 +121,9 @@ TEST_F(ManagerTest, TheFirstDownArrowSelectsTheFirstRow)
     EXPECT_EQ(Browser().GetFirstSelectedRow(), 1);
 }
 
-TEST_F(ManagerTest, ContextMenuIsEnabledByTheRightsAlone)
-{
-    WriteDefaultConfig();
-    for (const char* name : {"a.odt", "b.odt", "c.odt"})
-        dir.MakeFile(std::string("docs/") + name, "x");
-    Start(false);  // not in open mode
-    EXPECT_EQ(Browser().CreateContextMenu(), nullptr);  // no selection, no menu
-
-    Select({"a.odt", "b.odt", "c.odt"});
-    auto menu = Browser().CreateContextMenu();
-    ASSERT_NE(menu, nullptr);
-    auto* commands = Child<QToolButton>("commandsButton")->menu();
-    auto enabled = [](QMenu* m, unsigned short id) {
-        for (QAction* item : m->actions())
-            if (DocCommandMenu::ItemId(item) == id)
-                return item->isEnabled();
-        ADD_FAILURE() << "no item " << id;
-        return false;
-    };
-    // Rename, information and print documents: the list's menu offers them, the
-    // commands button's menu does not (three rows, and no open mode).
-    for (unsigned short id : {CMD_RENAME, CMD_DOCINFO, CMD_PRINTDOCS}) {
-        EXPECT_TRUE(enabled(menu.get(), id)) << id;
-        EXPECT_FALSE(enabled(commands, id)) << id;
-    }
-    for (unsigned short id : {CMD_DELETE, CMD_COPY, CMD_PRINTLIST})
-        EXPECT_TRUE(enabled(menu.get(), id)) << id;
-
-    // Each right switches its own item off.
-    const std::pair<uint16_t, unsigned short> rights[] = {{ACCESS_FILEDELETE, CMD_DELETE},
-                                                          {ACCESS_FILECOPY, CMD_COPY},
-                                                          {ACCESS_FILEPRINT, CMD_PRINTDOCS},
-                                                          {ACCESS_FILERENAME, CMD_RENAME}};
-    for (const auto& [bit, id] : rights) {
-        Settings().access = uint16_t(0x0F & ~bit);
-        auto restricted = Browser().CreateContextMenu();
-        for (const auto& [otherBit, otherId] : rights)
-            EXPECT_EQ(enabled(restricted.get(), otherId), otherBit != bit) << bit << " " << otherId;
-        EXPECT_TRUE(enabled(restricted.get(), CMD_DOCINFO));
-        EXPECT_TRUE(enabled(restricted.get(), CMD_PRINTLIST));
-    }
-}
-
 TEST_F(ManagerTest, EditedDocumentInformationIsShownAnew)
 {
-    WriteDefaultConfig();
-    dir.MakeFile("docs/a.odt", "x");
-    Start();
+    StartWith({"a.odt"});
     Select({"a.odt"});
     const int calls = host->createCalls;
     host->known["a.odt"].title = "New title";

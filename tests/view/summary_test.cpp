@@ -22,7 +22,7 @@ int InkedPixels(QFrame& widget)
 
 TEST_F(ManagerTest, SummaryPaneShowsTheFirstSelectedDocumentOnly)
 {
-    WriteDefaultConfig({}, true);
+    WriteDefaultConfig(true);
     dir.MakeFile("docs/a.odt", "x");
     dir.MakeFile("docs/b.odt", "x");
     Start();
@@ -51,9 +51,7 @@ TEST_F(ManagerTest, SummaryPaneShowsTheFirstSelectedDocumentOnly)
 
 TEST_F(ManagerTest, SummaryInAPaneLowerThanItsBlockIsDrawnOutOfSight)
 {
-    WriteDefaultConfig();
-    dir.MakeFile("docs/a.odt", "x");
-    Start();
+    StartWith({"a.odt"});
     Select({"a.odt"});
     DocSummaryWindow pane(host.get(), *host->GetBrowser(), host->ListHost());
     const int line = pane.fontMetrics().height();
