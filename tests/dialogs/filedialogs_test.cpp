@@ -153,8 +153,9 @@ TEST_F(FileDialogTest, RenameRefusesTakenNamesAndSeparatorsAndAllowsACaseVariant
         EXPECT_EQ(dialog.result(), 1);
         EXPECT_EQ(dialog.GetRenameCount(), row.count);
         EXPECT_EQ(infos, row.error ? std::vector<std::string>{failed} : std::vector<std::string>{});
-        if (row.error)
+        if (row.error) {
             EXPECT_EQ(AnsweredDocBox().detail.toStdString(), std::strerror(row.error));
+        }
         EXPECT_EQ(dir.Read(row.result), "mine");
     }
     EXPECT_EQ(dir.Read("docs/other.odt"), "theirs");

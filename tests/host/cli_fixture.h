@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/groupspec.h"
 #include "tests/support/tempdir.h"
 
 namespace clitest {
@@ -26,19 +27,6 @@ std::string BinaryPath(const std::string& name);
 // `unprivileged` a run as root runs as the user nobody, so that permissions apply.
 RunResult RunDocmanager(const QStringList& args, const std::string& configHome,
                         bool unprivileged = false);
-
-// A group section with every key written, so that nothing falls back to empty values.
-struct GroupSpec {
-    std::string name{};
-    std::string section = "Tests";
-    std::string paths{};
-    std::string guis = "1";
-    std::string filterTitle{};
-    std::string filterFiles = "*.odt;*.docx;*.pdf";
-    uint16_t sortColumn = 65535;
-    bool ascending = true;
-    std::vector<uint16_t> columns{};  // empty: 1..20
-};
 
 // A whole configuration file: GENERAL (ACTUALGROUP as given), GROUPS and the sections.
 std::string ConfigText(const std::vector<GroupSpec>& groups, int actualGroup = 1);

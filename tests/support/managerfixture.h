@@ -26,22 +26,16 @@
 #include "docmgr/tools/fsutil.h"
 #include "docmgr/tools/resmgr.h"
 #include "docmgr/view/docbrowser.h"
+#include "tests/support/groupspec.h"
 #include "tests/support/tempdir.h"
 #include "tests/support/testhost.h"
 
 class ManagerTest : public ::testing::Test {
 protected:
-    struct GroupSpec {
-        std::string name;
-        std::string section;
-        std::string paths;  // ";"-separated
-        std::string guis;   // one flag per path
-    };
-
     ~ManagerTest() override { SetDocBoxAnswerer({}); }
 
-    // Writes the configuration file: `groups` as user groups 0..n-1, `actual` as the
-    // stored ACTUALGROUP.
+    // Writes the configuration file: `groups` (names, sections and paths) as user groups
+    // 0..n-1, `actual` as the stored ACTUALGROUP.
     void WriteConfig(const std::vector<GroupSpec>& groups, uint16_t actual = 1, bool singleView = false)
     {
         Config file(configPath);
@@ -53,7 +47,7 @@ protected:
             group.groupName = groups[i].name;
             group.section = groups[i].section;
             group.paths = groups[i].paths;
-            group.guis = groups[i].guis;
+            group.guis = groups[i].paths.empty() ? "" : groups[i].guis;
         }
         config.actualGroup = actual;
         config.singleView = singleView;
