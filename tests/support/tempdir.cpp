@@ -58,19 +58,17 @@ std::string TempDir::PathOf(const std::string& relative) const
 
 std::string TempDir::MakeFile(const std::string& relative, const std::string& contents)
 {
-    const std::string path = PathOf(relative);
-    std::error_code error;
-    fs::create_directories(fs::path(path).parent_path(), error);
-    testfs::WriteFile(path, contents);
-    return path;
+    MakeDir(fs::path(relative).parent_path().string());
+    testfs::WriteFile(PathOf(relative), contents);
+    return PathOf(relative);
 }
 
 std::string TempDir::MakeFile(const std::string& relative, const std::string& contents,
                               int64_t seconds, long nanoseconds)
 {
-    const std::string path = MakeFile(relative, contents);
-    testfs::SetMTime(path, seconds, nanoseconds);
-    return path;
+    MakeFile(relative, contents);
+    SetMTime(relative, seconds, nanoseconds);
+    return PathOf(relative);
 }
 
 std::string TempDir::MakeDir(const std::string& relative)
@@ -89,10 +87,7 @@ std::string TempDir::MakeLink(const std::string& relative, const std::string& ta
     return PathOf(relative);
 }
 
-std::string TempDir::Read(const std::string& relative) const
-{
-    return testfs::ReadFile(PathOf(relative));
-}
+std::string TempDir::Read(const std::string& relative) const { return testfs::ReadFile(PathOf(relative)); }
 
 bool TempDir::Exists(const std::string& relative) const
 {

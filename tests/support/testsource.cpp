@@ -7,10 +7,8 @@ DocInfo TestSource::Sample(const std::string& name)
     info.author = "Tester";
     info.createdDate = Date(2, 1, 2020);
     info.createdTime = Time(10, 0, 0);
-    info.modifiedDate = info.createdDate;
-    info.modifiedTime = info.createdTime;
-    info.printedDate = info.createdDate;
-    info.printedTime = info.createdTime;
+    info.modifiedDate = info.printedDate = info.createdDate;
+    info.modifiedTime = info.printedTime = info.createdTime;
     info.printedBy = info.author;
     return info;
 }
@@ -25,6 +23,8 @@ void TestSource::ReadAhead(const std::vector<std::string>& paths)
 
 std::unique_ptr<DocInfo> TestSource::CreateDocInfo(const std::string& path)
 {
+    if (onRead)
+        onRead(path);
     ++totalCalls;
     ++callsPerPath[path];
     if (askedOfPlan.insert(path).second) {

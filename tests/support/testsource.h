@@ -1,5 +1,6 @@
 #pragma once
 // Document information and selections for tests without a window.
+#include <functional>
 #include <map>
 #include <memory>
 #include <set>
@@ -15,12 +16,9 @@ public:
     // "Tester", created 2020-01-02 10:00:00, modified and printed stamps equal to it.
     static DocInfo Sample(const std::string& name);
 
+    // Calls `onRead` (when set) before it answers, to change files during a listing.
     std::unique_ptr<DocInfo> CreateDocInfo(const std::string& path) override;
-    void CollectProgress(size_t /*dirs*/, size_t docs) override
-    {
-        ++progressCalls;
-        lastProgressDocs = docs;
-    }
+    void CollectProgress(size_t, size_t docs) override { ++progressCalls, lastProgressDocs = docs; }
     // Checks the plan against the calls that follow it: each file asked for the first time
     // must be the next one planned, and a new plan (or the end) finds the last one done.
     void ReadAhead(const std::vector<std::string>& paths) override;
@@ -28,18 +26,11 @@ public:
     int PlanMisses() const { return unplannedCalls + unaskedPlans + int(planned.size() - plannedAsked); }
 
     // Calls for the file at `path` (absolute), and for all files.
-    int CallsFor(const std::string& path) const
-    {
-        const auto it = callsPerPath.find(path);
-        return it == callsPerPath.end() ? 0 : it->second;
-    }
+    int CallsFor(const std::string& path) const { return callsPerPath.count(path) ? callsPerPath.at(path) : 0; }
     int TotalCalls() const { return totalCalls; }
-    void ResetCalls()
-    {
-        callsPerPath.clear();
-        totalCalls = 0;
-    }
+    void ResetCalls() { callsPerPath.clear(), totalCalls = 0; }
 
+    std::function<void(const std::string&)> onRead;
     std::map<std::string, DocInfo> known;  // by file name
     std::set<std::string> notDocuments;    // file names answered with null
     std::map<std::string, int> callsPerPath;
@@ -47,10 +38,8 @@ public:
     std::vector<std::string> planned;
     size_t plannedAsked = 0;
     std::set<std::string> askedOfPlan;
-    int unplannedCalls = 0;
-    int unaskedPlans = 0;
-    size_t progressCalls = 0;
-    size_t lastProgressDocs = 0;
+    int unplannedCalls = 0, unaskedPlans = 0;
+    size_t progressCalls = 0, lastProgressDocs = 0;
 };
 
 // A fixed set of selected rows.

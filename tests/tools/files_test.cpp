@@ -1,10 +1,9 @@
-// Listing, the file operations that never overwrite, paths, the index stream and the
-// module's texts.
+// Listing, the file operations that never overwrite, the index stream and the module's
+// texts.
 #include <gtest/gtest.h>
 
 #include <QTemporaryDir>
 #include <cerrno>
-#include <set>
 #include <sys/stat.h>
 
 #include "docmgr/tools/filestream.h"
@@ -75,22 +74,6 @@ TEST_F(Files, CopyAndMoveNeverOverwriteNorLoseAFile)
     EXPECT_EQ(fsutil::List(dir, "*", fsutil::Kind::Files).size(), shm.isValid() ? 3u : 4u);
 }
 
-TEST_F(Files, PathHelpersAndCurrentDirectory)
-{
-    EXPECT_EQ(fsutil::FileName("/x/y/z.odt"), "z.odt");
-    EXPECT_EQ(fsutil::DirName("/x/y/z.odt"), "/x/y");
-    EXPECT_EQ(fsutil::DirName("/z.odt"), "/");
-    EXPECT_EQ(fsutil::Absolute("/x/./y/../z/"), "/x/z");
-    EXPECT_EQ(fsutil::Join("/", "a"), "/a");
-    const std::string before = fsutil::Absolute(".");
-    {
-        fsutil::CurrentDirGuard guard(dir);
-        EXPECT_TRUE(guard.Entered());
-        EXPECT_EQ(fsutil::Absolute("."), fsutil::Absolute(dir));
-    }
-    EXPECT_EQ(fsutil::Absolute("."), before);
-}
-
 TEST_F(Files, StreamReadsWritesAtPositionsAndLocksExclusively)
 {
     KxFileStream writer;
@@ -126,31 +109,13 @@ TEST(Resources, ModuleSlotHoldsTheManagerWhileTheModuleLives)
         EXPECT_EQ(ResString(15723), "/**");
         EXPECT_EQ(ResString(15720), ".docindex");
     }
-    EXPECT_EQ(GetAppData(SHL_DOCMGR), nullptr);
-    ResModule english(Language::English);
-    EXPECT_EQ(ResString(15700), "File name");
-    EXPECT_EQ(ResString(9999), "");
-}
-
-TEST(Resources, EveryLanguageHasItsCatalogueAndMenusHaveDistinctKeys)
-{
-    // A language without a catalogue shows the English texts; a country variant finds
-    // its language's catalogue.
+    // A language without a catalogue shows English; a country variant finds its language.
     for (const Language& language : {Language{"fr"}, Language{"de_AT"}}) {
         ResModule module(language);
         EXPECT_EQ(ResString(15700), language.code == "fr" ? "File name" : "Dateiname");
     }
-    for (const Language& language : {Language::English, Language::German}) {
-        ResModule module(language);
-        // Translations come from the catalogue by resource id, not by the English text.
-        EXPECT_EQ(ResText(ResKind::Menu, 15700, 25).empty(), false);
-        std::set<char32_t> keys;
-        for (uint16_t item = 20; item <= 26; ++item) {
-            const QString text = QString::fromStdString(ResText(ResKind::Menu, 15700, item));
-            const qsizetype amp = text.indexOf(u'&');
-            ASSERT_GE(amp, 0) << language.code << " " << item;
-            EXPECT_TRUE(keys.insert(text.at(amp + 1).toLower().unicode()).second)
-                << language.code << ": " << text.toStdString();
-        }
-    }
+    EXPECT_EQ(GetAppData(SHL_DOCMGR), nullptr);
+    ResModule english(Language::English);
+    EXPECT_EQ(ResString(15700), "File name");
+    EXPECT_EQ(ResString(9999), "");
 }

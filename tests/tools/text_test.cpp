@@ -3,11 +3,7 @@
 #include <QDate>
 #include <QTime>
 
-#include "docmgr/tools/datetime.h"
-#include "docmgr/tools/intl.h"
 #include "docmgr/tools/stamppattern.h"
-#include "docmgr/tools/textcase.h"
-#include "docmgr/tools/tokens.h"
 #include "docmgr/tools/wildcard.h"
 
 TEST(Wildcard, WholeTextsStarsQuestionMarksAndAlternatives)
@@ -28,47 +24,6 @@ TEST(Wildcard, WholeTextsStarsQuestionMarksAndAlternatives)
     EXPECT_TRUE(wildcard::MatchListNoCase("straße*", "STRASSE 1", ';'));  // ß upper-cases to SS
     EXPECT_TRUE(wildcard::MatchList("alpha,beta", "beta", ','));
     EXPECT_TRUE(wildcard::MatchList(";x", "", ';'));  // an empty alternative matches empty text
-}
-
-TEST(TextCase, UpperCasesUnicodeAndRemovesBlanks)
-{
-    EXPECT_EQ(textcase::ToUpper("off"), "OFF");
-    EXPECT_EQ(textcase::ToUpper("grüße"), "GRÜSSE");
-    EXPECT_EQ(textcase::ToUpper("/home/zoë"), "/HOME/ZOË");
-    EXPECT_EQ(textcase::EraseBlanks(" my  group "), "mygroup");
-}
-
-TEST(Tokens, CountGetAndNumbers)
-{
-    EXPECT_EQ(tokens::Count("", ';'), 0);
-    EXPECT_EQ(tokens::Count("a", ';'), 1);
-    EXPECT_EQ(tokens::Count("a;;b;", ';'), 4);
-    EXPECT_EQ(tokens::Get("a;;b;", 2, ';'), "b");
-    EXPECT_EQ(tokens::Get("a;;b;", 3, ';'), "");
-    EXPECT_EQ(tokens::Get("a;;b;", 9, ';'), "");
-    EXPECT_EQ(tokens::ToNumber("42abc"), 42u);
-    EXPECT_EQ(tokens::ToNumber("abc"), 0u);
-    EXPECT_EQ(tokens::ToNumber(""), 0u);
-    EXPECT_EQ(tokens::ToNumber("99999999999999999999999"), ~0ull);  // saturates, no overflow
-    EXPECT_EQ(tokens::ToSigned("-17x"), -17);
-    EXPECT_EQ(uint16_t(tokens::ToNumber("65536")), 0);
-}
-
-TEST(DateTime, DecimalNumbersAndTexts)
-{
-    const Date date(31, 12, 1999);
-    EXPECT_EQ(date.GetDate(), 19991231u);
-    EXPECT_EQ(date.GetYear(), 1999u);
-    const Time time(13, 45, 27, 89);
-    EXPECT_EQ(time.GetTime(), 13452789);
-    EXPECT_EQ(Time(-13452789).GetMin(), 45u);
-    EXPECT_TRUE(Date(20480000).IsUnset());
-    EXPECT_EQ(intl::FormatDate(Date(20480000)), "");
-    EXPECT_EQ(intl::FormatTime(time, Date(0)), "");
-    EXPECT_NE(intl::FormatTime(time).find("45"), std::string::npos);
-    EXPECT_NE(intl::FormatTime(time).find("27"), std::string::npos);  // seconds are shown
-    EXPECT_NE(intl::FormatDate(date).find("1999"), std::string::npos);  // four-digit year
-    EXPECT_GE(Date::Today().GetYear(), 2024u);
 }
 
 TEST(StampPattern, WritesWhatTheLocaleWrites)
