@@ -111,6 +111,7 @@ TEST_F(CliListTest, StartPathsAreReadWhenTheGroupHasNoActivePath)
         EXPECT_EQ(run.err.find(missing.toStdString()) != std::string::npos, paths[0] == missing) << run.err;
     }
     std::filesystem::current_path(saved);
+    EXPECT_EQ(List(noPaths, {"--format", "json", missing}).out, "[]\n");
 
     // An active path of the group wins over the start paths; an inactive one does not.
     group.paths = dir.PathOf("other") + ";" + Lib();
