@@ -16,20 +16,17 @@ TEST(AppProperties, NotesAndReadOnlyFormats)
 {
     TempDir dir;
     std::string error;
-    ASSERT_TRUE(WriteSample(dir.PathOf("text.odt"), FullSample(), error)) << error;
-    ASSERT_TRUE(WriteSample(dir.PathOf("text.rtf"), FullSample(), error)) << error;
+    for (const char* name : {"text.odt", "text.rtf"})
+        ASSERT_TRUE(WriteSample(dir.PathOf(name), FullSample(), error)) << error;
     WriteOle(dir.PathOf("legacy.doc"), FullSample());
     WritePdf(dir.PathOf("locked.pdf"), "<< /Title (Secret) >>", "user-password");
-    struct Case {
+    const struct {
         const char* name;
         bool editable;
         const char* note;  // part of the note; empty: no note shown
-    };
-    const Case cases[] = {{"text.odt", true, ""},
-                          {"text.rtf", false, "read-only"},
-                          {"legacy.doc", false, "read-only"},
-                          {"locked.pdf", true, "encrypted"}};
-    for (const Case& c : cases) {
+    } cases[] = {{"text.odt", true, ""}, {"text.rtf", false, "read-only"}, {"legacy.doc", false, "read-only"},
+                 {"locked.pdf", true, "encrypted"}};
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         DocPropertiesDialog dialog(nullptr, dir.PathOf(c.name), {});
         ASSERT_TRUE(dialog.IsLoaded());

@@ -2,10 +2,9 @@
 
 #include <unistd.h>
 
-#include <QDateTime>
 #include <QProcess>
-#include <QProcessEnvironment>
 #include <cstdlib>
+#include <filesystem>
 
 #include "host/readers/samplewriter.h"
 
@@ -37,14 +36,9 @@ RunResult RunDocmanager(const QStringList& args, const std::string& configHome,
     }
     process.start(QString::fromStdString(BinaryPath("docmanager")), args);
     RunResult result;
-    if (!process.waitForStarted(30000)) {
-        ADD_FAILURE() << "docmanager could not be started from " << BinaryPath("docmanager");
-        return result;
-    }
     if (!process.waitForFinished(120000)) {
         process.kill();
-        process.waitForFinished();
-        ADD_FAILURE() << "docmanager did not finish";
+        ADD_FAILURE() << "docmanager " << args.join(' ').toStdString() << " did not start or finish";
         return result;
     }
     result.out = process.readAllStandardOutput().toStdString();
@@ -61,22 +55,17 @@ std::string ConfigText(const std::vector<GroupSpec>& groups, int actualGroup)
         text += std::to_string(g) + "=" + groups[g].name + "\n";
     for (size_t g = 0; g < groups.size(); ++g) {
         const GroupSpec& group = groups[g];
-        text += "[" + std::to_string(g) + "]\n";
-        text += "GROUPNAME=" + group.name + "\nSECTION=" + group.section + "\n";
-        text += "FILTERTITLE=" + group.filterTitle + "\nFILTERTOPIC=\nFILTERAUTHOR=\n";
-        text += "FILTERKEYWORDS=\nFILTERFILES=" + group.filterFiles + "\nFILTERSENSITIVE=FALSE\n";
-        text += "FILTERFIELD0=65535\nFILLTERCONDITION0=0\nFILTERLINK0=0\n";
-        text += "SORTCOLUMNID=" + std::to_string(group.sortColumn) + "\n";
-        text += std::string("SORTORDER=") + (group.ascending ? "UP" : "DOWN") + "\n";
+        text += "[" + std::to_string(g) + "]\nGROUPNAME=" + group.name + "\nSECTION=" + group.section
+            + "\nFILTERTITLE=" + group.filterTitle + "\nFILTERTOPIC=\nFILTERAUTHOR=\nFILTERKEYWORDS=\nFILTERFILES="
+            + group.filterFiles + "\nFILTERSENSITIVE=FALSE\nFILTERFIELD0=65535\nFILLTERCONDITION0=0\nFILTERLINK0=0\n"
+            + "SORTCOLUMNID=" + std::to_string(group.sortColumn) + "\nSORTORDER=" + (group.ascending ? "UP" : "DOWN") + "\n";
         for (size_t slot = 0; slot < 20; ++slot) {
-            const uint16_t id = slot < group.columns.size() ? group.columns[slot]
-                                : group.columns.empty()     ? uint16_t(slot + 1)
-                                                           : 0;
-            text += "COLUMNID" + std::to_string(slot) + "=" + std::to_string(id) + "\n";
-            text += "COLUMNWIDTH" + std::to_string(slot) + "=65535\n";
+            const size_t id = slot < group.columns.size() ? group.columns[slot] : group.columns.empty() ? slot + 1 : 0;
+            text += "COLUMNID" + std::to_string(slot) + "=" + std::to_string(id) + "\nCOLUMNWIDTH" + std::to_string(slot)
+                + "=65535\n";
         }
-        text += "FROZENCOLUMNS=1\nINFO0=Project\nINFO1=Client\nINFO2=Status\nINFO3=Ref\n";
-        text += "PATHS=" + group.paths + "\nGUIS=" + group.guis + "\n";
+        text += "FROZENCOLUMNS=1\nINFO0=Project\nINFO1=Client\nINFO2=Status\nINFO3=Ref\nPATHS=" + group.paths
+            + "\nGUIS=" + group.guis + "\n";
     }
     return text;
 }
@@ -84,33 +73,19 @@ std::string ConfigText(const std::vector<GroupSpec>& groups, int actualGroup)
 std::string CliTest::WriteDoc(const std::string& relative, const std::string& title,
                               const std::string& author, int day)
 {
-    SampleDoc doc;
-    doc.title = title;
-    doc.author = author;
-    doc.modifiedBy = author;
-    doc.created = QDateTime(QDate(2021, 3, day), QTime(9, 30, 0));
-    doc.modified = QDateTime(QDate(2021, 3, day), QTime(17, 45, 10));
-    doc.body = "Some text.";
+    const SampleDoc doc{title, "", author, author, {}, "", QDateTime(QDate(2021, 3, day), QTime(9, 30, 0)),
+                        QDateTime(QDate(2021, 3, day), QTime(17, 45, 10)), std::nullopt, "", {}, "Some text."};
     const std::string path = dir.PathOf(relative);
-    if (const size_t slash = relative.rfind('/'); slash != std::string::npos)
-        dir.MakeDir(relative.substr(0, slash));
+    std::filesystem::create_directories(std::filesystem::path(path).parent_path());
     std::string error;
     EXPECT_TRUE(WriteSample(path, doc, error)) << error;
     testfs::SetMTime(path, 1600000000 + day * 100);
     return path;
 }
 
-std::string CliTest::WriteConfig(const std::string& text, const std::string& relative)
-{
-    return dir.MakeFile(relative, text);
-}
-
 RunResult CliTest::List(const std::string& config, const QStringList& args)
 {
-    QStringList all{QStringLiteral("--list"), QStringLiteral("--config"),
-                    QString::fromStdString(config)};
-    all += args;
-    return RunDocmanager(all, ConfigHome());
+    return RunDocmanager(QStringList{"--list", "--config", QString::fromStdString(config)} + args, ConfigHome());
 }
 
 }  // namespace clitest

@@ -4,9 +4,7 @@
 #include <QStringList>
 #include <gtest/gtest.h>
 
-#include <cstdint>
 #include <string>
-#include <vector>
 
 #include "tests/support/groupspec.h"
 #include "tests/support/tempdir.h"
@@ -15,8 +13,7 @@ namespace clitest {
 
 struct RunResult {
     int status = -1;
-    std::string out;
-    std::string err;
+    std::string out, err;
 };
 
 // Path of a program built next to docmanager ($DOCMGR_BIN_DIR).
@@ -25,8 +22,7 @@ std::string BinaryPath(const std::string& name);
 // Runs docmanager with `args`; DISPLAY, WAYLAND_DISPLAY and QT_QPA_PLATFORM are removed
 // from its environment and XDG_CONFIG_HOME is `configHome` (when not empty). With
 // `unprivileged` a run as root runs as the user nobody, so that permissions apply.
-RunResult RunDocmanager(const QStringList& args, const std::string& configHome,
-                        bool unprivileged = false);
+RunResult RunDocmanager(const QStringList& args, const std::string& configHome, bool unprivileged = false);
 
 // A whole configuration file: GENERAL (ACTUALGROUP as given), GROUPS and the sections.
 std::string ConfigText(const std::vector<GroupSpec>& groups, int actualGroup = 1);
@@ -36,10 +32,11 @@ protected:
     // A document written by the sample writer (format by extension) with this title and
     // author, created and modified on 2021-03-`day`, its file time set in the past so that
     // an index written now is younger than it.
-    std::string WriteDoc(const std::string& relative, const std::string& title,
-                         const std::string& author = "Ann Author", int day = 1);
+    std::string WriteDoc(const std::string& relative, const std::string& title, const std::string& author = "Ann Author",
+                         int day = 1);
     // Writes `text` as the configuration file `relative`; returns its path.
-    std::string WriteConfig(const std::string& text, const std::string& relative = "docmanager.cfg");
+    std::string WriteConfig(const std::string& text, const std::string& relative = "docmanager.cfg")
+    { return dir.MakeFile(relative, text); }
     // docmanager --list --config CONFIG ARGS...
     RunResult List(const std::string& config, const QStringList& args);
     std::string ConfigHome() const { return dir.PathOf("xdg"); }

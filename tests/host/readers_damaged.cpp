@@ -1,12 +1,12 @@
 // Damaged, encrypted and hostile files: still documents when they look like one, never
 // a crash, a hang or an unbounded allocation.
 #include <filesystem>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
 #include "host/readers/docreader.h"
 #include "host/readers/samplewriter.h"
-#include "host/readers/ziparchive.h"
 #include "tests/host/readers_fixtures.h"
 #include "tests/support/tempdir.h"
 
@@ -19,11 +19,8 @@ void ExpectEmptyDocument(const std::string& path)
 {
     auto info = ReadDocInfo(path);
     ASSERT_NE(info, nullptr) << path;
-    EXPECT_TRUE(info->HasInfo());
-    EXPECT_EQ(info->title, "") << path;
-    EXPECT_EQ(info->author, "") << path;
-    EXPECT_EQ(info->createdDate, Date()) << path;
-    EXPECT_EQ(info->info, (std::array<std::string, 4>{})) << path;
+    EXPECT_EQ(std::tuple(info->HasInfo(), info->title + info->author, info->createdDate, info->info),
+              std::tuple(true, std::string(), Date(), std::array<std::string, 4>{})) << path;
 }
 
 }  // namespace
@@ -35,8 +32,12 @@ TEST(ReadersDamaged, DamagedFilesAreDocumentsWithoutInformationAndAReason)
     ASSERT_TRUE(WriteSampleOdt(dir.PathOf("whole.odt"), FullSample(), error)) << error;
     const std::string whole = dir.Read("whole.odt");
     dir.MakeFile("truncated.odt", whole.substr(0, whole.size() / 2));
-    dir.MakeFile("garbage.docx", "PK\3\4 this is not really a zip");
-    dir.MakeFile("text.xlsx", "plain text with an office name");
+    for (const auto& [name, bytes] : std::vector<std::pair<const char*, std::string>>{
+             {"garbage.docx", "PK\3\4 this is not really a zip"}, {"text.xlsx", "plain text with an office name"},
+             {"garbage.pdf", "%PDF-1.7\n\x01\x02 not objects at all \xff\xfe"}, {"header-only.bin", "%PDF-"},
+             {"empty.pdf", ""}, {"garbage.doc", "not an OLE file"}, {"notxml.fodt", "<office:document"},
+             {"empty.rtf", "{\\rtf1 no information group}"}})
+        dir.MakeFile(name, bytes);
     WriteZip(dir.PathOf("nometa.odt"), {{"mimetype", "application/vnd.oasis.opendocument.text"},
                                         {"content.xml", "<office:document-content/>"}});
     WriteOdfMeta(dir.PathOf("malformed.odt"), "<dc:title>Unclosed</dc:titel>");
@@ -46,14 +47,10 @@ TEST(ReadersDamaged, DamagedFilesAreDocumentsWithoutInformationAndAReason)
     WriteOle(dir.PathOf("locked.doc"), FullSample(), std::string("\0\1", 2));
     // The head of an OLE compound file, as Office keeps a password-protected document.
     dir.MakeFile("locked.docx", std::string("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1", 8) + std::string(504, '\0'));
-    dir.MakeFile("garbage.pdf", "%PDF-1.7\n\x01\x02 not objects at all \xff\xfe");
-    dir.MakeFile("header-only.bin", "%PDF-");
-    dir.MakeFile("empty.pdf", "");
-    // No header at all under a PDF name: a document that is not even opened.
-    dir.MakeFile("noheader.pdf", std::string(2000, '\0'));
-    dir.MakeFile("garbage.doc", "not an OLE file");
-    dir.MakeFile("notxml.fodt", "<office:document");
-    dir.MakeFile("empty.rtf", "{\\rtf1 no information group}");
+    // No header at all under a PDF name: a document that is not even opened. Sparse past
+    // 4 GiB (where the file system allows), its size is capped below the "no information" mark.
+    std::error_code ec;
+    std::filesystem::resize_file(dir.MakeFile("noheader.pdf"), 5ull << 30, ec);
     WritePdf(dir.PathOf("bare.pdf"), "<< /Producer (x) >>");
     // A wrong cross-reference offset: qpdf's repair finds the objects and the trailer, also
     // behind a header late in the first kilobyte; beyond a megabyte the full scan is not tried.
@@ -89,7 +86,7 @@ TEST(ReadersDamaged, DamagedFilesAreDocumentsWithoutInformationAndAReason)
         const DocReading reading = ReadDocument(dir.PathOf(c.name));
         ASSERT_NE(reading.info, nullptr);
         EXPECT_EQ(ProblemText(reading.problem), ProblemText(c.problem));
-        EXPECT_EQ(reading.info->size, dir.Size(c.name));
+        EXPECT_EQ(reading.info->size, std::min<uint64_t>(dir.Size(c.name), 0xFFFFFFFE));
         EXPECT_EQ(reading.info->title, c.title);
         if (c.title.empty())
             ExpectEmptyDocument(dir.PathOf(c.name));
@@ -99,46 +96,12 @@ TEST(ReadersDamaged, DamagedFilesAreDocumentsWithoutInformationAndAReason)
     EXPECT_EQ(ReadDocInfo(dir.PathOf("truncated.dat")), nullptr);
 }
 
-TEST(ReadersDamaged, OneBadPartDoesNotLoseTheOthers)
-{
-    TempDir dir;
-    std::string error;
-    SampleDoc doc = FullSample();
-    ASSERT_TRUE(WriteSampleDocx(dir.PathOf("whole.docx"), doc, error)) << error;
-    // Rebuild the package with a broken core part and the custom part intact.
-    std::vector<std::pair<std::string, std::string>> entries;
-    ZipArchive source;
-    ASSERT_TRUE(source.Open(dir.PathOf("whole.docx"), ZipArchive::Mode::Read));
-    for (const char* part : {"[Content_Types].xml", "_rels/.rels", "docProps/custom.xml"}) {
-        std::string bytes;
-        ASSERT_EQ(source.Read(part, kMaxXmlPart, bytes), ZipRead::Ok);
-        entries.emplace_back(part, bytes);
-    }
-    entries.emplace_back("docProps/core.xml", "<cp:coreProperties><dc:title>no namespaces");
-    WriteZip(dir.PathOf("halfbroken.docx"), entries);
-    auto info = ReadDocInfo(dir.PathOf("halfbroken.docx"));
-    ASSERT_NE(info, nullptr);
-    EXPECT_EQ(info->title, "");
-    EXPECT_EQ(info->info[0], "Crème");
-}
-
 TEST(ReadersDamaged, AZipBombStopsAtTheCap)
 {
     TempDir dir;
     // 40 MiB of blanks inside meta.xml deflate to a few kilobytes.
-    const std::string head =
-        "<office:document-meta xmlns:office=\"urn:oasis:names:tc:opendocument:xmlns:office:1.0\" "
-        "xmlns:dc=\"http://purl.org/dc/elements/1.1/\"><office:meta><dc:title>Bomb</dc:title>";
-    std::string meta = head + std::string(40u << 20, ' ') + "</office:meta></office:document-meta>";
-    WriteZip(dir.PathOf("bomb.odt"), {{"mimetype", "application/vnd.oasis.opendocument.text"}, {"meta.xml", meta}});
-    meta = std::string();
+    WriteOdfMeta(dir.PathOf("bomb.odt"), "<dc:title>Bomb</dc:title>" + std::string(40u << 20, ' '));
     ASSERT_LT(dir.Size("bomb.odt"), 1u << 20);
-
-    ZipArchive zip;
-    ASSERT_TRUE(zip.Open(dir.PathOf("bomb.odt"), ZipArchive::Mode::Read));
-    std::string read;
-    EXPECT_EQ(zip.Read("meta.xml", kMaxXmlPart, read), ZipRead::TooLarge);
-    EXPECT_EQ(read.size(), kMaxXmlPart);
     // A part past the cap is not parsed at all, but the file is still a document.
     ExpectEmptyDocument(dir.PathOf("bomb.odt"));
 }
@@ -153,28 +116,9 @@ TEST(ReadersDamaged, PdfTextEncodingsAndDates)
              "/Author [(Ann) <FEFF005A006F00EB>] /Beta [(x) 1] >>");
     auto info = ReadDocInfo(dir.PathOf("enc.pdf"));
     ASSERT_NE(info, nullptr);
-    EXPECT_EQ(info->title, "Café");
-    EXPECT_EQ(info->topic, "Zoë");
-    EXPECT_EQ(info->keywords, "a, b");
-    EXPECT_EQ(info->createdDate, Date(3, 2, 2001));
-    EXPECT_EQ(info->createdTime, Time(4, 5, 6));
-    EXPECT_EQ(info->modifiedDate, Date());
     // An array of texts reads as the texts; any other array as PDF.
-    EXPECT_EQ(info->author, "Ann, Zoë");
+    EXPECT_EQ(info->title + "|" + info->topic + "|" + info->keywords + "|" + info->author, "Café|Zoë|a, b|Ann, Zoë");
+    EXPECT_EQ(std::tuple(info->createdDate, info->createdTime, info->modifiedDate), std::tuple(Date(3, 2, 2001), Time(4, 5, 6), Date()));
     // Without a recorded order, the non-standard entries come by name.
     EXPECT_EQ(info->info, (std::array<std::string, 4>{"first", "[ (x) 1 ]", "7", "last"}));
-}
-
-TEST(ReadersDamaged, HugeSizeIsCapped)
-{
-    TempDir dir;
-    // A sparse file past 4 GiB: the size is capped below the "no information" mark.
-    const std::string huge = dir.MakeFile("huge.pdf", "");
-    std::error_code ec;
-    std::filesystem::resize_file(huge, (5ull << 30), ec);
-    if (ec)
-        GTEST_SKIP() << "no sparse files here: " << ec.message();
-    auto info = ReadDocInfo(huge);
-    ASSERT_NE(info, nullptr);
-    EXPECT_EQ(info->size, 0xFFFFFFFEu);
 }

@@ -4,9 +4,6 @@
 #include <QTimeZone>
 
 #include "host/readers/metadates.h"
-#include "tests/host/readers_fixtures.h"
-
-using namespace readertest;
 
 namespace {
 
@@ -15,17 +12,26 @@ bool Parse(bool pdf, std::string_view text, Date& date, Time& time)
     return pdf ? metadates::ParsePdf(text, date, time) : metadates::ParseIso(text, date, time);
 }
 
-QDateTime At(int year, int month, int day, QTime time, int offsetSeconds)
+// The local Date and Time of a stamp.
+std::pair<Date, Time> LocalStamp(const QDateTime& stamp)
 {
-    return QDateTime(QDate(year, month, day), time, QTimeZone(offsetSeconds));
+    const QDateTime local = stamp.toLocalTime();
+    return {Date(local.date().day(), local.date().month(), local.date().year()),
+            Time(local.time().hour(), local.time().minute(), local.time().second(), local.time().msec() / 10)};
+}
+
+QDateTime At(QDate date, QTime time, int offsetSeconds)
+{
+    return QDateTime(date, time, QTimeZone(offsetSeconds));
 }
 
 }  // namespace
 
 TEST(ReadersDates, StampsParseToLocalTime)
 {
-    const QTime t(23, 30);
-    const QTime pdfTime(4, 5, 6);
+    const QDate d(2024, 3, 5), j(2024, 1, 1), p(2001, 2, 3);
+    const QTime t(23, 30), pt(4, 5, 6);
+    const int india = -(5 * 3600 + 1800), mountain = -7 * 3600;
     // Without a zone a stamp is local already; with one it becomes local time.
     // Fractions are cut to hundredths, not rounded.
     const struct {
@@ -33,34 +39,26 @@ TEST(ReadersDates, StampsParseToLocalTime)
         bool pdf;
         QDateTime local;
     } cases[] = {
-        {"2024-03-05", false, QDateTime(QDate(2024, 3, 5), QTime(0, 0))},
-        {"2024-03-05T14:30", false, QDateTime(QDate(2024, 3, 5), QTime(14, 30))},
-        {"2024-03-05T14:30:15", false, QDateTime(QDate(2024, 3, 5), QTime(14, 30, 15))},
-        {" 2024-03-05 14:30:15.5 ", false, QDateTime(QDate(2024, 3, 5), QTime(14, 30, 15, 500))},
-        {"2024-03-05T14:30:15.123456789", false, QDateTime(QDate(2024, 3, 5), QTime(14, 30, 15, 120))},
-        {"2024-03-05T14:30:15,999", false, QDateTime(QDate(2024, 3, 5), QTime(14, 30, 15, 990))},
-        {"2024-03-05T23:30:00Z", false, At(2024, 3, 5, t, 0)},
-        {"2024-03-05T23:30:00-05:30", false, At(2024, 3, 5, t, -(5 * 3600 + 1800))},
-        {"2024-03-05T23:30:00-0530", false, At(2024, 3, 5, t, -(5 * 3600 + 1800))},
-        {"2024-01-01T00:10+09", false, At(2024, 1, 1, QTime(0, 10), 9 * 3600)},
-        {"2024-01-01T00:10:00.25+09:00", false, At(2024, 1, 1, QTime(0, 10, 0, 250), 9 * 3600)},
-        {"D:2001", true, QDateTime(QDate(2001, 1, 1), QTime(0, 0))},
-        {"D:200102", true, QDateTime(QDate(2001, 2, 1), QTime(0, 0))},
-        {"20010203040506", true, QDateTime(QDate(2001, 2, 3), pdfTime)},
-        {"D:20010203040506-07'00'", true, At(2001, 2, 3, pdfTime, -7 * 3600)},
-        {"D:20010203040506-07'00", true, At(2001, 2, 3, pdfTime, -7 * 3600)},
-        {"D:20010203040506-0700", true, At(2001, 2, 3, pdfTime, -7 * 3600)},
-        {"D:20010203040506-07", true, At(2001, 2, 3, pdfTime, -7 * 3600)},
-        {"D:20010203040506Z", true, At(2001, 2, 3, pdfTime, 0)},
-        {"D:20010203040506Z00'00'", true, At(2001, 2, 3, pdfTime, 0)},
+        {"2024-03-05", false, QDateTime(d, QTime(0, 0))}, {"2024-03-05T14:30", false, QDateTime(d, QTime(14, 30))},
+        {"2024-03-05T14:30:15", false, QDateTime(d, QTime(14, 30, 15))},
+        {" 2024-03-05 14:30:15.5 ", false, QDateTime(d, QTime(14, 30, 15, 500))},
+        {"2024-03-05T14:30:15.123456789", false, QDateTime(d, QTime(14, 30, 15, 120))},
+        {"2024-03-05T14:30:15,999", false, QDateTime(d, QTime(14, 30, 15, 990))},
+        {"2024-03-05T23:30:00Z", false, At(d, t, 0)}, {"2024-03-05T23:30:00-05:30", false, At(d, t, india)},
+        {"2024-03-05T23:30:00-0530", false, At(d, t, india)}, {"2024-01-01T00:10+09", false, At(j, QTime(0, 10), 9 * 3600)},
+        {"2024-01-01T00:10:00.25+09:00", false, At(j, QTime(0, 10, 0, 250), 9 * 3600)},
+        {"D:2001", true, QDateTime(QDate(2001, 1, 1), QTime(0, 0))}, {"D:200102", true, QDateTime(QDate(2001, 2, 1), QTime(0, 0))},
+        {"20010203040506", true, QDateTime(p, pt)}, {"D:20010203040506-07'00'", true, At(p, pt, mountain)},
+        {"D:20010203040506-07'00", true, At(p, pt, mountain)}, {"D:20010203040506-0700", true, At(p, pt, mountain)},
+        {"D:20010203040506-07", true, At(p, pt, mountain)}, {"D:20010203040506Z", true, At(p, pt, 0)},
+        {"D:20010203040506Z00'00'", true, At(p, pt, 0)},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.text);
         Date date;
         Time time;
         ASSERT_TRUE(Parse(c.pdf, c.text, date, time));
-        EXPECT_EQ(date, DateOf(c.local));
-        EXPECT_EQ(time, TimeOf(c.local));
+        EXPECT_EQ(std::pair(date, time), LocalStamp(c.local));
     }
 }
 

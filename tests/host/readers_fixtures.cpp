@@ -14,20 +14,11 @@ namespace readertest {
 
 SampleDoc FullSample()
 {
-    SampleDoc doc;
-    doc.title = "Übersicht der Café-Umsätze";
-    doc.topic = "Finanzen";
-    doc.author = "Zoë Martin";
-    doc.modifiedBy = "José García";
-    doc.keywords = {"café", "budget", "2019"};
-    doc.comment = "Zahlen <geprüft> & freigegeben";
-    doc.created = QDateTime(QDate(2019, 5, 6), QTime(7, 8, 9));
-    doc.modified = QDateTime(QDate(2020, 11, 12), QTime(13, 14, 15));
-    doc.printed = QDateTime(QDate(2020, 12, 1), QTime(16, 17, 18));
-    doc.printedBy = "Jörg Müller";
-    doc.info = {{"Project", "Crème"}, {"Client", "ACME"}, {"Status", "open"}, {"Reviewer", "Li Wei"}};
-    doc.body = "First paragraph.\nZweiter Absatz mit Ümlauten.";
-    return doc;
+    return {"Übersicht der Café-Umsätze", "Finanzen", "Zoë Martin", "José García", {"café", "budget", "2019"},
+            "Zahlen <geprüft> & freigegeben", QDateTime(QDate(2019, 5, 6), QTime(7, 8, 9)),
+            QDateTime(QDate(2020, 11, 12), QTime(13, 14, 15)), QDateTime(QDate(2020, 12, 1), QTime(16, 17, 18)),
+            "Jörg Müller", {{"Project", "Crème"}, {"Client", "ACME"}, {"Status", "open"}, {"Reviewer", "Li Wei"}},
+            "First paragraph.\nZweiter Absatz mit Ümlauten."};
 }
 
 void WriteZip(const std::string& path, const std::vector<std::pair<std::string, std::string>>& entries)
@@ -65,18 +56,6 @@ void WritePdf(const std::string& path, const std::string& infoDict, const char* 
         writer.setR6EncryptionParameters(userPassword ? userPassword : "", ownerPassword ? ownerPassword : "owner",
                                          true, true, true, true, true, true, qpdf_r3p_full, true);
     writer.write();
-}
-
-Date DateOf(const QDateTime& stamp)
-{
-    const QDate d = stamp.toLocalTime().date();
-    return Date(unsigned(d.day()), unsigned(d.month()), unsigned(d.year()));
-}
-
-Time TimeOf(const QDateTime& stamp)
-{
-    const QTime t = stamp.toLocalTime().time();
-    return Time(unsigned(t.hour()), unsigned(t.minute()), unsigned(t.second()), unsigned(t.msec() / 10));
 }
 
 std::vector<RawEntry> RawEntries(const std::string& path)

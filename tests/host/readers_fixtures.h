@@ -3,10 +3,7 @@
 // and the raw entries of a zip.
 #include <cstdint>
 #include <string>
-#include <utility>
 #include <vector>
-
-#include <QDateTime>
 
 #include "docmgr/records/docinfo.h"
 #include "host/readers/samplewriter.h"
@@ -32,10 +29,6 @@ void WritePdf(const std::string& path, const std::string& infoDict, const char* 
 // as user-defined properties) and the head of a Word stream whose flags word (2 bytes,
 // little-endian; "\0\1" marks it encrypted) is `wordFlags`.
 void WriteOle(const std::string& path, const SampleDoc& doc, const std::string& wordFlags = std::string(2, '\0'));
-
-// The local Date and Time of a stamp.
-Date DateOf(const QDateTime& stamp);
-Time TimeOf(const QDateTime& stamp);
 
 struct RawEntry {
     std::string name;

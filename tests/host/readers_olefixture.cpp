@@ -36,14 +36,6 @@ void PutStamp(GsfDocMetaData* meta, const char* name, const QDateTime& stamp)
     gsf_doc_meta_data_insert(meta, g_strdup(name), value);
 }
 
-void PutStream(GsfOutfile* ole, const char* name, const std::string& bytes)
-{
-    GsfOutput* child = gsf_outfile_new_child(ole, name, FALSE);
-    gsf_output_write(child, bytes.size(), reinterpret_cast<const guint8*>(bytes.data()));
-    gsf_output_close(child);
-    g_object_unref(child);
-}
-
 }  // namespace
 
 void WriteOle(const std::string& path, const SampleDoc& doc, const std::string& wordFlags)
@@ -54,8 +46,11 @@ void WriteOle(const std::string& path, const SampleDoc& doc, const std::string& 
     ASSERT_NE(file, nullptr) << (error ? error->message : "");
     GsfOutfile* ole = gsf_outfile_msole_new(file);
     // The start of a Word file information block: its magic, then the flags at offset 10.
-    PutStream(ole, "WordDocument", std::string("\xEC\xA5\xC1\x00\x00\x00\x00\x00\x00\x00", 10) + wordFlags
-                                       + std::string(64, '\0'));
+    const std::string word = std::string("\xEC\xA5\xC1\x00\x00\x00\x00\x00\x00\x00", 10) + wordFlags + std::string(64, '\0');
+    GsfOutput* stream = gsf_outfile_new_child(ole, "WordDocument", FALSE);
+    gsf_output_write(stream, word.size(), reinterpret_cast<const guint8*>(word.data()));
+    gsf_output_close(stream);
+    g_object_unref(stream);
 
     GsfDocMetaData* meta = gsf_doc_meta_data_new();
     PutText(meta, GSF_META_NAME_TITLE, doc.title);
