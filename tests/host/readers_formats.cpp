@@ -3,9 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <random>
 #include <tuple>
 
 #include "host/readers/docreader.h"
+#include "host/readers/filehead.h"
 #include "host/readers/oleuserorder.h"
 #include "host/readers/readahead.h"
 #include "host/readers/samplewriter.h"
@@ -63,6 +65,28 @@ TEST(ReadersFormats, EachFormatGivesItsFields)
             std::sort(expected.begin(), expected.end());
         }
         EXPECT_EQ(infos, expected);
+    }
+}
+
+// Past the size read whole, the zip and PDF readers take the file from its path and the
+// heads of flat ODF and RTF are cut after their information.
+TEST(ReadersFormats, LargeDocumentsGiveTheirFields)
+{
+    TempDir dir;
+    SampleDoc doc = FullSample();
+    std::mt19937 random(7);
+    doc.body.resize(16u << 20);
+    for (size_t i = 0; i < doc.body.size(); ++i)
+        doc.body[i] = i % 80 == 79 ? '\n' : char('a' + random() % 26);
+    for (const char* name : {"big.odt", "big.docx", "big.pdf", "big.fodt", "big.rtf"}) {
+        SCOPED_TRACE(name);
+        std::string error;
+        ASSERT_TRUE(WriteSample(dir.PathOf(name), doc, error)) << error;
+        ASSERT_GT(dir.Size(name), kDocBytesLimit);
+        const DocReading reading = ReadDocument(dir.PathOf(name));
+        ASSERT_NE(reading.info, nullptr);
+        EXPECT_EQ(reading.problem, ReadProblem::None);
+        EXPECT_EQ(std::tie(reading.info->title, reading.info->author), std::tie(doc.title, doc.author));
     }
 }
 
