@@ -11,7 +11,6 @@
 #include "docmgr/dialogs/docfileops.h"
 #include "tests/support/tempdir.h"
 
-namespace {
 namespace fs = std::filesystem;
 
 TEST(FileOps, FolderNamesStayBelowTheBase)
@@ -60,4 +59,3 @@ TEST(FileOps, MoveAcrossDevicesCopiesThenRemoves)
     fs::remove_all(other);
 }
 
-}  // namespace

@@ -3,7 +3,6 @@
 
 #include "docmgr/print/pageplan.h"
 
-namespace {
 using pageplan::PageRows;
 
 TEST(PagePlan, EachPageHoldsAllButTheHeaderLine)
@@ -46,4 +45,3 @@ TEST(PagePlan, AColumnFitsWhenItsWidestTextEndsOnThePage)
     EXPECT_EQ(pageplan::FittingColumns({}, 1, 10), 0);
 }
 
-}  // namespace
