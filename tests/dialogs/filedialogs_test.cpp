@@ -73,21 +73,6 @@ TEST_F(FileDialogTest, MoveLeavesADocumentWhoseTargetExistsAndSaysSo)
     EXPECT_EQ(AnsweredDocBox().detail.toStdString(), std::strerror(EEXIST));
 }
 
-TEST_F(FileDialogTest, CopyOntoItselfFailsForEachDocumentAndEndsWithOne)
-{
-    dir.MakeFile("docs/a.odt", "a");
-    dir.MakeFile("docs/b.odt", "b");
-    StartSelected({"a.odt", "b.odt"});
-    DocCopyDialog dialog(host.get(), host->SelectedDocs());  // the tree starts in the documents' folder
-    In<QPushButton>(dialog, "okButton")->click();
-    EXPECT_EQ(dialog.result(), 1);
-    EXPECT_EQ(dialog.GetDoneCount(), 0);
-    std::sort(infos.begin(), infos.end());
-    EXPECT_EQ(infos, (std::vector<std::string>{ResString(15728) + "a.odt" + ResString(15729),
-                                               ResString(15728) + "b.odt" + ResString(15729)}));
-    EXPECT_EQ(dir.Read("docs/a.odt"), "a");
-}
-
 TEST_F(FileDialogTest, TheFolderDialogNeedsANameAndRefusesOneLeavingItsBase)
 {
     AnswerBoxes(RET_YES);

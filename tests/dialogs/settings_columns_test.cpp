@@ -56,24 +56,6 @@ TEST_F(ColumnsDialogTest, OpensWithTheSeparatorAtTheFrozenCountAndOkStoresTheMov
     EXPECT_EQ(Working().columnWidth, widths);  // widths stay in their slots
 }
 
-TEST_F(ColumnsDialogTest, CancelAndOtherGroupsAreLeftAlone)
-{
-    {
-        DocColumnsDialog dialog(nullptr, &Settings(), WORKING_GROUP);
-        Move(dialog, 3, "downButton");
-        In<QPushButton>(dialog, "cancelButton")->click();
-    }
-    EXPECT_EQ(Working().columnId, Ids({}));
-    EXPECT_EQ(Working().frozenColumns, 3);
-
-    Settings().Group(0).frozenColumns = 5;
-    DocColumnsDialog dialog(nullptr, &Settings(), 0);
-    Move(dialog, 5, "upButton");
-    In<QPushButton>(dialog, "okButton")->click();
-    EXPECT_EQ(Settings().Group(0).frozenColumns, 4);
-    EXPECT_EQ(Working().frozenColumns, 3);
-}
-
 TEST_F(ColumnsDialogTest, CtrlArrowsMoveTheSelectedEntryAndEnterConfirms)
 {
     DocColumnsDialog dialog(nullptr, &Settings(), WORKING_GROUP);
@@ -86,14 +68,5 @@ TEST_F(ColumnsDialogTest, CtrlArrowsMoveTheSelectedEntryAndEnterConfirms)
     QTest::keyClick(list, Qt::Key_Return);
     EXPECT_EQ(dialog.result(), 1);
     EXPECT_EQ(Working().columnId, Ids({{1, 2}}));
-}
-
-TEST_F(ColumnsDialogTest, ATitleEqualToTheSeparatorIsTakenAsTheSeparator)
-{
-    Working().infoLabel[0] = "--------------------";  // column 16, slot 15
-    Working().frozenColumns = 18;
-    DocColumnsDialog dialog(nullptr, &Settings(), WORKING_GROUP);
-    In<QPushButton>(dialog, "okButton")->click();
-    EXPECT_EQ(Working().frozenColumns, 15);
 }
 

@@ -1,34 +1,9 @@
-// The groups dialog: the naming rules, and the dialog on a manager with a real
-// configuration file: new, rename, sections, delete, the protected first group and the
-// two ways out.
+// The groups dialog on a manager with a real configuration file: new, rename (the naming
+// rules), sections, delete, the protected first group and the two ways out.
 #include <QComboBox>
 
 #include "docmgr/dialogs/docgroupsdialog.h"
-#include "docmgr/dialogs/groupnames.h"
 #include "tests/support/managerfixture.h"
-
-static groupnames::Taken TakenOf(std::set<QString> names)
-{
-    return [names = std::move(names)](const QString& name) { return names.count(name) > 0; };
-}
-
-TEST(GroupNames, ANewNameTakesTheFirstFreeNumberAChangeNeedsANameASectionAndNoOtherGroupsName)
-{
-    EXPECT_EQ(groupnames::NewName("Group", TakenOf({"Group2", "Group1", "group3"})), "Group3");
-    const auto taken = TakenOf({"Beta", "Gamma"});
-    const struct {
-        const char* name;
-        const char* section;
-        bool allowed;
-    } table[] = {
-        {" New  Alpha ", "Work", true}, {"   ", "Work", false}, {"Delta", " ", false},
-        {"Gam ma", "Work", false},      {"Be ta", "Work", true},  // the selected group's own name
-        {"gamma", "Work", true},
-    };
-    for (const auto& row : table)
-        EXPECT_EQ(groupnames::CanChange(row.name, row.section, "Beta", taken), row.allowed)
-            << "'" << row.name << "' in '" << row.section << "'";
-}
 
 class GroupsDialogTest : public ManagerTest {
 protected:
@@ -128,6 +103,10 @@ TEST_F(GroupsDialogTest, RenamingDropsBlanksAndMovesTheGroupToTheEnd)
     EXPECT_FALSE(Button("changeButton")->isEnabled());
     dialog->ChangeHdl();
     EXPECT_EQ(NameEdit()->text(), "Beta");
+    Type(NameEdit(), "gam ma");  // another group's name, compared exactly
+    EXPECT_TRUE(Button("changeButton")->isEnabled());
+    Type(NameEdit(), "Gam ma");
+    EXPECT_FALSE(Button("changeButton")->isEnabled());
 
     // Enter in the field applies the change and keeps the dialog open.
     dialog->show();

@@ -84,34 +84,6 @@ TEST_F(PathsDialogTest, AddingTakesTheTreesDirectoryOnce)
     EXPECT_TRUE(add->isEnabled());
 }
 
-TEST_F(PathsDialogTest, RemovingSelectsTheNeighbourAndReenablesAdd)
-{
-    Working().paths = "P1;P2;P3";
-    Working().guis = "111";
-    DocPathsDialog dialog(nullptr, &Settings(), WORKING_GROUP);
-    QListWidget* list = List(dialog);
-    QPushButton* add = Button(dialog, "addButton");
-    QPushButton* remove = Button(dialog, "removeButton");
-
-    list->setCurrentRow(2);
-    add->setEnabled(false);
-    remove->click();
-    EXPECT_EQ(Texts(list), (std::vector<std::string>{"P1", "P2"}));
-    EXPECT_EQ(list->currentRow(), 1);
-    EXPECT_TRUE(add->isEnabled());
-    list->setCurrentRow(0);
-    remove->click();
-    EXPECT_EQ(list->currentItem()->text().toStdString(), "P2");
-
-    add->setEnabled(false);
-    Button(dialog, "removeAllButton")->click();
-    EXPECT_EQ(list->count(), 0);
-    EXPECT_FALSE(remove->isEnabled() || Button(dialog, "removeAllButton")->isEnabled() || Include(dialog)->isEnabled());
-    EXPECT_TRUE(add->isEnabled());
-    Button(dialog, "okButton")->click();
-    EXPECT_EQ(Working().paths, "");
-}
-
 TEST_F(PathsDialogTest, OkStoresTheListBeforeTheHiddenEntriesCancelNothing)
 {
     Working().paths = "W";

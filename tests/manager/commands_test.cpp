@@ -68,15 +68,6 @@ TEST_F(CommandsTest, CommandsFollowTheSelectionTheOpenModeAndTheRights)
     }
 }
 
-TEST_F(CommandsTest, OutsideOpenModeDocumentsCannotBeOpenedReadOnly)
-{
-    Start(false);
-    EXPECT_TRUE(Child<QCheckBox>("readOnlyBox")->isHidden());
-    Child<QCheckBox>("readOnlyBox")->setChecked(true);
-    EXPECT_FALSE(host->IsReadOnly());
-    EXPECT_EQ(Child<QPushButton>("openButton")->text(), "&Select");
-}
-
 TEST_F(CommandsTest, DeleteRemovesTheSelectedFilesAndRewritesThePathLine)
 {
     Start();

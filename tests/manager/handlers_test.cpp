@@ -63,17 +63,6 @@ TEST_F(HandlersTest, ConfirmedSortSortsAndColumnsRebuildTheColumns)
     EXPECT_EQ(Browser().GetColumnId(0), COL_AUTHOR);
 }
 
-TEST_F(HandlersTest, TheGroupsDialogAsksFirstAboutChangedSettings)
-{
-    AnswerBoxes(RET_YES);
-    Confirm();
-    host->PathsHdl();
-    Confirm(0);
-    host->GroupsHdl();
-    EXPECT_EQ(queries.size(), 1u);
-    EXPECT_FALSE(host->IsChanged());
-}
-
 TEST_F(HandlersTest, CopyAndRenameCollectOnlyWhenTheyChangedFiles)
 {
     Select({"a.odt"});

@@ -29,20 +29,6 @@ protected:
     }
 };
 
-TEST_F(SectionsTest, AFileWithoutAGeneralSectionOpensOnItsFirstGroup)
-{
-    // As "docmanager --export-config" leaves a file it made: groups, no "GENERAL".
-    {
-        Config file(configPath);
-        file.DeleteGroup("GENERAL");
-        ASSERT_TRUE(file.Flush());
-    }
-    Start();
-    EXPECT_EQ(Sections()->currentItem()->text(), "Work");
-    EXPECT_EQ(host->GetSelectedGroupName(), "Alpha");
-    EXPECT_EQ(RowNames(), std::vector<std::string>{"a1.odt"});
-}
-
 TEST_F(SectionsTest, SectionsAppearOnceAndChoosingOneMakesItsFirstGroupCurrent)
 {
     Start();
@@ -65,7 +51,7 @@ TEST_F(SectionsTest, SectionsAppearOnceAndChoosingOneMakesItsFirstGroupCurrent)
     EXPECT_TRUE(queries.empty());
 }
 
-TEST_F(SectionsTest, KeptChangesGoIntoTheCurrentGroup)
+TEST_F(SectionsTest, KeptChangesGoIntoTheCurrentGroupRefusedOnesAreDropped)
 {
     Start();
     AnswerBoxes(RET_YES);
@@ -79,17 +65,13 @@ TEST_F(SectionsTest, KeptChangesGoIntoTheCurrentGroup)
     saved.SetGroup("2");
     EXPECT_EQ(saved.ReadKey(configkeys::FilterTitle), "*Plan*");
     EXPECT_EQ(Settings().WorkingGroup().groupName, "Alpha");
-}
 
-TEST_F(SectionsTest, RefusedChangesAreDroppedForTheFirstGroup)
-{
-    Start();
+    // Refused: dropped, and the first group, not the current one, becomes the settings in force.
+    Groups()->setCurrentRow(1);
     AnswerBoxes(RET_NO);
-    ChangeFilterTitle("*Plan*");
+    ChangeFilterTitle("*Other*");
     host->QuerySave();
-    ASSERT_EQ(queries.size(), 1u);
-    EXPECT_EQ(Settings().Group(2).filterTitle, "");
-    // The first group, not the current one, becomes the settings in force.
+    EXPECT_EQ(Settings().Group(2).filterTitle, "*Plan*");
     EXPECT_EQ(Settings().actualGroup, 1);
     EXPECT_EQ(Settings().WorkingGroup().filterTitle, "");
 }

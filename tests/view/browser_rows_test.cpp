@@ -7,20 +7,23 @@
 #include "docmgr/view/doccommandmenu.h"
 #include "tests/support/managerfixture.h"
 
-TEST_F(ManagerTest, SelectedDocumentsAreWalkedInRowOrder)
+TEST_F(ManagerTest, SelectedDocumentsAreWalkedInRowOrderAndStaySelectedThroughASort)
 {
     StartWith({"a.odt", "b.odt", "c.odt", "d.odt", "e.odt"});
     Settings().WorkingGroup().sortColumnId = COL_NAME;
     Browser().SortFiles(false);
     EXPECT_EQ(host->GetFirstDoc(), nullptr);
 
-    // Selected in reverse order, in two runs.
+    // Selected in reverse order, in two runs; sorting anew keeps the selection.
     Browser().selectionModel()->select(Browser().model()->index(4, 0),
                                        QItemSelectionModel::Select | QItemSelectionModel::Rows);
     Browser().selectionModel()->select(
         QItemSelection(Browser().model()->index(1, 0), Browser().model()->index(2, 0)),
         QItemSelectionModel::Select | QItemSelectionModel::Rows);
     EXPECT_EQ(host->SelectedDocs(), (std::vector<std::string>{docs + "/b.odt", docs + "/c.odt", docs + "/e.odt"}));
+    Settings().WorkingGroup().sortAscending = false;
+    Browser().SortFiles(true);
+    EXPECT_EQ(host->SelectedDocs(), (std::vector<std::string>{docs + "/e.odt", docs + "/c.odt", docs + "/b.odt"}));
     Browser().DeselectFirstSelected();
     EXPECT_EQ(*host->GetFirstDoc(), docs + "/c.odt");
 }

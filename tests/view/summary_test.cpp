@@ -42,14 +42,3 @@ TEST_F(ManagerTest, SummaryPaneShowsTheFirstSelectedDocumentOnly)
     EXPECT_EQ(host->findChild<DocSummaryWindow*>(), nullptr);
 }
 
-TEST_F(ManagerTest, SummaryInAPaneLowerThanItsBlockIsDrawnOutOfSight)
-{
-    StartWith({"a.odt"});
-    Select({"a.odt"});
-    DocSummaryWindow pane(host.get(), *host->GetBrowser(), host->ListHost());
-    const int line = pane.fontMetrics().height();
-    pane.resize(600, line * DocSummaryWindow::LINE_COUNT + 4);
-    EXPECT_GT(InkedPixels(pane), 0);
-    pane.resize(600, line * (DocSummaryWindow::LINE_COUNT - 1));
-    EXPECT_EQ(InkedPixels(pane), 0);
-}
