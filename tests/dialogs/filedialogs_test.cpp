@@ -136,4 +136,3 @@ TEST_F(FileDialogTest, RenameRefusesTakenNamesAndSeparatorsAndAllowsACaseVariant
     In<QLineEdit>(dialog, "newNameEdit")->clear();
     EXPECT_FALSE(In<QPushButton>(dialog, "okButton")->isEnabled());
 }
-

@@ -58,4 +58,3 @@ TEST(FileOps, MoveAcrossDevicesCopiesThenRemoves)
     EXPECT_EQ(dir.Read("a.odt"), "here");
     fs::remove_all(other);
 }
-

@@ -69,4 +69,3 @@ TEST_F(ColumnsDialogTest, CtrlArrowsMoveTheSelectedEntryAndEnterConfirms)
     EXPECT_EQ(dialog.result(), 1);
     EXPECT_EQ(Working().columnId, Ids({{1, 2}}));
 }
-

@@ -154,4 +154,3 @@ TEST_F(DirBoxTest, KeysToggleEntriesButNeverTheRootAndTypingFindsAName)
     QTest::keyClicks(&box, "w");
     EXPECT_EQ(box.GetDir(box.GetSelectedPos()), tree.PathOf("A/w"));
 }
-

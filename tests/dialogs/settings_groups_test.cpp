@@ -214,4 +214,3 @@ TEST_F(GroupsDialogTest, SettingsMenuOpensTheDialogsOnTheSelectedGroup)
     dialog->SettingsHdl(DocGroupsDialog::ITEM_COLUMNS);
     EXPECT_FALSE(dialog->IsMainGroupChanged());
 }
-

@@ -104,4 +104,3 @@ TEST_F(PathsDialogTest, OkStoresTheListBeforeTheHiddenEntriesCancelNothing)
     EXPECT_EQ(Settings().Group(0).guis, "10");
     EXPECT_EQ(Working().paths, "W");
 }
-

@@ -65,4 +65,3 @@ TEST_F(SortDialogTest, NoSortDisablesTheDirectionAndRemembersIt)
     EXPECT_EQ(Working().sortColumnId, NO_COLUMN);
     EXPECT_FALSE(Working().sortAscending);  // neither button is checked
 }
-

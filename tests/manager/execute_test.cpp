@@ -70,4 +70,3 @@ TEST_F(ManagerTest, WithoutAHostConfigurationDmgdumpCfgIsUsed)
     EXPECT_TRUE(fsutil::IsFile(work + "/dmgdump.cfg"));
     EXPECT_FALSE(fsutil::Exists(work + "/ignored.cfg"));
 }
-

@@ -44,4 +44,3 @@ TEST(PagePlan, AColumnFitsWhenItsWidestTextEndsOnThePage)
             << row.charWidth << " x " << row.pageWidth;
     EXPECT_EQ(pageplan::FittingColumns({}, 1, 10), 0);
 }
-

@@ -174,4 +174,3 @@ TEST_F(PrintTest, TheProgressNamesThePrinterAndCancelEndsIt)
     In<QPushButton>(progress, "cancelButton")->click();
     EXPECT_EQ(progress.result(), 0);
 }
-

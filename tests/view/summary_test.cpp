@@ -41,4 +41,3 @@ TEST_F(ManagerTest, SummaryPaneShowsTheFirstSelectedDocumentOnly)
     Child<QCheckBox>("singleViewBox")->click();
     EXPECT_EQ(host->findChild<DocSummaryWindow*>(), nullptr);
 }
-
