@@ -11,7 +11,6 @@
 #include "docmgr/dialogs/docfileops.h"
 #include "tests/support/tempdir.h"
 
-namespace {
 namespace fs = std::filesystem;
 
 TEST(FileOps, FolderNamesStayBelowTheBase)
@@ -59,5 +58,3 @@ TEST(FileOps, MoveAcrossDevicesCopiesThenRemoves)
     EXPECT_EQ(dir.Read("a.odt"), "here");
     fs::remove_all(other);
 }
-
-}  // namespace

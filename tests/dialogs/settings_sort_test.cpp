@@ -1,21 +1,14 @@
 // The sort dialog: the title shown one place before the id stored, and the direction
 // buttons around "no sort".
 #include <QRadioButton>
-#include <QTest>
 
 #include "docmgr/dialogs/docsortdialog.h"
 #include "docmgr/records/docfields.h"
 #include "tests/support/managerfixture.h"
 
-namespace {
-
 class SortDialogTest : public ManagerTest {
 protected:
-    void SetUp() override
-    {
-        WriteDefaultConfig();
-        Start();
-    }
+    void SetUp() override { StartWith({}); }
     DocGroupConfig& Working() { return Settings().WorkingGroup(); }
 };
 
@@ -29,16 +22,13 @@ TEST_F(SortDialogTest, PositionShowsTheNextColumnsTitleOkStoresItsOwnNumberEscap
     const auto texts = Texts(list);
     ASSERT_EQ(texts.size(), 20u);
     EXPECT_EQ(texts[15], "Budget");
-    for (int p = 0; p < 20; ++p)
-        EXPECT_EQ(texts[p], GetColumnTitle(uint16_t(p + 1), Working())) << p;
-
     // Stored 5 selects position 5, which shows column 6's title.
+    EXPECT_EQ(texts[5], GetColumnTitle(6, Working()));
     EXPECT_EQ(list->currentRow(), 5);
     EXPECT_TRUE(In<QRadioButton>(dialog, "descendingButton")->isChecked());
     list->setCurrentRow(3);  // shows column 4's title, stores 3
     In<QRadioButton>(dialog, "ascendingButton")->setChecked(true);
     In<QPushButton>(dialog, "okButton")->click();
-    EXPECT_EQ(dialog.result(), 1);
     EXPECT_EQ(Working().sortColumnId, 3);
     EXPECT_TRUE(Working().sortAscending);
 
@@ -58,14 +48,11 @@ TEST_F(SortDialogTest, NoSortDisablesTheDirectionAndRemembersIt)
     auto* list = In<QListWidget>(dialog, "columnList");
     auto* up = In<QRadioButton>(dialog, "ascendingButton");
     auto* down = In<QRadioButton>(dialog, "descendingButton");
-    EXPECT_EQ(list->currentRow(), 0);
-    EXPECT_FALSE(up->isChecked() || down->isChecked());
-    EXPECT_FALSE(up->isEnabled() || down->isEnabled());
+    EXPECT_FALSE(up->isChecked() || down->isChecked() || up->isEnabled() || down->isEnabled());
     EXPECT_FALSE(DocSortDialog::RememberedAscending());
 
     list->setCurrentRow(7);  // the group's own direction comes back
-    EXPECT_TRUE(down->isChecked());
-    EXPECT_TRUE(down->isEnabled());
+    EXPECT_TRUE(down->isChecked() && down->isEnabled());
     list->setCurrentRow(8);  // still a column: the user's choice stays
     up->setChecked(true);
     list->setCurrentRow(9);
@@ -78,5 +65,3 @@ TEST_F(SortDialogTest, NoSortDisablesTheDirectionAndRemembersIt)
     EXPECT_EQ(Working().sortColumnId, NO_COLUMN);
     EXPECT_FALSE(Working().sortAscending);  // neither button is checked
 }
-
-}  // namespace

@@ -1,7 +1,5 @@
 // Running the manager: results, the configuration it reads, its path line and what the
 // host gets back.
-#include "docmgr/ui/docmgrresid.h"
-#include "docmgr/view/docsummarywindow.h"
 #include "tests/support/managerfixture.h"
 
 TEST_F(ManagerTest, ExecuteEndsWithCloseOrOpenAndASecondRunCollectsAgainWithTheSameSettings)
@@ -30,30 +28,13 @@ TEST_F(ManagerTest, ExecuteEndsWithCloseOrOpenAndASecondRunCollectsAgainWithTheS
     EXPECT_EQ(host->SelectedDocs(), std::vector<std::string>{docs + "/a.odt"});
     EXPECT_EQ(host->GetConfig().rfind("@DocManager[2.1]", 0), 0u);
     EXPECT_TRUE(host->IsAvailable());
-    EXPECT_EQ(host->windowTitle(), "Document Manager");
-    EXPECT_EQ(Child<QPushButton>("openButton")->text(), "&Open");
-}
-
-TEST_F(ManagerTest, ClosingSavesTheViewMode)
-{
-    WriteDefaultConfig();
-    MakeHost();
-    RunInManager([this] {
-        Child<QCheckBox>("singleViewBox")->click();
-        EXPECT_NE(host->GetSummaryWindow(), nullptr);
-        host->reject();  // Escape acts as the close button
-    });
-    Config saved(configPath);
-    saved.SetGroup("GENERAL");
-    EXPECT_EQ(saved.ReadKey("VIEWMODE"), "SINGLE");
 }
 
 TEST_F(ManagerTest, PathLineShowsTheActivePathsOrTheStartPaths)
 {
     const std::string other = dir.MakeDir("other");
-    dir.MakeFile("docs/a.odt", "x");
-    dir.MakeFile("other/b.odt", "x");
-    dir.MakeFile("other/c.odt", "x");
+    for (const char* file : {"docs/a.odt", "other/b.odt", "other/c.odt"})
+        dir.MakeFile(file, "x");
     WriteConfig({{"Both", "Main", docs + ";" + other + ";" + dir.Path(), "01"}});
     const struct {
         std::string startPaths;
@@ -88,22 +69,4 @@ TEST_F(ManagerTest, WithoutAHostConfigurationDmgdumpCfgIsUsed)
     }
     EXPECT_TRUE(fsutil::IsFile(work + "/dmgdump.cfg"));
     EXPECT_FALSE(fsutil::Exists(work + "/ignored.cfg"));
-}
-
-TEST(ModuleObjectTest, HoldsTheResourceManagerInItsSlotWhileItLives)
-{
-    ASSERT_EQ(GetAppData(SHL_DOCMGR), nullptr);
-    EXPECT_EQ(DocMgrResId(15700).GetResMgr(), nullptr);
-    EXPECT_EQ(DocMgrResId(15700).String(), "");
-    {
-        DocManagerDll module;
-        ASSERT_NE(GetAppData(SHL_DOCMGR), nullptr);
-        const DocMgrResId id(15701);
-        EXPECT_EQ(id.GetResMgr(), GetModuleResMgr());
-        EXPECT_FALSE(id.String().empty());
-        EXPECT_FALSE(DocMgrResId(15700).Text(ResKind::Menu, CMD_DELETE).isEmpty());
-    }
-    EXPECT_EQ(GetAppData(SHL_DOCMGR), nullptr);
-    DocManagerDll again;
-    EXPECT_NE(GetAppData(SHL_DOCMGR), nullptr);
 }

@@ -8,15 +8,9 @@
 
 class HandlersTest : public ManagerTest {
 protected:
-    void SetUp() override
-    {
-        StartWith({"b.odt", "c.odt", "a.odt"});
-    }
+    void SetUp() override { StartWith({"b.odt", "c.odt", "a.odt"}); }
     // Ends the next dialog with `result` without touching it.
-    static void Confirm(int result = 1)
-    {
-        OnNextModal([](QDialog&) {}, result);
-    }
+    static void Confirm(int result = 1) { OnNextModal([](QDialog&) {}, result); }
 };
 
 // A settings dialog ended with 0 changes nothing; confirmed, the settings count as changed
@@ -57,7 +51,6 @@ TEST_F(HandlersTest, ConfirmedSortSortsAndColumnsRebuildTheColumns)
     Settings().WorkingGroup().sortColumnId = COL_NAME;
     Confirm();
     host->SortHdl();
-    EXPECT_TRUE(host->IsChanged());
     EXPECT_EQ(RowNames(), (std::vector<std::string>{"a.odt", "b.odt", "c.odt"}));
     EXPECT_EQ(Browser().GetSelectedRowCount(), 0);
 
@@ -68,17 +61,6 @@ TEST_F(HandlersTest, ConfirmedSortSortsAndColumnsRebuildTheColumns)
     Confirm(1);
     host->ColumnsHdl();
     EXPECT_EQ(Browser().GetColumnId(0), COL_AUTHOR);
-}
-
-TEST_F(HandlersTest, TheGroupsDialogAsksFirstAboutChangedSettings)
-{
-    AnswerBoxes(RET_YES);
-    Confirm();
-    host->PathsHdl();
-    Confirm(0);
-    host->GroupsHdl();
-    EXPECT_EQ(queries.size(), 1u);
-    EXPECT_FALSE(host->IsChanged());
 }
 
 TEST_F(HandlersTest, CopyAndRenameCollectOnlyWhenTheyChangedFiles)

@@ -1,13 +1,1 @@
-// Test program of list printing: widgets need an application object (offscreen under ctest).
-#include <QApplication>
-#include <gtest/gtest.h>
-
-#include "tests/support/testenv.h"
-
-int main(int argc, char** argv)
-{
-    SetTestEnvironment();
-    QApplication app(argc, argv);
-    ::testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}
+#include "tests/support/widgetmain.h"

@@ -3,7 +3,6 @@
 
 #include "docmgr/print/pageplan.h"
 
-namespace {
 using pageplan::PageRows;
 
 TEST(PagePlan, EachPageHoldsAllButTheHeaderLine)
@@ -45,5 +44,3 @@ TEST(PagePlan, AColumnFitsWhenItsWidestTextEndsOnThePage)
             << row.charWidth << " x " << row.pageWidth;
     EXPECT_EQ(pageplan::FittingColumns({}, 1, 10), 0);
 }
-
-}  // namespace

@@ -7,13 +7,15 @@
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QPushButton>
-#include <QToolButton>
 #include <QDialog>
-#include <QLabel>
 #include <QItemSelectionModel>
+#include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
+#include <QTest>
 #include <QTimer>
+#include <QToolButton>
 #include <functional>
 #include <memory>
 #include <set>
@@ -57,10 +59,7 @@ protected:
     }
 
     // One group "Docs" in section "Main" showing the documents directory.
-    void WriteDefaultConfig(bool singleView = false)
-    {
-        WriteConfig({{"Docs", "Main", docs, "1"}}, 1, singleView);
-    }
+    void WriteDefaultConfig(bool singleView = false) { WriteConfig({{"Docs", "Main", docs, "1"}}, 1, singleView); }
 
     // Documents of these names in the documents directory.
     void MakeDocs(std::initializer_list<const char*> names)
@@ -70,11 +69,11 @@ protected:
     }
 
     // The default configuration, these documents and the manager started on them.
-    TestHost& StartWith(std::initializer_list<const char*> names, bool openMode = true)
+    void StartWith(std::initializer_list<const char*> names)
     {
         WriteDefaultConfig();
         MakeDocs(names);
-        return Start(openMode);
+        Start();
     }
 
     TestHost& MakeHost(bool openMode = true, const std::string& startPaths = {})
@@ -85,11 +84,7 @@ protected:
     }
 
     // Reads the settings and collects, as the first Execute does, without its modal loop.
-    TestHost& Start(bool openMode = true, const std::string& startPaths = {})
-    {
-        MakeHost(openMode, startPaths).Init();
-        return *host;
-    }
+    void Start(bool openMode = true, const std::string& startPaths = {}) { MakeHost(openMode, startPaths).Init(); }
 
     DocBrowser& Browser() { return *host->GetBrowser(); }
     ImplDocConfig& Settings() { return *host->GetSettings(); }
@@ -125,11 +120,7 @@ protected:
         return names;
     }
 
-    template <class W>
-    W* Child(const char* name)
-    {
-        return In<W>(*host, name);
-    }
+    template <class W> W* Child(const char* name) { return In<W>(*host, name); }
 
     // The child `name` of a dialog or other widget.
     template <class W>

@@ -16,17 +16,9 @@ public:
     using DocManager::DocManager;
 
     // The dialog's steps and handlers, for tests that drive it without a modal loop.
-    using DocManager::Init;
-    using DocManager::QuerySave;
-    using DocManager::SummaryHdl;
-    using DocManager::OpenHdl;
-    using DocManager::GroupsHdl;
-    using DocManager::PathsHdl;
-    using DocManager::FilterHdl;
-    using DocManager::SortHdl;
-    using DocManager::ColumnsHdl;
-    using DocManager::CollectFiles;
-    using DocManager::Command;
+    using DocManager::Init, DocManager::QuerySave;
+    using DocManager::GroupsHdl, DocManager::PathsHdl, DocManager::FilterHdl, DocManager::SortHdl;
+    using DocManager::ColumnsHdl, DocManager::CollectFiles, DocManager::Command;
 
     // What the dialog holds, read through its inside.
     DocBrowser* GetBrowser() const { return d->browser; }
@@ -65,14 +57,9 @@ public:
             *info = it->second;
         } else {
             info->title = name;
-            info->author = "Tester";
-            info->createdDate = Date(2, 1, 2020);
-            info->createdTime = Time(10, 0, 0);
-            info->modifiedDate = info->createdDate;
-            info->modifiedTime = info->createdTime;
-            info->printedDate = info->createdDate;
-            info->printedTime = info->createdTime;
-            info->printedBy = info->author;
+            info->author = info->printedBy = "Tester";
+            info->createdDate = info->modifiedDate = info->printedDate = Date(2, 1, 2020);
+            info->createdTime = info->modifiedTime = info->printedTime = Time(10, 0, 0);
         }
         info->entry = file;
         return info;
