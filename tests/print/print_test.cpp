@@ -95,7 +95,10 @@ TEST_F(PrintTest, EveryColumnStartsSelectedOkNeedsOneAndTheDialogSaysWhatFits)
 TEST_F(PrintTest, ColumnsGoInIdOrderEachAsWideAsItsWidestText)
 {
     auto dialog = Open(2, 10);
-    host->known["doc01.odt"] = {.title = std::string(14, 'x'), .author = "Tester"};
+    DocInfo wide;
+    wide.title = std::string(14, 'x');
+    wide.author = "Tester";
+    host->known["doc01.odt"] = wide;
     std::filesystem::remove(docs + "/.docindex");  // so that the host is asked again
     host->CollectFiles();
     Settings().WorkingGroup().columnId = {5, 3, 1, 2, 4, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20};
