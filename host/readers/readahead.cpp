@@ -50,11 +50,13 @@ void DocReadAhead::Work()
         if (states_[i] != State::Waiting)
             continue;  // the list asked before a worker got there
         states_[i] = State::Reading;
+        ++reading_;
         lock.unlock();
         std::unique_ptr<DocInfo> info = ReadDocInfo(paths_[i]);
         lock.lock();
         results_[i] = std::move(info);
         states_[i] = State::Read;
+        --reading_;
         read_.notify_all();
     }
 }
@@ -64,20 +66,31 @@ std::unique_ptr<DocInfo> DocReadAhead::Take(const std::string& path)
     std::unique_lock lock(mutex_);
     const auto found = index_.find(path);
     // Not planned, or asked again: read here, as without the pool.
-    if (found == index_.end())
-        return ReadDocInfo(path);
-    const size_t i = found->second;
-    index_.erase(found);
-    if (states_[i] == State::Waiting) {
-        states_[i] = State::Read;  // no worker starts it now
+    if (found == index_.end()) {
         lock.unlock();
-        std::string().swap(paths_[i]);
         return ReadDocInfo(path);
     }
-    read_.wait(lock, [&] { return states_[i] == State::Read; });
-    std::string().swap(paths_[i]);
-    const std::unique_ptr<DocInfo> read = std::move(results_[i]);
+    const size_t i = found->second;
+    index_.erase(found);
+    const bool readHere = states_[i] == State::Waiting;
+    std::unique_ptr<DocInfo> read;
+    if (readHere) {
+        states_[i] = State::Read;  // no worker starts it now
+    } else {
+        read_.wait(lock, [&] { return states_[i] == State::Read; });
+        read = std::move(results_[i]);
+    }
+    // The last one taken, and no worker busy (a path planned twice): the plan goes whole.
+    if (index_.empty() && reading_ == 0) {
+        std::vector<std::string>().swap(paths_);
+        std::vector<std::unique_ptr<DocInfo>>().swap(results_);
+        std::vector<State>().swap(states_);
+    } else {
+        std::string().swap(paths_[i]);
+    }
     lock.unlock();
+    if (readHere)
+        return ReadDocInfo(path);
     // Copied on this thread, to the texts' lengths: the reader's strings, grown among its
     // scratch buffers in its own arena, would pin that memory for as long as the row lives.
     return read ? std::make_unique<DocInfo>(*read) : nullptr;

@@ -39,6 +39,7 @@ private:
     std::vector<std::unique_ptr<DocInfo>> results_;
     std::vector<State> states_;
     size_t next_ = 0;
+    size_t reading_ = 0;  // documents a worker is reading now
     bool stopping_ = false;
     std::mutex mutex_;
     std::condition_variable read_;
