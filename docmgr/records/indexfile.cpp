@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <cstring>
 #include <ctime>
+#include <string_view>
 #include <unordered_map>
 #include <utility>
 
@@ -80,7 +81,9 @@ struct DocRowList::DirPass {
     size_t dirEntries = 0;            // every entry of the directory, to bound the index
     int64_t listedAtNs = 0;           // taken before the directory was listed
     std::vector<bool> consumed;
-    std::unordered_map<std::string, size_t> byName;  // listed name -> position; no index
+    // Listed name (in `files`) -> position, the index left out; made only when there are
+    // records to match.
+    std::unordered_map<std::string_view, size_t> byName;
     std::vector<std::unique_ptr<DocInfo>> working;
     KxFileStream stream;
     bool rewriteNeeded = false;
@@ -165,6 +168,11 @@ void DocRowList::ReadRecords(DirPass& pass, IndexBlocks& records, int64_t indexM
     };
     std::vector<Changed> changed;
     std::vector<std::string> reads;  // the changed ones first, in record order
+    pass.byName.reserve(pass.files.size());
+    for (size_t i = 0; i < pass.files.size(); ++i) {
+        if (!pass.IsIndex(i))
+            pass.byName.emplace(pass.files[i].name, i);
+    }
     // Only whole records count; a partial one at the end stays as it is.
     records.ForEach([&](uint64_t offset, const char* bytes) {
         const std::string name = DocRecord::ReadName(bytes);
@@ -382,11 +390,6 @@ void DocRowList::ReadOneDir(const std::string& absDir)
     pass.indexName = dirFileName_;
     pass.indexPath = fsutil::Join(pass.dir, dirFileName_);
     pass.consumed.assign(pass.files.size(), false);
-    pass.byName.reserve(pass.files.size());
-    for (size_t i = 0; i < pass.files.size(); ++i) {
-        if (!pass.IsIndex(i))
-            pass.byName.emplace(pass.files[i].name, i);
-    }
 
     ReadIndex(pass);
     FinishInPlace(pass);
