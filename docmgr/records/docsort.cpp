@@ -9,9 +9,8 @@
 
 namespace {
 
-// The comparison sees only the two rows, so the column and direction of the running
-// sort live here; two sorts never run at once (UI thread only).
-uint16_t sortColumnId = 0;
+// The comparison sees only the two keys, so the direction of the running sort lives
+// here; two sorts never run at once (UI thread only).
 bool sortAscending = true;
 
 int Sign(std::strong_ordering order)
@@ -69,7 +68,6 @@ std::string_view TextKey(const DocInfo& info, uint16_t columnId, std::vector<std
 
 void SortRows(std::vector<std::unique_ptr<DocInfo>>& rows, uint16_t columnId, bool ascending)
 {
-    sortColumnId = columnId;
     sortAscending = ascending;
     const FieldKind kind = KindOfColumn(columnId);
     if (kind == FieldKind::None)

@@ -62,7 +62,7 @@ ReadProblem ReadByContent(const std::string& path, uint64_t fileSize, DocFormat 
 {
     isDocument = byName != DocFormat::None;
     DocBytes doc;
-    if (!ReadDocBytes(path, doc))
+    if (!ReadDocBytes(path, fileSize, doc))
         return ReadProblem::Damaged;
     switch (SignatureOf(doc.bytes)) {
     case Signature::Pdf:

@@ -37,8 +37,10 @@ bool ReadFileHead(const std::string& path, size_t limit, std::string& out, bool&
     return true;
 }
 
-bool ReadDocBytes(const std::string& path, DocBytes& doc)
+bool ReadDocBytes(const std::string& path, uint64_t fileSize, DocBytes& doc)
 {
     doc.path = path;
-    return ReadFileHead(path, kDocBytesLimit, doc.bytes, doc.whole);
+    // A file that grew since it was seen is not whole: its readers take the path.
+    return ReadFileHead(path, fileSize <= kWholeReadLimit ? kWholeReadLimit : kSignatureBytes, doc.bytes,
+                        doc.whole);
 }

@@ -11,7 +11,8 @@ namespace {
 
 // Producers write the information first; a larger file (embedded pictures) is cut
 // after it and closed, so that only its head is parsed.
-static_assert(kDocBytesLimit <= kMaxXmlPart);
+constexpr size_t kMaxFlatHead = kMaxXmlPart;
+static_assert(kWholeReadLimit <= kMaxFlatHead);
 
 // The head up to the end of the meta element, with the root closed after it.
 bool CutAfterMeta(std::string& bytes)
@@ -29,13 +30,13 @@ bool CutAfterMeta(std::string& bytes)
 
 ReadProblem ReadFlatOdfInfo(const DocBytes& file, DocInfo& info)
 {
-    std::string cut;
+    std::string head;
     if (!file.whole) {
-        cut = file.bytes;
-        if (!CutAfterMeta(cut))
+        bool whole = false;
+        if (!ReadFileHead(file.path, kMaxFlatHead, head, whole) || (!whole && !CutAfterMeta(head)))
             return ReadProblem::Damaged;
     }
-    const std::string& bytes = file.whole ? file.bytes : cut;
+    const std::string& bytes = file.whole ? file.bytes : head;
     pugi::xml_document doc;
     if (!xmlutil::Parse(bytes, doc))
         return ReadProblem::Damaged;

@@ -10,20 +10,17 @@ namespace pdfinfo {
 
 void Open(QPDF& pdf, const std::string& path, bool repair)
 {
-    pdf.setSuppressWarnings(true);
-    pdf.setAttemptRecovery(repair);
-    pdf.processFile(path.c_str());
+    Open(pdf, DocBytes{path, {}, false}, repair);
 }
 
 void Open(QPDF& pdf, const DocBytes& doc, bool repair)
 {
-    if (!doc.whole) {
-        Open(pdf, doc.path, repair);
-        return;
-    }
     pdf.setSuppressWarnings(true);
     pdf.setAttemptRecovery(repair);
-    pdf.processMemoryFile(doc.path.c_str(), doc.bytes.data(), doc.bytes.size());
+    if (doc.whole)
+        pdf.processMemoryFile(doc.path.c_str(), doc.bytes.data(), doc.bytes.size());
+    else
+        pdf.processFile(doc.path.c_str());
 }
 
 namespace {

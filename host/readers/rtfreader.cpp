@@ -13,6 +13,12 @@ constexpr size_t kMaxRtfHead = 4u << 20;
 
 ReadProblem ReadRtfInfo(const DocBytes& doc, DocInfo& info)
 {
-    const std::string_view head = std::string_view(doc.bytes).substr(0, kMaxRtfHead);
+    static_assert(kWholeReadLimit <= kMaxRtfHead);
+    if (doc.whole)
+        return ParseRtfInfo(doc.bytes, info) ? ReadProblem::None : ReadProblem::Damaged;
+    std::string head;
+    bool whole = false;
+    if (!ReadFileHead(doc.path, kMaxRtfHead, head, whole))
+        return ReadProblem::Damaged;
     return ParseRtfInfo(head, info) ? ReadProblem::None : ReadProblem::Damaged;
 }
