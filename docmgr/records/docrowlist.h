@@ -8,6 +8,7 @@
 
 #include "docmgr/records/docinfo.h"
 #include "docmgr/records/docsource.h"
+#include "docmgr/tools/replacefile.h"
 
 class ImplDocConfig;
 class KxFileStream;
@@ -60,12 +61,13 @@ private:
     void ReadDir(const std::string& dir, bool withSubdirs, DirVisit& visit);
     void ReadOneDir(const std::string& absDir);
     void ReadSubdirs(const std::string& absDir, DirVisit& visit);
-    bool OpenIndex(DirPass& pass);
+    enum class IndexOpening { Opened, Missing, Unstable, Failed };
+    IndexOpening OpenIndex(DirPass& pass);
     void ReadIndex(DirPass& pass);
-    void WriteInPlace(DirPass& pass, uint64_t offset, const DocInfo& info);
-    void FinishInPlace(DirPass& pass);
     void ReadRecords(DirPass& pass, IndexBlocks& records, int64_t indexMtimeNs);
     void RewriteIndex(DirPass& pass);
+    void WriteUpdates(DirPass& pass);
+    void ReplaceIndex(DirPass& pass, const replacefile::Fill& fill);
     void ProbeAll(DirPass& pass);
     std::unique_ptr<DocInfo> Probe(const DirPass& pass, size_t file);
     const std::string* WalkTo(long row);

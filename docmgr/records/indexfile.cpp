@@ -13,6 +13,7 @@
 #include "docmgr/records/docrowlist.h"
 #include "docmgr/records/indexblocks.h"
 #include "docmgr/tools/filestream.h"
+#include "docmgr/tools/folderaudience.h"
 #include "docmgr/tools/fsutil.h"
 #include "docmgr/tools/replacefile.h"
 
@@ -59,6 +60,36 @@ std::string IndexHeader()
     return header;
 }
 
+// Index bytes handed on in blocks of about 1 MiB rather than as one image, which would
+// cost as much memory again as the rows.
+class IndexBuffer {
+public:
+    explicit IndexBuffer(const replacefile::PutPiece& put) : put_(put) { block_.reserve(BLOCK + DocRecord::SIZE); }
+
+    void Append(std::string_view bytes)
+    {
+        block_ += bytes;
+        if (block_.size() >= BLOCK)
+            Flush();
+    }
+    void Append(const DocInfo& info)
+    {
+        char bytes[DocRecord::SIZE];
+        DocRecord(info).ToBytes(bytes);
+        Append(std::string_view(bytes, sizeof bytes));
+    }
+    void Flush()
+    {
+        put_(block_);
+        block_.clear();
+    }
+
+private:
+    static constexpr size_t BLOCK = 1440 * DocRecord::SIZE;
+    const replacefile::PutPiece& put_;
+    std::string block_;
+};
+
 }  // namespace
 
 // Directories on the current recursion path, by device and inode, so that a link back
@@ -74,13 +105,19 @@ struct DocRowList::DirVisit {
 
 // The state of one directory's read-update-write.
 struct DocRowList::DirPass {
+    explicit DirPass(const std::string& absDir) : dir(absDir), audience(absDir) {}
+
     std::string dir;                  // absolute
+    FolderAudience audience;
     std::string indexName;
     std::string indexPath;
     std::vector<fsutil::DirItem> files;
     size_t dirEntries = 0;            // every entry of the directory, to bound the index
     int64_t listedAtNs = 0;           // taken before the directory was listed
     std::vector<bool> consumed;
+    // Files that some reader of the folder may not read: they never get a record, which
+    // would tell those readers what the file does not.
+    std::vector<bool> isPrivate;
     // Listed name (in `files`) -> position, the index left out; made only when there are
     // records to match.
     std::unordered_map<std::string_view, size_t> byName;
@@ -92,10 +129,13 @@ struct DocRowList::DirPass {
     // False while another process holds the lock, and where the index cannot be written
     // (a read-only folder) or is not a plain file.
     bool mayWrite = true;
-    bool wroteInPlace = false;
-    bool inPlaceFailed = false;       // a full disk: the index gets its old length back
     uint64_t indexSize = 0;
     int64_t indexMtimeNs = 0;
+    // Records to write over (at their offsets) and to append. They reach the disk as a
+    // whole new index, so that no crash can leave a record dated as current that does not
+    // describe its document. The DocInfos are those of `working`.
+    std::vector<std::pair<uint64_t, const DocInfo*>> overwrites;
+    std::vector<const DocInfo*> appends;
 
     // The index and the temporary files of its rewrites are never documents.
     bool IsIndex(size_t i) const
@@ -106,7 +146,12 @@ struct DocRowList::DirPass {
                 name.compare(indexName.size(), replacefile::TEMP_INFIX.size(),
                              replacefile::TEMP_INFIX) == 0);
     }
-    bool InPlaceUpdates() const { return !rewriteNeeded && !reprobeAll && mayWrite && !inPlaceFailed; }
+    bool InPlaceUpdates() const { return !rewriteNeeded && !reprobeAll && mayWrite; }
+    // A record made now would be current until the document changes.
+    bool IsCurrent(const fsutil::DirItem& item, int64_t indexMtimeNs) const
+    {
+        return item.mtimeNs < indexMtimeNs && item.ctimeNs < indexMtimeNs;
+    }
 };
 
 bool DocRowList::WriteDirFileEntry(KxFileStream& stream, const DocInfo* info)
@@ -184,7 +229,9 @@ void DocRowList::ReadRecords(DirPass& pass, IndexBlocks& records, int64_t indexM
         const size_t file = found->second;
         const fsutil::DirItem& item = pass.files[file];
         pass.consumed[file] = true;
-        if (indexMtimeNs <= item.mtimeNs) {
+        if (pass.isPrivate[file])
+            pass.rewriteNeeded = true;  // its record must go
+        if (pass.isPrivate[file] || !pass.IsCurrent(item, indexMtimeNs)) {
             changed.push_back({pass.working.size(), offset, file});
             reads.push_back(fsutil::Join(pass.dir, name));
             pass.working.emplace_back();
@@ -215,7 +262,7 @@ void DocRowList::ReadRecords(DirPass& pass, IndexBlocks& records, int64_t indexM
         info->entry = reads[k];
         info->size = FileSize32(pass.files[doc.file].size);
         if (pass.InPlaceUpdates())
-            WriteInPlace(pass, doc.offset, *info);
+            pass.overwrites.emplace_back(doc.offset, info.get());
         pass.working[doc.row] = std::move(info);
     }
     if (!changed.empty())
@@ -226,44 +273,38 @@ void DocRowList::ReadRecords(DirPass& pass, IndexBlocks& records, int64_t indexM
             continue;
         std::unique_ptr<DocInfo> info = Probe(pass, i);
         // Non-documents reach the index only through a full rewrite.
-        if (info->HasInfo() && pass.InPlaceUpdates())
-            WriteInPlace(pass, pass.stream.Size(), *info);
+        if (info->HasInfo() && !pass.isPrivate[i] && pass.InPlaceUpdates())
+            pass.appends.push_back(info.get());
         pass.working.push_back(std::move(info));
     }
-}
-
-void DocRowList::WriteInPlace(DirPass& pass, uint64_t offset, const DocInfo& info)
-{
-    pass.stream.Seek(offset);
-    if (WriteDirFileEntry(pass.stream, &info))
-        pass.wroteInPlace = true;
-    else
-        pass.inPlaceFailed = true;
 }
 
 // Opens and locks the index, for writing where it can be written. A rewrite by another
 // process renames a new file over the one opened here; the lock is then taken again on
 // the file the name holds now.
-bool DocRowList::OpenIndex(DirPass& pass)
+DocRowList::IndexOpening DocRowList::OpenIndex(DirPass& pass)
 {
     for (int attempt = 0; attempt < 8; ++attempt) {
         pass.mayWrite = true;
         if (!pass.stream.Open(pass.indexPath, KxFileStream::Mode::ReadWrite)) {
+            if (errno == ENOENT)
+                return IndexOpening::Missing;  // removed since it was seen
             if (errno != EACCES && errno != EROFS && errno != EPERM && errno != ETXTBSY)
-                return false;
+                return IndexOpening::Failed;
             // A folder or index the user cannot write: read it, write nothing.
             if (!pass.stream.Open(pass.indexPath, KxFileStream::Mode::Read))
-                return false;
+                return errno == ENOENT ? IndexOpening::Missing : IndexOpening::Failed;
             pass.mayWrite = false;
         }
         // Another process busy with this directory: list it, but leave its index alone.
         if (!pass.stream.LockExclusive(INDEX_LOCK_WAIT_MS))
             pass.mayWrite = false;
         if (pass.stream.IsFileAt(pass.indexPath))
-            return true;
+            return IndexOpening::Opened;
         pass.stream.Close();
     }
-    return false;
+    // Replaced again and again by other listings: nothing wrong with it.
+    return IndexOpening::Unstable;
 }
 
 void DocRowList::ReadIndex(DirPass& pass)
@@ -280,12 +321,27 @@ void DocRowList::ReadIndex(DirPass& pass)
         ProbeAll(pass);
         return;
     }
-    if (!OpenIndex(pass)) {
+    switch (OpenIndex(pass)) {
+    case IndexOpening::Opened:
+        break;
+    case IndexOpening::Missing:
+        ProbeAll(pass);
+        pass.rewriteNeeded = true;
+        return;
+    case IndexOpening::Unstable:
+        // The documents themselves are read; the busy index is neither written nor deleted.
+        pass.mayWrite = false;
+        ProbeAll(pass);
+        return;
+    case IndexOpening::Failed:
         pass.unusable = true;
         return;
     }
-    fsutil::Stat(pass.indexPath, pass.indexSize, pass.indexMtimeNs);
-    pass.indexSize = pass.stream.Size();
+    // The file that was opened, whatever its name holds by now.
+    if (!pass.stream.Status(pass.indexSize, pass.indexMtimeNs)) {
+        pass.unusable = true;
+        return;
+    }
 
     char header[HEADER_SIZE];
     const size_t headerRead = pass.stream.Read(header, sizeof header);
@@ -318,49 +374,91 @@ void DocRowList::RewriteIndex(DirPass& pass)
         return;
     // Written in blocks of records rather than as one image, which would cost as much
     // memory again as the rows.
-    const auto fill = [&pass](const replacefile::PutPiece& put) {
-        constexpr size_t BLOCK = 1440 * DocRecord::SIZE;
-        std::string block = IndexHeader();
-        block.reserve(BLOCK + DocRecord::SIZE);
-        char bytes[DocRecord::SIZE];
+    std::vector<bool> privateEntry;  // by row of `working`; the rows hold full paths
+    if (std::find(pass.isPrivate.begin(), pass.isPrivate.end(), true) != pass.isPrivate.end()) {
+        std::unordered_map<std::string_view, bool> byName;
+        for (size_t i = 0; i < pass.files.size(); ++i)
+            byName.emplace(pass.files[i].name, pass.isPrivate[i]);
         for (const auto& info : pass.working) {
-            // A longer name could not be matched with its file again.
-            if (fsutil::FileName(info->entry).size() > DocRecord::NAME_LEN)
-                continue;
-            DocRecord(*info).ToBytes(bytes);
-            block.append(bytes, sizeof bytes);
-            if (block.size() >= BLOCK) {
-                put(block);
-                block.clear();
-            }
+            const auto found = byName.find(fsutil::FileName(info->entry));
+            privateEntry.push_back(found != byName.end() && found->second);
         }
-        put(block);
+    }
+    const auto fill = [&pass, &privateEntry](const replacefile::PutPiece& put) {
+        IndexBuffer out(put);
+        out.Append(IndexHeader());
+        for (size_t row = 0; row < pass.working.size(); ++row) {
+            const DocInfo& info = *pass.working[row];
+            // A longer name could not be matched with its file again.
+            if (fsutil::FileName(info.entry).size() > DocRecord::NAME_LEN ||
+                (!privateEntry.empty() && privateEntry[row]))
+                continue;
+            out.Append(info);
+        }
+        out.Flush();
+        return true;
     };
-    // A new file renamed over the old one, so a crash or a full disk leaves the old index
-    // or the new one, never a mixture. The lock on the old file is held until the new one
-    // is in place. The index is dated back to the listing, so that a document changed
-    // while it was read is read again next time.
-    if (replacefile::ReplaceWith(pass.indexPath, fill, pass.listedAtNs) != 0)
+    ReplaceIndex(pass, fill);
+}
+
+// The records of this listing written over their old ones and after the last one, as
+// an update in place would leave them, but through a new file: a crash in the middle
+// leaves the old index with its old date.
+void DocRowList::WriteUpdates(DirPass& pass)
+{
+    if (pass.overwrites.empty() && pass.appends.empty())
+        return;
+    const auto fill = [&pass](const replacefile::PutPiece& put) {
+        IndexBuffer out(put);
+        uint64_t copied = 0;
+        // The old file's bytes, from the file that was read (not whatever its name holds).
+        const auto copyUpTo = [&](uint64_t end) {
+            for (std::string piece; copied < end; copied += piece.size()) {
+                piece.resize(size_t(std::min<uint64_t>(end - copied, 1 << 20)));
+                pass.stream.Seek(copied);
+                piece.resize(pass.stream.Read(piece.data(), piece.size()));
+                if (piece.empty())
+                    return false;
+                out.Append(piece);
+            }
+            return true;
+        };
+        for (const auto& [offset, info] : pass.overwrites) {
+            if (!copyUpTo(offset))
+                return false;
+            out.Append(*info);
+            copied = offset + DocRecord::SIZE;
+        }
+        if (!copyUpTo(pass.indexSize))
+            return false;
+        for (const DocInfo* info : pass.appends)
+            out.Append(*info);
+        out.Flush();
+        return true;
+    };
+    ReplaceIndex(pass, fill);
+}
+
+// A new file renamed over the old one, so a crash or a full disk leaves the old index
+// or the new one, never a mixture. The lock on the old file is held until the new one
+// is in place, where the file system lets a file that is open be replaced. The index is
+// dated back to the listing, so that a document changed while it was read is read again
+// next time, and made readable to whoever may read the folder.
+void DocRowList::ReplaceIndex(DirPass& pass, const replacefile::Fill& fill)
+{
+    replacefile::Options options;
+    options.mtimeNs = pass.listedAtNs;
+    options.mode = int(pass.audience.IndexMode());
+    options.uid = pass.audience.Owner();
+    options.gid = pass.audience.Group();
+    options.releaseTarget = [&pass] { pass.stream.Close(); };
+    if (replacefile::ReplaceWith(pass.indexPath, fill, options) != 0)
         return;
     // What a rewrite killed before its rename left behind.
     const std::string temps = pass.indexName + std::string(replacefile::TEMP_INFIX) + "*";
     for (const fsutil::DirItem& item : fsutil::List(pass.dir, temps, fsutil::Kind::Files)) {
-        if (replacefile::IsAbandonedTemp(item.name, pass.indexName))
+        if (replacefile::IsAbandonedTemp(pass.dir, item.name, pass.indexName))
             fsutil::Remove(fsutil::Join(pass.dir, item.name));
-    }
-}
-
-// In-place updates leave the index dated back to the listing (see RewriteIndex); a failed
-// one gives it back its old length and date, so that no record written only in part is
-// taken for current.
-void DocRowList::FinishInPlace(DirPass& pass)
-{
-    if (pass.inPlaceFailed) {
-        if (pass.stream.Size() > pass.indexSize)
-            pass.stream.Truncate(pass.indexSize);
-        pass.stream.SetModified(pass.indexMtimeNs);
-    } else if (pass.wroteInPlace) {
-        pass.stream.SetModified(pass.listedAtNs);
     }
 }
 
@@ -376,8 +474,7 @@ void DocRowList::ReadDir(const std::string& dir, bool withSubdirs, DirVisit& vis
 
 void DocRowList::ReadOneDir(const std::string& absDir)
 {
-    DirPass pass;
-    pass.dir = absDir;
+    DirPass pass(absDir);
     const std::string filterFiles = config_ ? config_->WorkingGroup().filterFiles : std::string();
     const std::string pattern = filterFiles.empty() ? std::string(1, '*') : filterFiles;
 
@@ -390,11 +487,15 @@ void DocRowList::ReadOneDir(const std::string& absDir)
     pass.indexName = dirFileName_;
     pass.indexPath = fsutil::Join(pass.dir, dirFileName_);
     pass.consumed.assign(pass.files.size(), false);
+    pass.isPrivate.reserve(pass.files.size());
+    for (const fsutil::DirItem& item : pass.files)
+        pass.isPrivate.push_back(!pass.audience.MayRead(pass.dir, item));
 
     ReadIndex(pass);
-    FinishInPlace(pass);
     if ((pass.rewriteNeeded || (pass.reprobeAll && !pass.unusable)) && !pass.working.empty())
         RewriteIndex(pass);
+    else if (pass.InPlaceUpdates())
+        WriteUpdates(pass);
     if (pass.working.empty() && pass.mayWrite) {
         const int error = fsutil::Remove(pass.indexPath);
         // An index that cannot be read nor deleted would hide the documents every time.
@@ -418,7 +519,9 @@ void DocRowList::ReadSubdirs(const std::string& dir, DirVisit& visit)
     visit.path.emplace_back(dev, ino);
     const bool exceptions = config_ && !config_->GetExceptionPaths().empty();
     for (const fsutil::DirItem& item : fsutil::List(dir, "*", fsutil::Kind::Dirs)) {
-        if (item.name == "." || item.name == "..")
+        // A link may lead anywhere, to the root or round to a parent: the listing keeps
+        // to the real folders of the tree it was given.
+        if (item.name == "." || item.name == ".." || item.isLink)
             continue;
         const std::string subdir = fsutil::Join(dir, item.name);
         if (exceptions && config_->IsExceptionPath(subdir))

@@ -88,6 +88,16 @@ uint64_t KxFileStream::Size() const
     return fd_ >= 0 && fstat(fd_, &st) == 0 ? uint64_t(st.st_size) : 0;
 }
 
+bool KxFileStream::Status(uint64_t& size, int64_t& mtimeNs) const
+{
+    struct stat st {};
+    if (fd_ < 0 || fstat(fd_, &st) != 0)
+        return false;
+    size = uint64_t(st.st_size);
+    mtimeNs = int64_t(st.st_mtim.tv_sec) * 1000000000 + st.st_mtim.tv_nsec;
+    return true;
+}
+
 bool KxFileStream::Truncate(uint64_t size)
 {
     return fd_ >= 0 && ftruncate(fd_, off_t(size)) == 0;

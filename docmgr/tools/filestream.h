@@ -27,6 +27,8 @@ public:
     void SeekToEnd();
     uint64_t Tell() const { return position_; }
     uint64_t Size() const;
+    // Size and modification time of the open file (not of whatever its name holds now).
+    bool Status(uint64_t& size, int64_t& mtimeNs) const;
 
     // Cuts or extends the file to `size` bytes.
     bool Truncate(uint64_t size);

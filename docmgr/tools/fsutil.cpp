@@ -20,6 +20,19 @@ int64_t MtimeNs(const struct stat& st)
     return int64_t(st.st_mtim.tv_sec) * 1000000000 + st.st_mtim.tv_nsec;
 }
 
+int64_t CtimeNs(const struct stat& st)
+{
+    return int64_t(st.st_ctim.tv_sec) * 1000000000 + st.st_ctim.tv_nsec;
+}
+
+bool IsLinkEntry(int dirFd, const dirent& entry)
+{
+    if (entry.d_type != DT_UNKNOWN)
+        return entry.d_type == DT_LNK;
+    struct stat st {};
+    return fstatat(dirFd, entry.d_name, &st, AT_SYMLINK_NOFOLLOW) == 0 && S_ISLNK(st.st_mode);
+}
+
 }  // namespace
 
 std::vector<DirItem> List(const std::string& dir, std::string_view pattern, Kind kind,
@@ -50,7 +63,9 @@ std::vector<DirItem> List(const std::string& dir, std::string_view pattern, Kind
         const bool isDir = S_ISDIR(st.st_mode);
         if (kind == Kind::Dirs ? !isDir : !S_ISREG(st.st_mode))
             continue;
-        items.push_back({std::string(name), uint64_t(st.st_size), MtimeNs(st)});
+        items.push_back({std::string(name), uint64_t(st.st_size), MtimeNs(st), CtimeNs(st),
+                         uint32_t(st.st_mode), uint32_t(st.st_uid), uint32_t(st.st_gid),
+                         IsLinkEntry(dirFd, *entry)});
     }
     closedir(handle);
     if (status)

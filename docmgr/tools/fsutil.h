@@ -12,6 +12,12 @@ struct DirItem {
     std::string name;      // last component, UTF-8
     uint64_t size = 0;     // bytes (files only)
     int64_t mtimeNs = 0;   // modification time, ns since the epoch
+    int64_t ctimeNs = 0;   // status change time: a file moved or copied in with an old
+                           // modification time still shows here when it arrived
+    uint32_t mode = 0;     // of the file a link leads to
+    uint32_t uid = 0;
+    uint32_t gid = 0;
+    bool isLink = false;   // the entry itself is a symbolic link
 };
 
 enum class Kind { Files, Dirs };

@@ -9,23 +9,42 @@
 
 namespace replacefile {
 
-// The temporary file's name: `target` with this text and a unique ending appended.
-// Listings that must not see such files skip names starting with the target's name and it.
+// The temporary file's name: `target` with this text, the writer's host and process and
+// a unique ending appended. Listings that must not see such files skip names starting
+// with the target's name and it.
 inline constexpr std::string_view TEMP_INFIX = ".tmp-";
 
-// Writes `contents` to a new file beside `target` and renames it over `target`. The new
-// file keeps the old one's permissions; with `mtimeNs` >= 0 it gets that modification
-// time. Returns 0 or an errno value; on failure no temporary file is left behind.
-int Replace(const std::string& target, std::string_view contents, int64_t mtimeNs = -1);
+struct Options {
+    // The new file's modification time (ns since the epoch), set once its contents are
+    // closed, so that no file system stamps its own time over it afterwards. Where the
+    // time cannot be had (a server keeping whole seconds), the whole second before it;
+    // where the file then still reports a later time, nothing is replaced.
+    int64_t mtimeNs = -1;
+    // The new file's permissions, whatever the umask; -1 keeps the old file's.
+    int mode = -1;
+    // Owner and group to give the new file where the process may (-1: the creator's).
+    int64_t uid = -1;
+    int64_t gid = -1;
+    // Some network file systems refuse to replace a file that is still open (SMB). When
+    // the rename is refused, this is called so that the caller closes the target, and
+    // the rename is tried again for a short while.
+    std::function<void()> releaseTarget;
+};
+
+// Writes `contents` to a new file beside `target` and renames it over `target`.
+// Returns 0 or an errno value; on failure no temporary file is left behind.
+int Replace(const std::string& target, std::string_view contents, const Options& options = {});
 
 // The same with contents made piece by piece: `fill` hands each piece to `put`, so that
-// large contents need not be held whole. A failed `put` makes the rest no-ops.
+// large contents need not be held whole, and returns false when it cannot make them
+// (nothing is then replaced). A failed `put` makes the rest no-ops.
 using PutPiece = std::function<void(std::string_view piece)>;
-int ReplaceWith(const std::string& target, const std::function<void(const PutPiece& put)>& fill,
-                int64_t mtimeNs = -1);
+using Fill = std::function<bool(const PutPiece& put)>;
+int ReplaceWith(const std::string& target, const Fill& fill, const Options& options = {});
 
-// True when `name` is a temporary file of Replace for the file named `targetName` whose
-// process no longer runs (it was killed before the rename): nothing will ever use it.
-bool IsAbandonedTemp(const std::string& name, const std::string& targetName);
+// True when `name` is a temporary file of Replace for the file named `targetName` that
+// nothing will use any more: its process on this host no longer runs, or, written on
+// another host (a shared folder), it has not changed for an hour. `dir` holds it.
+bool IsAbandonedTemp(const std::string& dir, const std::string& name, const std::string& targetName);
 
 }  // namespace replacefile

@@ -69,22 +69,26 @@ TEST_F(CliListTest, TheIndexIsWrittenOnceThenUsedInsteadOfTheDocuments)
     dir.MakeFile("lib/broken.docx", "plain text under an OOXML name");
     const std::string config = WriteConfig(ConfigText({{.name = "Lib", .paths = Lib(), .sortColumn = 1, .columns = {1}}}));
     int64_t written = 0;
-    // The second listing comes from the index (under the name given): the document may
-    // have turned to rubbish without its file time changing. The index keeps no reason why
-    // a document shows no information: it is found again.
-    for (int pass = 0; pass < 2; ++pass) {
+    testfs::WaitForFileClock();
+    // The second listing comes from the index (under the name given), which is not
+    // written again. The index keeps no reason why a document shows no information: it
+    // is found again. A document replaced by one with an older file time (a copy that
+    // kept its time, a restored backup) is read again all the same.
+    for (int pass = 0; pass < 3; ++pass) {
         SCOPED_TRACE(pass);
         const QJsonArray rows = Rows(List(config, {"--format", "json", "--index-name", "my.idx"}));
         ASSERT_EQ(rows.size(), 3);
-        EXPECT_EQ(rows[0].toObject()["title"].toString() + rows[0].toObject()["problem"].toString(), "Alpha");
+        EXPECT_EQ(rows[0].toObject()["title"].toString() + rows[0].toObject()["problem"].toString(),
+                  pass < 2 ? "Alpha" : "not a zip");
         EXPECT_EQ(rows[1].toObject()["problem"].toString() + "|" + rows[2].toObject()["problem"].toString(), "not a zip|encrypted");
         if (pass == 0) {
             ASSERT_TRUE(dir.Exists("lib/my.idx"));
             written = dir.MTimeNs("lib/my.idx");
+        } else if (pass == 1) {
+            EXPECT_EQ(dir.MTimeNs("lib/my.idx"), written) << "an index in use is not rewritten";
             dir.MakeFile("lib/a.odt", "rubbish", 1600000000 + 100);
         }
     }
-    EXPECT_EQ(dir.MTimeNs("lib/my.idx"), written) << "an index in use is not rewritten";
     EXPECT_FALSE(dir.Exists("lib/.docindex"));
 }
 

@@ -2,6 +2,7 @@
 // A directory, a document source and a row list for the index tests.
 #include <gtest/gtest.h>
 
+#include <ctime>
 #include <string>
 #include <vector>
 
@@ -13,9 +14,10 @@
 
 class IndexTest : public ::testing::Test {
 protected:
-    // Documents are written at OLD, hand-made indexes at NEWER: the index is younger.
-    static constexpr int64_t OLD = 1600000000;
-    static constexpr int64_t NEWER = OLD + 100;
+    // Documents are written dated OLD, hand-made indexes dated NEWER: the index is
+    // younger, also than the moment the files were made (their change time).
+    static inline const int64_t OLD = time(nullptr) - 100000;
+    static inline const int64_t NEWER = time(nullptr) + 1000;
     static constexpr const char* INDEX = ".docindex";
 
     void SetUp() override { rows.SetConfig(&config); }
@@ -25,6 +27,7 @@ protected:
     // Reads the test directory alone into an empty list.
     void ReadDir(bool withSubdirs = false)
     {
+        testfs::WaitForFileClock();
         rows.Clear();
         rows.ReadWriteDocInfos(dir.Path(), withSubdirs);
     }

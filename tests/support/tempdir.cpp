@@ -2,6 +2,8 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <ctime>
+#include <unistd.h>
 
 #include <QDir>
 #include <filesystem>
@@ -11,6 +13,16 @@
 #include <gtest/gtest.h>
 
 namespace fs = std::filesystem;
+
+void testfs::WaitForFileClock()
+{
+    timespec now {}, coarse {};
+    clock_gettime(CLOCK_REALTIME, &now);
+    do {
+        usleep(1000);
+        clock_gettime(CLOCK_REALTIME_COARSE, &coarse);
+    } while (coarse.tv_sec < now.tv_sec || (coarse.tv_sec == now.tv_sec && coarse.tv_nsec <= now.tv_nsec));
+}
 
 void testfs::SetMTime(const std::string& path, int64_t seconds, long nanoseconds)
 {

@@ -39,6 +39,9 @@ private:
 
 // Helpers on any path; they fail the test when they cannot do their job.
 namespace testfs {
+// Returns once the clock files are stamped from has passed every time a file could have
+// been given so far, so that a listing started now finds them older than its start.
+void WaitForFileClock();
 void SetMTime(const std::string& path, int64_t seconds, long nanoseconds = 0);
 std::string ReadFile(const std::string& path);
 void WriteFile(const std::string& path, const std::string& contents);
