@@ -17,7 +17,7 @@ std::string BinaryPath(const std::string& name)
 }
 
 RunResult RunDocmanager(const QStringList& args, const std::string& configHome,
-                        bool unprivileged)
+                        bool unprivileged, const QStringList& extraEnv)
 {
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.remove(QStringLiteral("DISPLAY"));
@@ -25,6 +25,8 @@ RunResult RunDocmanager(const QStringList& args, const std::string& configHome,
     env.remove(QStringLiteral("QT_QPA_PLATFORM"));
     if (!configHome.empty())
         env.insert(QStringLiteral("XDG_CONFIG_HOME"), QString::fromStdString(configHome));
+    for (const QString& entry : extraEnv)
+        env.insert(entry.section('=', 0, 0), entry.section('=', 1));
 
     QProcess process;
     process.setProcessEnvironment(env);
@@ -83,9 +85,10 @@ std::string CliTest::WriteDoc(const std::string& relative, const std::string& ti
     return path;
 }
 
-RunResult CliTest::List(const std::string& config, const QStringList& args)
+RunResult CliTest::List(const std::string& config, const QStringList& args, const QStringList& env)
 {
-    return RunDocmanager(QStringList{"--list", "--config", QString::fromStdString(config)} + args, ConfigHome());
+    return RunDocmanager(QStringList{"--list", "--config", QString::fromStdString(config)} + args, ConfigHome(),
+                         false, env);
 }
 
 }  // namespace clitest

@@ -22,7 +22,9 @@ std::string BinaryPath(const std::string& name);
 // Runs docmanager with `args`; DISPLAY, WAYLAND_DISPLAY and QT_QPA_PLATFORM are removed
 // from its environment and XDG_CONFIG_HOME is `configHome` (when not empty). With
 // `unprivileged` a run as root runs as the user nobody, so that permissions apply.
-RunResult RunDocmanager(const QStringList& args, const std::string& configHome, bool unprivileged = false);
+// `env` adds "NAME=value" entries. A run ended by a signal has the status -1.
+RunResult RunDocmanager(const QStringList& args, const std::string& configHome, bool unprivileged = false,
+                        const QStringList& env = {});
 
 // A whole configuration file: GENERAL (ACTUALGROUP as given), GROUPS and the sections.
 std::string ConfigText(const std::vector<GroupSpec>& groups, int actualGroup = 1);
@@ -38,7 +40,7 @@ protected:
     std::string WriteConfig(const std::string& text, const std::string& relative = "docmanager.cfg")
     { return dir.MakeFile(relative, text); }
     // docmanager --list --config CONFIG ARGS...
-    RunResult List(const std::string& config, const QStringList& args);
+    RunResult List(const std::string& config, const QStringList& args, const QStringList& env = {});
     std::string ConfigHome() const { return dir.PathOf("xdg"); }
 
     TempDir dir;

@@ -26,16 +26,20 @@ TEST_F(IndexTest, SubdirectoriesFollowTheirParentAndEachGetsAnIndex)
     EXPECT_EQ(RowNames(), Names{"a.odt"});
 }
 
-TEST_F(IndexTest, LinkCycleIsNotFollowedAndExceptionPathsAreSkipped)
+TEST_F(IndexTest, LinkedFoldersAreNotEnteredAndExceptionPathsAreSkipped)
 {
+    TempDir elsewhere;
+    elsewhere.MakeFile("outside.odt", "x", OLD);
     Doc("a.odt");
     Doc("sub/b.odt");
     Doc("skip/c.odt");
     dir.MakeLink("sub/back", dir.Path());
     dir.MakeLink("sub/self", ".");
+    dir.MakeLink("sub/away", elsewhere.Path());
     config.SetExceptionPaths(dir.PathOf("skip") + ";/elsewhere");
 
     ReadDir(true);
     EXPECT_EQ(RowNames(), (Names{"a.odt", "b.odt"}));
     EXPECT_FALSE(dir.Exists("skip/.docindex"));
+    EXPECT_FALSE(elsewhere.Exists(".docindex")) << "no index outside the tree given";
 }
