@@ -1,13 +1,14 @@
 #include "docmgr/records/listcsv.h"
 
 #include "docmgr/records/docfields.h"
+#include "docmgr/tools/validutf8.h"
 
 void AppendCsvRecord(std::string& out, const std::vector<std::string>& fields)
 {
     for (size_t i = 0; i < fields.size(); ++i) {
         if (i > 0)
             out += ',';
-        const std::string& field = fields[i];
+        const std::string field = ValidUtf8(fields[i]);
         if (field.find_first_of(",\"\r\n") == std::string::npos) {
             out += field;
             continue;

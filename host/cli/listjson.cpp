@@ -6,19 +6,12 @@
 #include <cstdio>
 
 #include "docmgr/tools/fsutil.h"
+#include "docmgr/tools/validutf8.h"
 #include "host/cli/listproblem.h"
 
 namespace {
 
 // Invalid UTF-8 becomes U+FFFD, so the output is always valid JSON.
-std::string ValidUtf8(const std::string& text)
-{
-    for (unsigned char c : text)
-        if (c >= 0x80)
-            return QString::fromUtf8(text.data(), qsizetype(text.size())).toStdString();
-    return text;
-}
-
 void AppendString(std::string& out, const std::string& raw)
 {
     out += '"';

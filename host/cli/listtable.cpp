@@ -7,14 +7,16 @@
 #include "docmgr/config/docgroupconfig.h"
 #include "docmgr/records/docfields.h"
 #include "docmgr/records/listcsv.h"
+#include "docmgr/tools/validutf8.h"
 
 namespace {
 
-// A tab or line break inside a cell would break the line and column structure.
+// A tab or line break inside a cell would break the line and column structure; the
+// output is UTF-8 whatever bytes a name or an index record holds.
 void AppendOneLine(std::string& out, const std::string& text)
 {
     const size_t start = out.size();
-    out += text;
+    AppendValidUtf8(out, text);
     for (size_t i = start; i < out.size(); ++i)
         if (static_cast<unsigned char>(out[i]) < 0x20 || out[i] == 0x7F)
             out[i] = ' ';

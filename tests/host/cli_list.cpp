@@ -9,6 +9,7 @@
 
 #include "tests/host/cli_fixture.h"
 #include "tests/host/readers_fixtures.h"
+#include "tests/support/indeximage.h"
 
 namespace clitest {
 namespace {
@@ -157,13 +158,26 @@ TEST_F(CliListTest, AwkwardTextsKeepTheFormatsIntact)
     // A name that is not UTF-8: its exact bytes can be had back.
     const std::string odd = dir.PathOf("lib/r\xff.odt");
     std::filesystem::rename(WriteDoc("lib/r.odt", "Odd", "Ann", 1), odd);
-    const std::string config = WriteConfig(ConfigText({{.name = "Lib", .paths = Lib(), .sortColumn = 3, .columns = {3, 7}}}));
-    EXPECT_EQ(List(config, {"--format", "tsv"}).out, "Title\tAuthor\nOdd\tAnn\nSay \"hi\" \\ then tab\tAnn\n");
+    // A (hostile) index record with NUL bytes in its title.
+    dir.MakeFile("lib/n.odt", "x", 1600000000);
+    dir.MakeFile("lib/.docindex", indeximage::Header() +
+        indeximage::Record("n.odt").Text(indeximage::TITLE, 63, std::string("Nul\0here", 8))
+                                   .Text(indeximage::AUTHOR, 31, "Nia").Bytes(), time(nullptr) + 1000);
+    const std::string config = WriteConfig(ConfigText({{.name = "Lib", .paths = Lib(), .sortColumn = 3, .columns = {1, 3, 7}}}));
+    // Every format gives UTF-8: U+FFFD for what is not, and no NUL.
+    EXPECT_EQ(List(config, {"--format", "tsv"}).out, "File name\tTitle\tAuthor\nn.odt\tNulhere\tNia\n"
+              "r\uFFFD.odt\tOdd\tAnn\nq.odt\tSay \"hi\" \\ then tab\tAnn\n");
+    for (const char* format : {"text", "csv"}) {
+        const std::string out = List(config, {"--format", format}).out;
+        EXPECT_EQ(QString::fromUtf8(out).toStdString(), out) << format;
+        EXPECT_NE(out.find("r\uFFFD.odt"), std::string::npos) << format;
+        EXPECT_EQ(out.find('\0'), std::string::npos) << format;
+    }
     const QJsonArray rows = Rows(List(config, {"--format", "json"}));
-    ASSERT_EQ(rows.size(), 2);
-    EXPECT_EQ(QByteArray::fromBase64(rows[0].toObject()["pathBase64"].toString().toLatin1()).toStdString(), odd);
-    EXPECT_EQ(rows[1].toObject()["title"].toString(), "Say \"hi\" \\ then\ttab");
-    EXPECT_FALSE(rows[1].toObject().contains("pathBase64"));
+    ASSERT_EQ(rows.size(), 3);
+    EXPECT_EQ(QByteArray::fromBase64(rows[1].toObject()["pathBase64"].toString().toLatin1()).toStdString(), odd);
+    EXPECT_EQ(rows[2].toObject()["title"].toString(), "Say \"hi\" \\ then\ttab");
+    EXPECT_FALSE(rows[2].toObject().contains("pathBase64"));
 }
 
 }  // namespace

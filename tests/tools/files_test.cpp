@@ -3,11 +3,15 @@
 #include <gtest/gtest.h>
 
 #include <QTemporaryDir>
+#include <cctype>
 #include <cerrno>
+#include <ctime>
+#include <unistd.h>
 #include <sys/stat.h>
 
 #include "docmgr/tools/filestream.h"
 #include "docmgr/tools/fsutil.h"
+#include "docmgr/tools/replacefile.h"
 #include "docmgr/tools/resmgr.h"
 #include "tests/support/tempdir.h"
 
@@ -118,4 +122,42 @@ TEST(Resources, ModuleSlotHoldsTheManagerWhileTheModuleLives)
     ResModule english(Language::English);
     EXPECT_EQ(ResString(15700), "File name");
     EXPECT_EQ(ResString(9999), "");
+}
+
+TEST_F(Files, TemporaryFilesOfAKilledWriterAreKnownAndThoseOfOtherHostsLeftWhileFresh)
+{
+    char host[256] = {};
+    gethostname(host, sizeof host - 1);
+    std::string tag = host;
+    for (char& c : tag)
+        if (!isalnum(static_cast<unsigned char>(c)) && c != '.')
+            c = '_';
+    // A process id that no process has: far beyond any pid_max.
+    const std::string dead = "1073741000", alive = std::to_string(getpid());
+    const int64_t now = time(nullptr);
+    const struct { std::string name; int64_t age; bool abandoned; } cases[] = {
+        {".docindex.tmp-" + tag + "-" + dead + "-0-77", 0, true},
+        {".docindex.tmp-" + tag + "-" + alive + "-0-77", 7200, false},
+        {".docindex.tmp-" + dead + "-0-77", 0, true},  // written before the host was named
+        {".docindex.tmp-elsewhere-" + dead + "-0-77", 60, false},
+        {".docindex.tmp-elsewhere-" + dead + "-0-77", 7200, true},
+        {".docindex.tmp-", 7200, false},
+        {"other.tmp-" + tag + "-" + dead + "-0-77", 0, false},
+    };
+    for (const auto& c : cases) {
+        tmp.MakeFile(c.name, "x", now - c.age);
+        EXPECT_EQ(replacefile::IsAbandonedTemp(dir, c.name, ".docindex"), c.abandoned) << c.name;
+        tmp.Remove(c.name);
+    }
+    // A replacement names its temporary file so.
+    std::string seen;
+    const auto fill = [&](const replacefile::PutPiece& put) {
+        for (const auto& item : fsutil::List(dir, ".docindex.tmp-*", fsutil::Kind::Files))
+            seen = item.name;
+        put("new");
+        return true;
+    };
+    ASSERT_EQ(replacefile::ReplaceWith(At(".docindex"), fill), 0);
+    EXPECT_EQ(seen.substr(0, 15 + tag.size()), ".docindex.tmp-" + tag + "-");
+    EXPECT_EQ(tmp.Read(".docindex"), "new");
 }
