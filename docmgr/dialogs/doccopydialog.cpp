@@ -9,7 +9,7 @@
 #include <QVBoxLayout>
 
 #include "docmgr/dialogs/docdirbox.h"
-#include "docmgr/dialogs/docfileops.h"
+#include "docmgr/tools/docfileops.h"
 #include "docmgr/dialogs/docfolderdialog.h"
 #include "docmgr/ui/fileoptext.h"
 #include "docmgr/ui/waitcursor.h"

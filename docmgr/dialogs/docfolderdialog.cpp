@@ -7,7 +7,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "docmgr/dialogs/docfileops.h"
+#include "docmgr/tools/docfileops.h"
 #include "docmgr/ui/fileoptext.h"
 #include "docmgr/ui/docmsgbox.h"
 #include "docmgr/tools/fsutil.h"

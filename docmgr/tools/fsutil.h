@@ -72,5 +72,8 @@ int CopyFile(const std::string& source, const std::string& target);
 int MoveFile(const std::string& source, const std::string& target);  // rename, no replace
 int Remove(const std::string& path);
 int MakeDir(const std::string& path);
+// Gives the finished `file` the name `target` where no file has it (EEXIST where one has);
+// `file` goes.
+int PublishNoReplace(const std::string& file, const std::string& target);
 
 }  // namespace fsutil

@@ -10,6 +10,8 @@
 #include <thread>
 #include <unistd.h>
 
+#include "docmgr/tools/fsutil.h"
+
 namespace replacefile {
 namespace {
 
@@ -138,6 +140,76 @@ int RenameOver(const std::string& temp, const std::string& target, const Options
 
 }  // namespace
 
+SiblingFile::~SiblingFile()
+{
+    if (fd_ >= 0)
+        close(fd_);
+    if (!path_.empty() && !published_)
+        unlink(path_.c_str());
+}
+
+int SiblingFile::Create()
+{
+    fd_ = OpenUnique(target_, path_);
+    if (fd_ < 0) {
+        path_.clear();
+        return errno;
+    }
+    return 0;
+}
+
+int SiblingFile::Write(std::string_view bytes)
+{
+    return fd_ < 0 ? EBADF : WriteAll(fd_, bytes);
+}
+
+// A library may have replaced the file under its name (libzip does): what is flushed and
+// given its permissions is what the path holds now.
+int SiblingFile::Finish(const Options& options)
+{
+    if (fd_ >= 0 && close(fd_) != 0) {
+        fd_ = -1;
+        return errno;
+    }
+    fd_ = -1;
+    const int fd = open(path_.c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0)
+        return errno;
+    int error = SetAccess(fd, target_, options);
+    // Some file systems cannot sync (EINVAL); their data is as safe as they make it.
+    if (!error && fsync(fd) != 0 && errno != EINVAL)
+        error = errno;
+    if (close(fd) != 0 && !error)
+        error = errno;
+    if (!error && options.mtimeNs >= 0)
+        error = DateBack(path_, options.mtimeNs);
+    return error;
+}
+
+int SiblingFile::ReplaceTarget(const Options& options)
+{
+    if (path_.empty())
+        return EBADF;
+    int error = Finish(options);
+    if (!error)
+        error = RenameOver(path_, target_, options);
+    published_ = !error;
+    return error;
+}
+
+int SiblingFile::PublishAsNew(uint32_t mode)
+{
+    if (path_.empty())
+        return EBADF;
+    Options options;
+    options.mode = int(mode);
+    int error = Finish(options);
+    if (!error)
+        error = fsutil::PublishNoReplace(path_, target_);
+    published_ = !error;
+    return error;
+}
+
 int Replace(const std::string& target, std::string_view contents, const Options& options)
 {
     const auto fill = [contents](const PutPiece& put) {
@@ -149,31 +221,17 @@ int Replace(const std::string& target, std::string_view contents, const Options&
 
 int ReplaceWith(const std::string& target, const Fill& fill, const Options& options)
 {
-    std::string temp;
-    const int fd = OpenUnique(target, temp);
-    if (fd < 0)
-        return errno;
+    SiblingFile file(target);
+    if (const int error = file.Create())
+        return error;
     int error = 0;
-    const bool made = fill([fd, &error](std::string_view piece) {
+    const bool made = fill([&file, &error](std::string_view piece) {
         if (!error)
-            error = WriteAll(fd, piece);
+            error = file.Write(piece);
     });
     if (!made && !error)
         error = EIO;
-    if (!error)
-        error = SetAccess(fd, target, options);
-    // Some file systems cannot sync (EINVAL); their data is as safe as they make it.
-    if (!error && fsync(fd) != 0 && errno != EINVAL)
-        error = errno;
-    if (close(fd) != 0 && !error)
-        error = errno;
-    if (!error && options.mtimeNs >= 0)
-        error = DateBack(temp, options.mtimeNs);
-    if (!error)
-        error = RenameOver(temp, target, options);
-    if (error)
-        unlink(temp.c_str());
-    return error;
+    return error ? error : file.ReplaceTarget(options);
 }
 
 bool IsAbandonedTemp(const std::string& dir, const std::string& name, const std::string& targetName)

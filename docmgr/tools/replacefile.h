@@ -6,6 +6,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace replacefile {
 
@@ -29,6 +30,39 @@ struct Options {
     // the rename is refused, this is called so that the caller closes the target, and
     // the rename is tried again for a short while.
     std::function<void()> releaseTarget;
+};
+
+// A new file beside `target` under a name nobody else uses, written through its
+// descriptor or by path, that takes the target's name only at the end: replacing the
+// target, or only where no file has that name. Until then, and after any failure, the
+// target is as it was, and the new file is removed when the object goes.
+class SiblingFile {
+public:
+    explicit SiblingFile(std::string target) : target_(std::move(target)) {}
+    ~SiblingFile();
+    SiblingFile(const SiblingFile&) = delete;
+    SiblingFile& operator=(const SiblingFile&) = delete;
+
+    // Creates it, empty and open for writing; 0 or an errno value.
+    int Create();
+    const std::string& Path() const { return path_; }
+    int Fd() const { return fd_; }
+    // Appends all of `bytes` through the descriptor; 0 or an errno value.
+    int Write(std::string_view bytes);
+    // Flushes what its path now holds to disk, gives it the permissions, owner and date
+    // of `options` and renames it over the target. 0 or an errno value.
+    int ReplaceTarget(const Options& options);
+    // Flushes it to disk with permissions `mode` and gives it the target's name where no
+    // file has that name; EEXIST where one has. 0 or an errno value.
+    int PublishAsNew(uint32_t mode);
+
+private:
+    int Finish(const Options& options);
+
+    std::string target_;
+    std::string path_;
+    int fd_ = -1;
+    bool published_ = false;
 };
 
 // Writes `contents` to a new file beside `target` and renames it over `target`.

@@ -3,9 +3,15 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+
+#include "docmgr/tools/fsutil.h"
+#include "docmgr/tools/replacefile.h"
+
 #include "host/readers/docformat.h"
 #include "host/readers/formatwriters.h"
-#include "host/readers/tempsibling.h"
 #include "host/readers/ziparchive.h"
 
 namespace {
@@ -17,10 +23,51 @@ bool IsReadOnly(const std::string& path, const struct stat& st)
     return (st.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0 || ::access(path.c_str(), W_OK) != 0;
 }
 
+// The new version of a document is written beside it and replaces it only when whole:
+// any failure leaves the document as it was.
+bool CreateBeside(replacefile::SiblingFile& temp, const std::string& path, std::string& error)
+{
+    const int failed = temp.Create();
+    if (failed == 0)
+        return true;
+    const std::string dir = fsutil::DirName(path);
+    error = failed == EACCES || failed == EPERM || failed == EROFS
+        ? "The folder " + dir + " is read-only."
+        : "Cannot create a file in " + dir + ": " + std::strerror(failed);
+    return false;
+}
+
+bool CopyInto(const replacefile::SiblingFile& temp, const std::string& path, std::string& error)
+{
+    std::error_code ec;
+    std::filesystem::copy_file(path, temp.Path(), std::filesystem::copy_options::overwrite_existing, ec);
+    if (ec)
+        error = "Cannot copy " + path + ": " + ec.message();
+    return !ec;
+}
+
+// The new version keeps the document's permissions, and its owner where allowed.
+bool ReplaceWithNew(replacefile::SiblingFile& temp, const std::string& path, std::string& error)
+{
+    struct stat st;
+    if (::stat(path.c_str(), &st) != 0) {
+        error = "The file " + path + " has disappeared.";
+        return false;
+    }
+    replacefile::Options options;
+    options.uid = st.st_uid;
+    options.gid = st.st_gid;
+    if (const int failed = temp.ReplaceTarget(options)) {
+        error = "Cannot replace " + path + ": " + std::strerror(failed);
+        return false;
+    }
+    return true;
+}
+
 bool WritePackage(const std::string& path, DocFormat byName, const DocMeta& meta, std::string& error)
 {
-    TempSibling temp(path);
-    if (!temp.Create(error) || !temp.CopyTarget(error))
+    replacefile::SiblingFile temp(path);
+    if (!CreateBeside(temp, path, error) || !CopyInto(temp, path, error))
         return false;
     ZipArchive zip;
     if (!zip.Open(temp.Path(), ZipArchive::Mode::Modify)) {
@@ -43,13 +90,14 @@ bool WritePackage(const std::string& path, DocFormat byName, const DocMeta& meta
         error = "Cannot write " + path + ": " + zip.Error();
         return false;
     }
-    return temp.Commit(error);
+    return ReplaceWithNew(temp, path, error);
 }
 
 bool WritePdf(const std::string& path, const DocMeta& meta, std::string& error)
 {
-    TempSibling temp(path);
-    return temp.Create(error) && WritePdfMeta(path, temp.Path(), meta, error) && temp.Commit(error);
+    replacefile::SiblingFile temp(path);
+    return CreateBeside(temp, path, error) && WritePdfMeta(path, temp.Path(), meta, error) &&
+           ReplaceWithNew(temp, path, error);
 }
 
 }  // namespace

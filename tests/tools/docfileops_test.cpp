@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "docmgr/dialogs/docfileops.h"
+#include "docmgr/tools/docfileops.h"
 #include "tests/support/tempdir.h"
 
 namespace fs = std::filesystem;

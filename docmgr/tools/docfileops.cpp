@@ -1,4 +1,4 @@
-#include "docmgr/dialogs/docfileops.h"
+#include "docmgr/tools/docfileops.h"
 
 #include <cerrno>
 #include <string_view>

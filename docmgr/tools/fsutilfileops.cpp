@@ -1,4 +1,4 @@
-// Copy, move, delete and make-directory that never overwrite an existing target.
+// Copy, move, delete and make-directory of fsutil, which never overwrite an existing target.
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include "docmgr/tools/fsutil.h"
+#include "docmgr/tools/replacefile.h"
 
 #ifndef RENAME_NOREPLACE
 #define RENAME_NOREPLACE (1 << 0)
@@ -23,21 +24,6 @@ int RenameNoReplace(const std::string& source, const std::string& target)
     if (syscall(SYS_renameat2, AT_FDCWD, source.c_str(), AT_FDCWD, target.c_str(), RENAME_NOREPLACE) == 0)
         return 0;
     return errno;
-}
-
-// Publishes a finished temporary file under the target name without replacing anything.
-int Publish(const std::string& temp, const std::string& target)
-{
-    if (link(temp.c_str(), target.c_str()) == 0) {
-        unlink(temp.c_str());
-        return 0;
-    }
-    int error = errno;
-    if (error == EEXIST)
-        return error;
-    // Some shared-folder file systems have no hard links.
-    error = RenameNoReplace(temp, target);
-    return error;
 }
 
 int CopyData(int in, int out)
@@ -66,6 +52,20 @@ int CopyData(int in, int out)
 
 }  // namespace
 
+// Publishes a finished file under the target name without replacing anything.
+int PublishNoReplace(const std::string& file, const std::string& target)
+{
+    if (link(file.c_str(), target.c_str()) == 0) {
+        unlink(file.c_str());
+        return 0;
+    }
+    const int error = errno;
+    if (error == EEXIST)
+        return error;
+    // Some shared-folder file systems have no hard links.
+    return RenameNoReplace(file, target);
+}
+
 int CopyFile(const std::string& source, const std::string& target)
 {
     if (Exists(target))
@@ -79,28 +79,14 @@ int CopyFile(const std::string& source, const std::string& target)
         close(in);
         return error ? error : EINVAL;
     }
-    // Write beside the target under a temporary name, so that a full disk or a crash
+    // Written beside the target under a temporary name, so that a full disk or a crash
     // never leaves a half-written file under the real name.
-    std::string temp = DirName(target) + "/.docmgr-copy-XXXXXX";
-    const int out = mkstemp(temp.data());
-    if (out < 0) {
-        const int error = errno;
-        close(in);
-        return error;
-    }
-    int error = CopyData(in, out);
-    if (!error && fchmod(out, st.st_mode & 07777) != 0)
-        error = errno;
-    if (!error && fsync(out) != 0 && errno != EINVAL)
-        error = errno;
-    if (close(out) != 0 && !error)
-        error = errno;
-    close(in);
+    replacefile::SiblingFile copy(target);
+    int error = copy.Create();
     if (!error)
-        error = Publish(temp, target);
-    if (error)
-        unlink(temp.c_str());
-    return error;
+        error = CopyData(in, copy.Fd());
+    close(in);
+    return error ? error : copy.PublishAsNew(st.st_mode & 07777);
 }
 
 int MoveFile(const std::string& source, const std::string& target)
