@@ -65,6 +65,9 @@ private:
     IndexOpening OpenIndex(DirPass& pass);
     void ReadIndex(DirPass& pass);
     void ReadRecords(DirPass& pass, IndexBlocks& records, int64_t indexMtimeNs);
+    void MatchRecords(DirPass& pass, IndexBlocks& records, int64_t indexMtimeNs);
+    void ReadChanged(DirPass& pass);
+    void ProbeNew(DirPass& pass);
     void RewriteIndex(DirPass& pass);
     void WriteUpdates(DirPass& pass);
     void ReplaceIndex(DirPass& pass, const replacefile::Fill& fill);

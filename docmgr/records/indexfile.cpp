@@ -136,6 +136,13 @@ struct DocRowList::DirPass {
     // describe its document. The DocInfos are those of `working`.
     std::vector<std::pair<uint64_t, const DocInfo*>> overwrites;
     std::vector<const DocInfo*> appends;
+    // Documents whose records are out of date, to be read after the walk over the index.
+    struct Changed {
+        size_t row;       // its place in `working`
+        uint64_t offset;  // of its record
+        size_t file;      // in `files`
+    };
+    std::vector<Changed> changed;
 
     // The index and the temporary files of its rewrites are never documents.
     bool IsIndex(size_t i) const
@@ -206,13 +213,13 @@ void DocRowList::ProbeAll(DirPass& pass)
 // files the index has no record of, so that all those reads are known before the first.
 void DocRowList::ReadRecords(DirPass& pass, IndexBlocks& records, int64_t indexMtimeNs)
 {
-    struct Changed {
-        size_t row;       // its place in pass.working
-        uint64_t offset;  // of its record
-        size_t file;
-    };
-    std::vector<Changed> changed;
-    std::vector<std::string> reads;  // the changed ones first, in record order
+    MatchRecords(pass, records, indexMtimeNs);
+    ReadChanged(pass);
+    ProbeNew(pass);
+}
+
+void DocRowList::MatchRecords(DirPass& pass, IndexBlocks& records, int64_t indexMtimeNs)
+{
     pass.byName.reserve(pass.files.size());
     for (size_t i = 0; i < pass.files.size(); ++i) {
         if (!pass.IsIndex(i))
@@ -232,8 +239,7 @@ void DocRowList::ReadRecords(DirPass& pass, IndexBlocks& records, int64_t indexM
         if (pass.isPrivate[file])
             pass.rewriteNeeded = true;  // its record must go
         if (pass.isPrivate[file] || !pass.IsCurrent(item, indexMtimeNs)) {
-            changed.push_back({pass.working.size(), offset, file});
-            reads.push_back(fsutil::Join(pass.dir, name));
+            pass.changed.push_back({pass.working.size(), offset, file});
             pass.working.emplace_back();
             return;
         }
@@ -244,16 +250,25 @@ void DocRowList::ReadRecords(DirPass& pass, IndexBlocks& records, int64_t indexM
         record.FillDocInfo(*info);
         pass.working.push_back(std::move(info));
     });
+}
+
+// The changed documents are read in record order; the plan names the new files after
+// them, which ProbeNew reads.
+void DocRowList::ReadChanged(DirPass& pass)
+{
+    std::vector<std::string> reads;
+    for (const DirPass::Changed& doc : pass.changed)
+        reads.push_back(fsutil::Join(pass.dir, pass.files[doc.file].name));
     for (size_t i = 0; i < pass.files.size(); ++i) {
         if (!pass.consumed[i] && !pass.IsIndex(i))
             reads.push_back(fsutil::Join(pass.dir, pass.files[i].name));
     }
     source_.ReadAhead(reads);
-    reads.resize(changed.size());
+    reads.resize(pass.changed.size());
     reads.shrink_to_fit();
 
-    for (size_t k = 0; k < changed.size(); ++k) {
-        const Changed& doc = changed[k];
+    for (size_t k = 0; k < pass.changed.size(); ++k) {
+        const DirPass::Changed& doc = pass.changed[k];
         std::unique_ptr<DocInfo> info = source_.CreateDocInfo(reads[k]);
         if (!info) {
             pass.consumed[doc.file] = false;  // probed again with the new files
@@ -265,9 +280,12 @@ void DocRowList::ReadRecords(DirPass& pass, IndexBlocks& records, int64_t indexM
             pass.overwrites.emplace_back(doc.offset, info.get());
         pass.working[doc.row] = std::move(info);
     }
-    if (!changed.empty())
+    if (!pass.changed.empty())
         std::erase(pass.working, nullptr);
+}
 
+void DocRowList::ProbeNew(DirPass& pass)
+{
     for (size_t i = 0; i < pass.files.size(); ++i) {
         if (pass.consumed[i] || pass.IsIndex(i))
             continue;
