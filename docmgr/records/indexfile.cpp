@@ -1,5 +1,5 @@
-// Reading and maintaining the per-directory index file, and the recursion into
-// subdirectories.
+// Reading a directory's index and bringing it up to date (the writing is in
+// indexwrite.cpp), and the recursion into subdirectories.
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
@@ -12,17 +12,15 @@
 #include "docmgr/records/docrecord.h"
 #include "docmgr/records/docrowlist.h"
 #include "docmgr/records/indexblocks.h"
+#include "docmgr/records/indexpass.h"
 #include "docmgr/tools/filestream.h"
 #include "docmgr/tools/folderaudience.h"
 #include "docmgr/tools/fsutil.h"
 #include "docmgr/tools/replacefile.h"
 
-namespace {
+using namespace indexlayout;
 
-constexpr char MAGIC[5] = {'K', 'I', 'D', 'X', '\0'};
-constexpr uint16_t VERSION = 255;
-constexpr size_t MAGIC_AND_VERSION = 7;
-constexpr size_t HEADER_SIZE = 11;
+namespace {
 
 uint32_t FileSize32(uint64_t size)
 {
@@ -49,124 +47,7 @@ int64_t FileClockNowNs()
     return int64_t(now.tv_sec) * 1000000000 + now.tv_nsec;
 }
 
-std::string IndexHeader()
-{
-    std::string header(MAGIC, sizeof MAGIC);
-    header += char(VERSION & 0xFF);
-    header += char(VERSION >> 8);
-    const uint32_t charSet = GetSystemCharSet();
-    for (int shift = 0; shift < 32; shift += 8)
-        header += char((charSet >> shift) & 0xFF);
-    return header;
-}
-
-// Index bytes handed on in blocks of about 1 MiB rather than as one image, which would
-// cost as much memory again as the rows.
-class IndexBuffer {
-public:
-    explicit IndexBuffer(const replacefile::PutPiece& put) : put_(put) { block_.reserve(BLOCK + DocRecord::SIZE); }
-
-    void Append(std::string_view bytes)
-    {
-        block_ += bytes;
-        if (block_.size() >= BLOCK)
-            Flush();
-    }
-    void Append(const DocInfo& info)
-    {
-        char bytes[DocRecord::SIZE];
-        DocRecord(info).ToBytes(bytes);
-        Append(std::string_view(bytes, sizeof bytes));
-    }
-    void Flush()
-    {
-        put_(block_);
-        block_.clear();
-    }
-
-private:
-    static constexpr size_t BLOCK = 1440 * DocRecord::SIZE;
-    const replacefile::PutPiece& put_;
-    std::string block_;
-};
-
 }  // namespace
-
-// Directories on the current recursion path, by device and inode, so that a link back
-// to one of them is not followed.
-struct DocRowList::DirVisit {
-    std::vector<std::pair<uint64_t, uint64_t>> path;
-
-    bool Contains(uint64_t dev, uint64_t ino) const
-    {
-        return std::find(path.begin(), path.end(), std::make_pair(dev, ino)) != path.end();
-    }
-};
-
-// The state of one directory's read-update-write.
-struct DocRowList::DirPass {
-    explicit DirPass(const std::string& absDir) : dir(absDir), audience(absDir) {}
-
-    std::string dir;                  // absolute
-    FolderAudience audience;
-    std::string indexName;
-    std::string indexPath;
-    std::vector<fsutil::DirItem> files;
-    size_t dirEntries = 0;            // every entry of the directory, to bound the index
-    int64_t listedAtNs = 0;           // taken before the directory was listed
-    std::vector<bool> consumed;
-    // Files that some reader of the folder may not read: they never get a record, which
-    // would tell those readers what the file does not.
-    std::vector<bool> isPrivate;
-    // Listed name (in `files`) -> position, the index left out; made only when there are
-    // records to match.
-    std::unordered_map<std::string_view, size_t> byName;
-    std::vector<std::unique_ptr<DocInfo>> working;
-    KxFileStream stream;
-    bool rewriteNeeded = false;
-    bool reprobeAll = false;
-    bool unusable = false;
-    // False while another process holds the lock, and where the index cannot be written
-    // (a read-only folder) or is not a plain file.
-    bool mayWrite = true;
-    uint64_t indexSize = 0;
-    int64_t indexMtimeNs = 0;
-    // Records to write over (at their offsets) and to append. They reach the disk as a
-    // whole new index, so that no crash can leave a record dated as current that does not
-    // describe its document. The DocInfos are those of `working`.
-    std::vector<std::pair<uint64_t, const DocInfo*>> overwrites;
-    std::vector<const DocInfo*> appends;
-    // Documents whose records are out of date, to be read after the walk over the index.
-    struct Changed {
-        size_t row;       // its place in `working`
-        uint64_t offset;  // of its record
-        size_t file;      // in `files`
-    };
-    std::vector<Changed> changed;
-
-    // The index and the temporary files of its rewrites are never documents.
-    bool IsIndex(size_t i) const
-    {
-        const std::string& name = files[i].name;
-        return name.compare(0, indexName.size(), indexName) == 0 &&
-               (name.size() == indexName.size() ||
-                name.compare(indexName.size(), replacefile::TEMP_INFIX.size(),
-                             replacefile::TEMP_INFIX) == 0);
-    }
-    bool InPlaceUpdates() const { return !rewriteNeeded && !reprobeAll && mayWrite; }
-    // A record made now would be current until the document changes.
-    bool IsCurrent(const fsutil::DirItem& item, int64_t indexMtimeNs) const
-    {
-        return item.mtimeNs < indexMtimeNs && item.ctimeNs < indexMtimeNs;
-    }
-};
-
-bool DocRowList::WriteDirFileEntry(KxFileStream& stream, const DocInfo* info)
-{
-    char bytes[DocRecord::SIZE];
-    DocRecord(*info).ToBytes(bytes);
-    return stream.Write(bytes, sizeof bytes) == sizeof bytes;
-}
 
 void DocRowList::ReadWriteDocInfos(const std::string& dir, bool withSubdirs)
 {
@@ -384,100 +265,6 @@ void DocRowList::ReadIndex(DirPass& pass)
         pass.stream.SetCharSet(ReadLE32(header + MAGIC_AND_VERSION));
     IndexBlocks records(pass.stream, HEADER_SIZE, pass.indexSize);
     ReadRecords(pass, records, pass.indexMtimeNs);
-}
-
-void DocRowList::RewriteIndex(DirPass& pass)
-{
-    if (!pass.mayWrite)
-        return;
-    // Written in blocks of records rather than as one image, which would cost as much
-    // memory again as the rows.
-    std::vector<bool> privateEntry;  // by row of `working`; the rows hold full paths
-    if (std::find(pass.isPrivate.begin(), pass.isPrivate.end(), true) != pass.isPrivate.end()) {
-        std::unordered_map<std::string_view, bool> byName;
-        for (size_t i = 0; i < pass.files.size(); ++i)
-            byName.emplace(pass.files[i].name, pass.isPrivate[i]);
-        for (const auto& info : pass.working) {
-            const auto found = byName.find(fsutil::FileName(info->entry));
-            privateEntry.push_back(found != byName.end() && found->second);
-        }
-    }
-    const auto fill = [&pass, &privateEntry](const replacefile::PutPiece& put) {
-        IndexBuffer out(put);
-        out.Append(IndexHeader());
-        for (size_t row = 0; row < pass.working.size(); ++row) {
-            const DocInfo& info = *pass.working[row];
-            // A longer name could not be matched with its file again.
-            if (fsutil::FileName(info.entry).size() > DocRecord::NAME_LEN ||
-                (!privateEntry.empty() && privateEntry[row]))
-                continue;
-            out.Append(info);
-        }
-        out.Flush();
-        return true;
-    };
-    ReplaceIndex(pass, fill);
-}
-
-// The records of this listing written over their old ones and after the last one, as
-// an update in place would leave them, but through a new file: a crash in the middle
-// leaves the old index with its old date.
-void DocRowList::WriteUpdates(DirPass& pass)
-{
-    if (pass.overwrites.empty() && pass.appends.empty())
-        return;
-    const auto fill = [&pass](const replacefile::PutPiece& put) {
-        IndexBuffer out(put);
-        uint64_t copied = 0;
-        // The old file's bytes, from the file that was read (not whatever its name holds).
-        const auto copyUpTo = [&](uint64_t end) {
-            for (std::string piece; copied < end; copied += piece.size()) {
-                piece.resize(size_t(std::min<uint64_t>(end - copied, 1 << 20)));
-                pass.stream.Seek(copied);
-                piece.resize(pass.stream.Read(piece.data(), piece.size()));
-                if (piece.empty())
-                    return false;
-                out.Append(piece);
-            }
-            return true;
-        };
-        for (const auto& [offset, info] : pass.overwrites) {
-            if (!copyUpTo(offset))
-                return false;
-            out.Append(*info);
-            copied = offset + DocRecord::SIZE;
-        }
-        if (!copyUpTo(pass.indexSize))
-            return false;
-        for (const DocInfo* info : pass.appends)
-            out.Append(*info);
-        out.Flush();
-        return true;
-    };
-    ReplaceIndex(pass, fill);
-}
-
-// A new file renamed over the old one, so a crash or a full disk leaves the old index
-// or the new one, never a mixture. The lock on the old file is held until the new one
-// is in place, where the file system lets a file that is open be replaced. The index is
-// dated back to the listing, so that a document changed while it was read is read again
-// next time, and made readable to whoever may read the folder.
-void DocRowList::ReplaceIndex(DirPass& pass, const replacefile::Fill& fill)
-{
-    replacefile::Options options;
-    options.mtimeNs = pass.listedAtNs;
-    options.mode = int(pass.audience.IndexMode());
-    options.uid = pass.audience.Owner();
-    options.gid = pass.audience.Group();
-    options.releaseTarget = [&pass] { pass.stream.Close(); };
-    if (replacefile::ReplaceWith(pass.indexPath, fill, options) != 0)
-        return;
-    // What a rewrite killed before its rename left behind.
-    const std::string temps = pass.indexName + std::string(replacefile::TEMP_INFIX) + "*";
-    for (const fsutil::DirItem& item : fsutil::List(pass.dir, temps, fsutil::Kind::Files)) {
-        if (replacefile::IsAbandonedTemp(pass.dir, item.name, pass.indexName))
-            fsutil::Remove(fsutil::Join(pass.dir, item.name));
-    }
 }
 
 void DocRowList::ReadDir(const std::string& dir, bool withSubdirs, DirVisit& visit)
