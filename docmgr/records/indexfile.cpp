@@ -38,6 +38,10 @@ uint32_t ReadLE32(const char* p)
 // the cut-name records of long names.
 constexpr uint64_t SPARE_RECORDS = 64;
 
+// How long a network or FUSE client may show a file's old times (smbnetfs and the
+// kernel's SMB client keep them for about a second).
+constexpr int64_t CACHED_TIMES_NS = 2000000000;
+
 // The clock file times are stamped from: a file changed after this moment carries a time
 // no earlier than it.
 int64_t FileClockNowNs()
@@ -284,6 +288,10 @@ void DocRowList::ReadOneDir(const std::string& absDir)
     const std::string pattern = filterFiles.empty() ? std::string(1, '*') : filterFiles;
 
     pass.listedAtNs = FileClockNowNs();
+    // A client that keeps file times for a while may show a document changed just before
+    // the listing with its old time: the index is dated that much earlier.
+    if (fsutil::CachesFileTimes(pass.dir))
+        pass.listedAtNs -= CACHED_TIMES_NS;
     fsutil::ListStatus listed;
     pass.files = fsutil::List(pass.dir, pattern, fsutil::Kind::Files, &listed);
     pass.dirEntries = listed.entries;

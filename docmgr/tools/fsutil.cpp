@@ -6,6 +6,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/vfs.h>
 #include <unistd.h>
 
 #include "docmgr/tools/wildcard.h"
@@ -172,6 +173,17 @@ std::string Join(const std::string& dir, const std::string& name)
     if (dir.empty())
         return name;
     return dir.back() == '/' ? dir + name : dir + "/" + name;
+}
+
+bool CachesFileTimes(const std::string& dir)
+{
+    constexpr unsigned long FUSE = 0x65735546, SMB2 = 0xFE534D42, CIFS = 0xFF534D42, SMB = 0x517B,
+                            NFS = 0x6969;
+    struct statfs fs {};
+    if (statfs(dir.c_str(), &fs) != 0)
+        return false;
+    const auto type = static_cast<unsigned long>(fs.f_type);
+    return type == FUSE || type == SMB2 || type == CIFS || type == SMB || type == NFS;
 }
 
 bool Identity(const std::string& path, uint64_t& dev, uint64_t& ino)

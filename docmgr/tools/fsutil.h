@@ -49,6 +49,9 @@ std::string FileName(const std::string& path);
 // Directory part, absolute, without trailing delimiter.
 std::string DirName(const std::string& path);
 std::string Join(const std::string& dir, const std::string& name);
+// True for a folder of a file system whose clients keep file times for a while (SMB,
+// NFS, FUSE): what a listing sees may be that much older than what the server has.
+bool CachesFileTimes(const std::string& dir);
 // Device and inode of a directory, to recognise link cycles.
 bool Identity(const std::string& path, uint64_t& dev, uint64_t& ino);
 

@@ -92,9 +92,13 @@ int64_t MtimeNsOf(const std::string& path)
     return int64_t(st.st_mtim.tv_sec) * NS + st.st_mtim.tv_nsec;
 }
 
+// Both times are given: some FUSE file systems (smbnetfs) ignore a call that leaves one
+// of them as it is, and say it succeeded.
 int SetMtimeByPath(const std::string& path, int64_t mtimeNs)
 {
-    const struct timespec times[2] = {{0, UTIME_OMIT}, {time_t(mtimeNs / NS), long(mtimeNs % NS)}};
+    struct timespec now {};
+    clock_gettime(CLOCK_REALTIME, &now);
+    const struct timespec times[2] = {now, {time_t(mtimeNs / NS), long(mtimeNs % NS)}};
     return utimensat(AT_FDCWD, path.c_str(), times, 0) == 0 ? 0 : errno;
 }
 
