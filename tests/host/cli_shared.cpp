@@ -3,6 +3,7 @@
 #include <atomic>
 #include <mutex>
 #include <cstdio>
+#include <iostream>
 #include <ctime>
 #include <thread>
 #include <sys/wait.h>
@@ -34,6 +35,7 @@ TEST_F(SharedFolderTest, AListingKilledAtAnyStepOfItsIndexWriteLeavesNoStaleReco
 {
     const std::string config = Config();
     bool completed = false;
+    int kills = 0;
     // Each run is killed one step later, until a run is no longer killed at all.
     for (int step = 1; step < 40 && !completed; ++step) {
         SCOPED_TRACE(step);
@@ -55,9 +57,11 @@ TEST_F(SharedFolderTest, AListingKilledAtAnyStepOfItsIndexWriteLeavesNoStaleReco
         const RunResult killed = List(config, {"--format", "tsv"},
             {"LD_PRELOAD=" DOCMGR_KILL_SHIM, "DOCMGR_KILL_AFTER=" + QString::number(step), "DOCMGR_KILL_MATCH=.docindex"});
         completed = killed.status == 0;
+        kills += !completed;
         EXPECT_EQ(Rows(List(config, {"--format", "tsv"}).out), expected);
     }
     EXPECT_TRUE(completed);
+    std::cout << "listings killed at " << kills << " steps of the index write\n";
 }
 
 TEST_F(SharedFolderTest, ListingsWhileOtherProcessesAddAndRemoveDocumentsListEveryDocumentThatStays)
@@ -113,6 +117,7 @@ TEST_F(SharedFolderTest, ListingsWhileOtherProcessesAddAndRemoveDocumentsListEve
     stop = true;
     for (auto& thread : threads)
         thread.join();
+    std::cout << listings << " listings beside two processes adding and removing documents\n";
     EXPECT_GT(listings, 20);
     EXPECT_TRUE(wrong.empty()) << wrong.size() << " of " << listings << " listings, first:\n" << wrong.front();
     EXPECT_TRUE(dir.Exists("lib/.docindex"));
