@@ -221,16 +221,6 @@ void DocBrowser::InsertColumns()
     viewport()->update();
 }
 
-void DocBrowser::ReadWriteDocInfos(const std::string& dir, bool withSubdirs)
-{
-    d->list.ReadWriteDocInfos(dir, withSubdirs);
-}
-
-bool DocBrowser::WriteDirFileEntry(KxFileStream& stream, const DocInfo* info)
-{
-    return DocRowList::WriteDirFileEntry(stream, info);
-}
-
 void DocBrowser::RowRemoved(const std::string& path)
 {
     d->model->RowsRemoved(d->list.RowRemoved(path), d->list);
