@@ -15,11 +15,13 @@
 
 class DocBrowser;
 class DocCommandMenu;
+class DocMgrResId;
 class DocSummaryWindow;
 class QAction;
 class QCheckBox;
 class QHBoxLayout;
 class QLabel;
+class QLayout;
 class QListWidget;
 class QPushButton;
 class QToolButton;
@@ -105,6 +107,15 @@ public:
     std::string defExtensions;
 
 private:
+    // The parts of the dialog BuildControls puts together; each makes its controls and
+    // returns their layout, when they have one of their own.
+    QLayout* BuildChoice(const DocMgrResId& res);
+    QLayout* BuildViewOptions(const DocMgrResId& res);
+    void BuildDialogButtons(const DocMgrResId& res);
+    void BuildPathLine();
+    void BuildBrowser();
+    void BuildSettingsButtons(const DocMgrResId& res);
+    QLayout* ButtonColumn();
     // What the list reports: its count line, its selection, a double click, printing.
     void ConnectBrowser();
     void ConnectHandlers();

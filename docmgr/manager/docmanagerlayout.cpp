@@ -30,6 +30,13 @@ constexpr int DEFAULT_HEIGHT = 360;
 // Rows the section and group lists show before they scroll.
 constexpr int LIST_ROWS = 4;
 
+// A settings button: where it is kept, its object name, its text's id.
+struct SettingsButton {
+    QPushButton*& button;
+    const char* name;
+    uint16_t id;
+};
+
 template <class Control>
 Control* Make(QWidget* parent, const char* name)
 {
@@ -44,14 +51,34 @@ void DocManagerImpl::BuildControls()
     const DocMgrResId res(DLG_MANAGER);
     manager.setObjectName("docManager");
     manager.setWindowTitle(res.DialogText());
-    auto text = [&res](uint16_t local) { return res.DialogText(local); };
+    // The controls are made in the order of the dialog, which is also their tab order.
+    QLayout* choice = BuildChoice(res);
+    QLayout* viewOptions = BuildViewOptions(res);
+    BuildDialogButtons(res);
+    BuildPathLine();
+    BuildBrowser();
+    BuildSettingsButtons(res);
 
+    // Left: the choice of group above the list; right: the buttons in one column.
+    auto* left = new QVBoxLayout;
+    left->addLayout(choice);
+    left->addLayout(viewOptions);
+    left->addWidget(pathLine);
+    left->addLayout(listRow, 1);
+    auto* root = new QHBoxLayout(&manager);
+    root->addLayout(left, 1);
+    root->addLayout(ButtonColumn());
+    manager.resize(DialogUnitsX(&manager, DEFAULT_WIDTH), DialogUnitsY(&manager, DEFAULT_HEIGHT));
+}
+
+QLayout* DocManagerImpl::BuildChoice(const DocMgrResId& res)
+{
     sectionLabel = Make<QLabel>(&manager, "sectionLabel");
-    sectionLabel->setText(text(ID_SECTION_LABEL));
+    sectionLabel->setText(res.DialogText(ID_SECTION_LABEL));
     sectionList = Make<QListWidget>(&manager, "sectionList");
     sectionLabel->setBuddy(sectionList);
     groupLabel = Make<QLabel>(&manager, "groupLabel");
-    groupLabel->setText(text(ID_GROUP_LABEL));
+    groupLabel->setText(res.DialogText(ID_GROUP_LABEL));
     groupList = Make<QListWidget>(&manager, "groupList");
     groupLabel->setBuddy(groupList);
     const int listHeight = QFontMetrics(manager.font()).height() * LIST_ROWS + 8;
@@ -59,56 +86,7 @@ void DocManagerImpl::BuildControls()
         list->setSelectionMode(QAbstractItemView::SingleSelection);
         list->setFixedHeight(listHeight);
     }
-    singleViewBox = Make<QCheckBox>(&manager, "singleViewBox");
-    singleViewBox->setText(text(ID_SINGLEVIEW));
-    readOnlyBox = Make<QCheckBox>(&manager, "readOnlyBox");
-    readOnlyBox->setText(text(ID_READONLY));
 
-    openButton = Make<QPushButton>(&manager, "openButton");
-    openButton->setText(text(ID_OPEN));
-    openButton->setDefault(true);
-    openButton->setEnabled(false);
-    closeButton = Make<QPushButton>(&manager, "closeButton");
-    closeButton->setText(text(ID_CLOSE));
-    closeButton->setAutoDefault(false);
-    commandsButton = Make<QToolButton>(&manager, "commandsButton");
-    commandsButton->setText(text(ID_COMMANDS));
-    commandMenu = new DocCommandMenu(commandsButton);
-    commandsButton->setMenu(commandMenu);
-    commandsButton->setPopupMode(QToolButton::InstantPopup);
-    commandsButton->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    commandsButton->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    commandsButton->setMinimumHeight(closeButton->sizeHint().height());
-
-    pathLine = Make<QLabel>(&manager, "pathLine");
-    pathLine->setTextFormat(Qt::PlainText);
-    // A long path list is cut off rather than widening the dialog.
-    pathLine->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    pathLine->setMinimumWidth(1);
-
-    browser = new DocBrowser(&manager, *this);
-    // Delete and F2 in the list run the menu's items, so they follow its enabling.
-    browser->addAction(commandMenu->Item(CMD_DELETE));
-    browser->addAction(commandMenu->Item(CMD_RENAME));
-    ConnectBrowser();
-
-    struct Settings {
-        QPushButton*& button;
-        const char* name;
-        uint16_t id;
-    };
-    const Settings settingsButtons[] = {{groupsButton, "groupsButton", ID_GROUPS},
-                                        {pathsButton, "pathsButton", ID_PATHS},
-                                        {filterButton, "filterButton", ID_FILTER},
-                                        {sortButton, "sortButton", ID_SORT},
-                                        {columnsButton, "columnsButton", ID_COLUMNS}};
-    for (const Settings& s : settingsButtons) {
-        s.button = Make<QPushButton>(&manager, s.name);
-        s.button->setText(text(s.id));
-        s.button->setAutoDefault(false);
-    }
-
-    // Left: the choice of group above the list; right: the buttons in one column.
     auto* sectionColumn = new QVBoxLayout;
     sectionColumn->addWidget(sectionLabel);
     sectionColumn->addWidget(sectionList);
@@ -118,32 +96,88 @@ void DocManagerImpl::BuildControls()
     auto* choice = new QHBoxLayout;
     choice->addLayout(sectionColumn, 1);
     choice->addLayout(groupColumn, 1);
+    return choice;
+}
+
+QLayout* DocManagerImpl::BuildViewOptions(const DocMgrResId& res)
+{
+    singleViewBox = Make<QCheckBox>(&manager, "singleViewBox");
+    singleViewBox->setText(res.DialogText(ID_SINGLEVIEW));
+    readOnlyBox = Make<QCheckBox>(&manager, "readOnlyBox");
+    readOnlyBox->setText(res.DialogText(ID_READONLY));
+
     auto* viewOptions = new QHBoxLayout;
     viewOptions->addWidget(singleViewBox);
     viewOptions->addSpacing(DialogUnitsX(&manager, 12));
     viewOptions->addWidget(readOnlyBox);
     viewOptions->addStretch(1);
+    return viewOptions;
+}
+
+void DocManagerImpl::BuildDialogButtons(const DocMgrResId& res)
+{
+    openButton = Make<QPushButton>(&manager, "openButton");
+    openButton->setText(res.DialogText(ID_OPEN));
+    openButton->setDefault(true);
+    openButton->setEnabled(false);
+    closeButton = Make<QPushButton>(&manager, "closeButton");
+    closeButton->setText(res.DialogText(ID_CLOSE));
+    closeButton->setAutoDefault(false);
+    commandsButton = Make<QToolButton>(&manager, "commandsButton");
+    commandsButton->setText(res.DialogText(ID_COMMANDS));
+    commandMenu = new DocCommandMenu(commandsButton);
+    commandsButton->setMenu(commandMenu);
+    commandsButton->setPopupMode(QToolButton::InstantPopup);
+    commandsButton->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    commandsButton->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    commandsButton->setMinimumHeight(closeButton->sizeHint().height());
+}
+
+void DocManagerImpl::BuildPathLine()
+{
+    pathLine = Make<QLabel>(&manager, "pathLine");
+    pathLine->setTextFormat(Qt::PlainText);
+    // A long path list is cut off rather than widening the dialog.
+    pathLine->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    pathLine->setMinimumWidth(1);
+}
+
+void DocManagerImpl::BuildBrowser()
+{
+    browser = new DocBrowser(&manager, *this);
+    // Delete and F2 in the list run the menu's items, so they follow its enabling.
+    browser->addAction(commandMenu->Item(CMD_DELETE));
+    browser->addAction(commandMenu->Item(CMD_RENAME));
+    ConnectBrowser();
     listRow = new QHBoxLayout;
     listRow->addWidget(browser, 2);
-    auto* left = new QVBoxLayout;
-    left->addLayout(choice);
-    left->addLayout(viewOptions);
-    left->addWidget(pathLine);
-    left->addLayout(listRow, 1);
+}
 
+void DocManagerImpl::BuildSettingsButtons(const DocMgrResId& res)
+{
+    const SettingsButton buttons[] = {{groupsButton, "groupsButton", ID_GROUPS},
+                                      {pathsButton, "pathsButton", ID_PATHS},
+                                      {filterButton, "filterButton", ID_FILTER},
+                                      {sortButton, "sortButton", ID_SORT},
+                                      {columnsButton, "columnsButton", ID_COLUMNS}};
+    for (const SettingsButton& s : buttons) {
+        s.button = Make<QPushButton>(&manager, s.name);
+        s.button->setText(res.DialogText(s.id));
+        s.button->setAutoDefault(false);
+    }
+}
+
+QLayout* DocManagerImpl::ButtonColumn()
+{
     auto* buttons = new QVBoxLayout;
     buttons->addWidget(openButton);
     buttons->addWidget(closeButton);
     buttons->addWidget(commandsButton);
     buttons->addSpacing(DialogUnitsY(&manager, 10));
-    for (const Settings& s : settingsButtons)
-        buttons->addWidget(s.button);
+    for (QPushButton* button : {groupsButton, pathsButton, filterButton, sortButton, columnsButton})
+        buttons->addWidget(button);
     buttons->addStretch(1);
-
-    auto* root = new QHBoxLayout(&manager);
-    root->addLayout(left, 1);
-    root->addLayout(buttons);
-    manager.resize(DialogUnitsX(&manager, DEFAULT_WIDTH), DialogUnitsY(&manager, DEFAULT_HEIGHT));
+    return buttons;
 }
 
 void DocManagerImpl::ConnectBrowser()
