@@ -32,7 +32,7 @@ DocManager::DocManager(QWidget* parent, const std::string& name, const std::stri
 }
 
 DocManager::DocManager(QWidget* parent, Config* config, const std::string& startPaths, bool openMode)
-    : QDialog(parent), d(std::make_unique<Impl>(*this))
+    : QDialog(parent), d(std::make_unique<DocManagerImpl>(*this))
 {
     d->hostConfig = config;
     d->openMode = openMode;
@@ -40,7 +40,7 @@ DocManager::DocManager(QWidget* parent, Config* config, const std::string& start
     d->startPaths = startPaths == ResString(STR_SUBDIR_MARKER) ? std::string() : startPaths;
     d->dirFileName = ResString(STR_INDEX_NAME);
     d->defExtensions = ResString(STR_DEF_EXTENSIONS);
-    BuildControls();
+    d->BuildControls();
 }
 
 DocManager::~DocManager()
@@ -60,41 +60,10 @@ const std::string& DocManager::GetDefExtensions() const { return d->defExtension
 short DocManager::Execute()
 {
     if (!d->settings)
-        Init();
+        d->Init();
     else
-        CollectFiles();  // later runs keep the settings and show the list afresh
+        d->CollectFiles();  // later runs keep the settings and show the list afresh
     return static_cast<short>(exec());
-}
-
-void DocManager::Init()
-{
-    Config* config = d->hostConfig;
-    if (!config) {
-        d->ownConfig = std::make_unique<Config>(FALLBACK_CONFIG);
-        config = d->ownConfig.get();
-    }
-    QWidget* host = parentWidget();
-    // Read before a first group may be made: that writes the groups, not "GENERAL".
-    const bool hadGeneral = config->HasGroup("GENERAL");
-    d->settings = std::make_unique<ImplDocConfig>(
-        config, d->defExtensions, [host](const std::string& message) { DocInfoBox(host, message); });
-    // A file whose groups were written without the general section (a first group made by
-    // "docmanager --export-config") has no group in force; its first group is meant, or
-    // the window would open with an empty group list.
-    if (!hadGeneral && d->settings->actualGroup == 0 && d->settings->GroupCount() > 0)
-        d->settings->SetCurGroup(0);
-    d->browser->Initialize(d->settings.get());
-    QFont pathFont = d->pathLine->font();
-    pathFont.setWeight(QFont::Normal);
-    d->pathLine->setFont(pathFont);
-    ConnectHandlers();
-    if (!d->openMode)
-        d->readOnlyBox->hide();
-    d->singleViewBox->setChecked(d->settings->singleView);
-    ResizeBrowser();
-    d->openButton->setText(QString::fromStdString(ResString(d->openMode ? STR_OPEN : STR_SELECT)));
-    FillSectionBox(true);
-    d->browser->setFocus();
 }
 
 const std::string* DocManager::GetFirstDoc() { return d->browser ? d->browser->GetFirstDoc() : nullptr; }
@@ -115,45 +84,77 @@ std::array<std::string, 4> DocManager::GetInfoLabels() const
     return d->settings ? d->settings->WorkingGroup().infoLabel : std::array<std::string, 4>();
 }
 
-std::unique_ptr<DocInfo> DocManager::Impl::CreateDocInfo(const std::string& path)
+void DocManager::ReadAhead(const std::vector<std::string>& /*files*/) {}
+
+void DocManager::reject()
+{
+    d->CloseHdl();
+}
+
+void DocManagerImpl::Init()
+{
+    Config* config = hostConfig;
+    if (!config) {
+        ownConfig = std::make_unique<Config>(FALLBACK_CONFIG);
+        config = ownConfig.get();
+    }
+    QWidget* host = manager.parentWidget();
+    // Read before a first group may be made: that writes the groups, not "GENERAL".
+    const bool hadGeneral = config->HasGroup("GENERAL");
+    settings = std::make_unique<ImplDocConfig>(
+        config, defExtensions, [host](const std::string& message) { DocInfoBox(host, message); });
+    // A file whose groups were written without the general section (a first group made by
+    // "docmanager --export-config") has no group in force; its first group is meant, or
+    // the window would open with an empty group list.
+    if (!hadGeneral && settings->actualGroup == 0 && settings->GroupCount() > 0)
+        settings->SetCurGroup(0);
+    browser->Initialize(settings.get());
+    QFont pathFont = pathLine->font();
+    pathFont.setWeight(QFont::Normal);
+    pathLine->setFont(pathFont);
+    ConnectHandlers();
+    if (!openMode)
+        readOnlyBox->hide();
+    singleViewBox->setChecked(settings->singleView);
+    ResizeBrowser();
+    openButton->setText(QString::fromStdString(ResString(openMode ? STR_OPEN : STR_SELECT)));
+    FillSectionBox(true);
+    browser->setFocus();
+}
+
+// The host's operations, as the list and the pane ask for them.
+std::unique_ptr<DocInfo> DocManagerImpl::CreateDocInfo(const std::string& path)
 {
     return manager.CreateDocInfo(path);
 }
 
-void DocManager::ReadAhead(const std::vector<std::string>& /*files*/) {}
-
-void DocManager::Impl::ReadAhead(const std::vector<std::string>& paths)
+void DocManagerImpl::ReadAhead(const std::vector<std::string>& paths)
 {
     manager.ReadAhead(paths);
 }
 
-bool DocManager::Impl::ChangeDocInfo(const std::string& path)
+bool DocManagerImpl::ChangeDocInfo(const std::string& path)
 {
     return manager.ChangeDocInfo(&manager, path);
 }
 
-void DocManager::Impl::Command(unsigned short id)
-{
-    manager.Command(id);
-}
-
-bool DocManager::Impl::IsSingleView() const
+bool DocManagerImpl::IsSingleView() const
 {
     return singleViewBox->isChecked();
 }
 
-QString DocManager::Impl::SelectedGroupName() const
+QString DocManagerImpl::SelectedGroupName() const
 {
     const QListWidgetItem* item = groupList->currentItem();
     return item ? item->text() : QString();
 }
 
-std::string DocManager::Impl::GetCollectPaths() const
+std::string DocManagerImpl::GetCollectPaths() const
 {
     return pathLineText.empty() ? startPaths : pathLineText;
 }
 
-void DocManager::Impl::SetPathLine(const std::string& text)
+void DocManagerImpl::SetPathLine(const std::string& text)
 {
     pathLineText = text;
     pathLine->setText(QString::fromStdString(text));

@@ -13,7 +13,7 @@
 #include "docmgr/records/docinfo.h"
 #include "docmgr/tools/config.h"
 
-class QAction;
+class DocManagerImpl;
 class ResModule;
 
 // Result of Execute when the host is to print the chosen documents; 0 is closed, 1 open.
@@ -64,42 +64,11 @@ protected:
     // fields (empty before the first Execute).
     std::array<std::string, 4> GetInfoLabels() const;
 
-    // The steps of the dialog, in the order a run uses them.
-    void Init();
-    void ResizeBrowser();
-    void FillSectionBox(bool collect);
-    void SelectSection(const std::string& section, bool collect);
-    void CollectFiles();
-    void WatchControls();
-    void Command(unsigned short id);
-    // Asks whether changed settings are to be kept in the current group.
-    void QuerySave();
-
-    // Handlers of the controls.
-    void CommandsHdl(QAction* item);
-    void SectionHdl();
-    void GroupHdl();
-    void SummaryHdl();
-    void OpenHdl();
-    void CloseHdl();
-    void GroupsHdl();
-    void PathsHdl();
-    void FilterHdl();
-    void SortHdl();
-    void ColumnsHdl();
-
-    // The controls and settings; declared in the module's private header.
-    struct Impl;
-    std::unique_ptr<Impl> d;
-
 private:
-    void BuildControls();
-    // What the list reports: its count line, its selection, a double click, printing.
-    void ConnectBrowser();
-    void ConnectHandlers();
-    void DeleteSelected();
-    void ExportList();
-    template <class Dialog> bool RunSettingsDialog();
+    // The controls, the settings, and the dialog's steps and handlers; declared in the
+    // module's private header.
+    friend class DocManagerImpl;
+    std::unique_ptr<DocManagerImpl> d;
 };
 
 // Brackets the use of the module: creates the resource manager of the module's texts

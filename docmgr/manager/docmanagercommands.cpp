@@ -32,54 +32,54 @@ std::vector<std::string> SelectedDocs(DocBrowser& browser)
 }
 }  // namespace
 
-void DocManager::WatchControls()
+void DocManagerImpl::WatchControls()
 {
-    if (!d->browser || !d->commandMenu)
+    if (!browser || !commandMenu)
         return;
-    const long selected = d->browser->GetSelectedRowCount();
-    d->openButton->setEnabled(selected > 0);
-    const uint16_t access = d->settings ? d->settings->access : 0;
-    auto enable = [this](unsigned short id, bool on) { d->commandMenu->Item(id)->setEnabled(on); };
+    const long selected = browser->GetSelectedRowCount();
+    openButton->setEnabled(selected > 0);
+    const uint16_t access = settings ? settings->access : 0;
+    auto enable = [this](unsigned short id, bool on) { commandMenu->Item(id)->setEnabled(on); };
     enable(CMD_DELETE, selected > 0 && (access & ACCESS_FILEDELETE));
     enable(CMD_COPY, selected > 0 && (access & ACCESS_FILECOPY));
-    enable(CMD_PRINTDOCS, selected > 0 && d->openMode && (access & ACCESS_FILEPRINT) && IsAvailable());
+    enable(CMD_PRINTDOCS, selected > 0 && openMode && (access & ACCESS_FILEPRINT) && manager.IsAvailable());
     enable(CMD_PRINTLIST, true);  // printing the list needs no right
     enable(CMD_EXPORTLIST, true);  // nor does exporting it
     enable(CMD_DOCINFO, selected == 1);
     enable(CMD_RENAME, selected == 1 && (access & ACCESS_FILERENAME));
 }
 
-void DocManager::Command(unsigned short id)
+void DocManagerImpl::Command(unsigned short id)
 {
     switch (id) {
     case CMD_DELETE:
         DeleteSelected();
         break;
     case CMD_DOCINFO:
-        d->browser->EditDocInfo();
+        browser->EditDocInfo();
         break;
     case CMD_COPY: {
-        auto dialog = std::make_unique<DocCopyDialog>(this, SelectedDocs(*d->browser));
+        auto dialog = std::make_unique<DocCopyDialog>(&manager, SelectedDocs(*browser));
         if (dialog->exec() == 1 && dialog->GetDoneCount() != 0) {
             CollectFiles();
-            d->browser->SelectPaths(dialog->GetResultPaths());
+            browser->SelectPaths(dialog->GetResultPaths());
         }
         break;
     }
     case CMD_RENAME: {
-        const std::string* first = d->browser->GetFirstDoc();
-        auto dialog = std::make_unique<DocRenameDialog>(this, first ? *first : std::string());
+        const std::string* first = browser->GetFirstDoc();
+        auto dialog = std::make_unique<DocRenameDialog>(&manager, first ? *first : std::string());
         if (dialog->exec() == 1 && dialog->GetRenameCount() != 0) {
             CollectFiles();
-            d->browser->SelectPaths({dialog->GetNewPath()});
+            browser->SelectPaths({dialog->GetNewPath()});
         }
         break;
     }
     case CMD_PRINTDOCS:
-        done(RET_PRINTDOCS);
+        manager.done(RET_PRINTDOCS);
         break;
     case CMD_PRINTLIST:
-        d->browser->PrintList();
+        browser->PrintList();
         break;
     case CMD_EXPORTLIST:
         ExportList();
@@ -89,34 +89,34 @@ void DocManager::Command(unsigned short id)
     }
 }
 
-void DocManager::DeleteSelected()
+void DocManagerImpl::DeleteSelected()
 {
-    const std::vector<std::string> docs = SelectedDocs(*d->browser);
+    const std::vector<std::string> docs = SelectedDocs(*browser);
     const QString question =
         docs.size() == 1
             ? QString::fromStdString(ResText(ResKind::QueryBox, QUERY_DELETE_ONE))
                   .arg(QString::fromStdString(fsutil::FileName(docs.front())))
             : QString::fromStdString(ResText(ResKind::QueryBox, QUERY_DELETE)).arg(docs.size());
     // Deleting cannot be undone: Enter keeps the files.
-    if (DocQueryBox(this, question, RET_NO) != RET_YES)
+    if (DocQueryBox(&manager, question, RET_NO) != RET_YES)
         return;
     ScopedWaitCursor wait;
-    for (const std::string* doc = d->browser->GetFirstDoc(); doc; doc = d->browser->GetFirstDoc()) {
+    for (const std::string* doc = browser->GetFirstDoc(); doc; doc = browser->GetFirstDoc()) {
         const std::string path = *doc;
         if (const int error = fsutil::Remove(path); error == 0) {
-            d->browser->RowRemoved(path);
+            browser->RowRemoved(path);
         } else {
-            DocInfoBox(this, ResString(STR_DELETE_FAILED) + path + ResString(STR_DELETE_FAILED_END),
+            DocInfoBox(&manager, ResString(STR_DELETE_FAILED) + path + ResString(STR_DELETE_FAILED_END),
                        DocErrorText(error));
-            d->browser->DeselectFirstSelected();  // so that the loop moves on
+            browser->DeselectFirstSelected();  // so that the loop moves on
         }
     }
     WatchControls();
     // The line has always ended up as the remaining count written twice ("1212" for 12
     // rows); scripts that read it rely on that, so it stays.
-    std::string line = d->pathLineText;
+    std::string line = pathLineText;
     line.erase(0, std::min(line.find(' '), line.size()));
-    const std::string count = std::to_string(d->browser->GetRowCount());
+    const std::string count = std::to_string(browser->GetRowCount());
     line = count + count;
-    d->SetPathLine(line);
+    SetPathLine(line);
 }

@@ -34,9 +34,9 @@ int WriteFile(const std::string& path, const std::string& text)
 }
 }  // namespace
 
-void DocManager::ExportList()
+void DocManagerImpl::ExportList()
 {
-    QFileDialog dialog(this, DialogText(DLG_EXPORT), QString(), DialogText(DLG_EXPORT, 1));
+    QFileDialog dialog(&manager, DialogText(DLG_EXPORT), QString(), DialogText(DLG_EXPORT, 1));
     dialog.setObjectName(QStringLiteral("exportDialog"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QStringLiteral("csv"));
@@ -47,14 +47,14 @@ void DocManager::ExportList()
     // The columns as the list shows them, left to right; a place without a column id
     // shows nothing and is left out.
     std::vector<uint16_t> columns;
-    for (unsigned short p = 0; p < d->browser->ColCount(); ++p) {
-        const uint16_t id = d->browser->GetColumnId(p);
+    for (unsigned short p = 0; p < browser->ColCount(); ++p) {
+        const uint16_t id = browser->GetColumnId(p);
         if (id >= 1 && id <= COLUMN_COUNT)
             columns.push_back(id);
     }
     const std::string text =
-        FormatCsvList(d->browser->GetRowList().Rows(), columns, d->settings->WorkingGroup());
+        FormatCsvList(browser->GetRowList().Rows(), columns, settings->WorkingGroup());
     if (const int error = WriteFile(path, text))
-        DocInfoBox(this, JoinedMessage(STR_EXPORT_FAILED, path, STR_EXPORT_FAILED_END),
+        DocInfoBox(&manager, JoinedMessage(STR_EXPORT_FAILED, path, STR_EXPORT_FAILED_END),
                    DocErrorText(error));
 }

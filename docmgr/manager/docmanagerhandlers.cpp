@@ -32,64 +32,64 @@ int FindEntry(const QListWidget* list, const QString& text)
 }
 }  // namespace
 
-void DocManager::FillSectionBox(bool collect)
+void DocManagerImpl::FillSectionBox(bool collect)
 {
     {
         ScopedWaitCursor wait;
-        const QSignalBlocker quiet(d->sectionList);
-        d->sectionList->clear();
+        const QSignalBlocker quiet(sectionList);
+        sectionList->clear();
         // Sections in the order of their first group, each once.
-        for (uint16_t g = 0; g < d->settings->GroupCount(); ++g) {
-            const QString section = QString::fromStdString(d->settings->Group(g).section);
-            if (FindEntry(d->sectionList, section) < 0)
-                d->sectionList->addItem(section);
+        for (uint16_t g = 0; g < settings->GroupCount(); ++g) {
+            const QString section = QString::fromStdString(settings->Group(g).section);
+            if (FindEntry(sectionList, section) < 0)
+                sectionList->addItem(section);
         }
     }
-    SelectSection(d->settings->Group(d->settings->CurrentPosition()).section, collect);
+    SelectSection(settings->Group(settings->CurrentPosition()).section, collect);
 }
 
-void DocManager::SelectSection(const std::string& section, bool collect)
+void DocManagerImpl::SelectSection(const std::string& section, bool collect)
 {
     {
-        const QSignalBlocker quietSections(d->sectionList);
-        d->sectionList->setCurrentRow(FindEntry(d->sectionList, QString::fromStdString(section)));
+        const QSignalBlocker quietSections(sectionList);
+        sectionList->setCurrentRow(FindEntry(sectionList, QString::fromStdString(section)));
     }
     {
         ScopedWaitCursor wait;
-        const QSignalBlocker quietGroups(d->groupList);
-        d->groupList->clear();
-        const uint16_t current = d->settings->CurrentPosition();
+        const QSignalBlocker quietGroups(groupList);
+        groupList->clear();
+        const uint16_t current = settings->CurrentPosition();
         uint16_t first = WORKING_GROUP;
         bool found = false;
-        for (uint16_t p = 0; p < d->settings->GroupCount(); ++p) {
-            const DocGroupConfig& group = d->settings->Group(p);
+        for (uint16_t p = 0; p < settings->GroupCount(); ++p) {
+            const DocGroupConfig& group = settings->Group(p);
             if (group.section != section)
                 continue;
-            d->groupList->addItem(QString::fromStdString(group.groupName));
+            groupList->addItem(QString::fromStdString(group.groupName));
             if (first == WORKING_GROUP)
                 first = p;
             if (p == current) {
-                d->groupList->setCurrentRow(d->groupList->count() - 1);
+                groupList->setCurrentRow(groupList->count() - 1);
                 found = true;
             }
         }
         if (!found) {
-            if (d->groupList->count() > 0)
-                d->groupList->setCurrentRow(0);
-            d->settings->SetCurGroup(first);
-            d->changed = false;
+            if (groupList->count() > 0)
+                groupList->setCurrentRow(0);
+            settings->SetCurGroup(first);
+            changed = false;
         }
     }
     if (collect)
         CollectFiles();
 }
 
-void DocManager::CollectFiles()
+void DocManagerImpl::CollectFiles()
 {
-    if (!d->settings)
+    if (!settings)
         return;
     // The active paths: those whose flag character is "1"; missing flags count as off.
-    const DocGroupConfig& group = d->settings->WorkingGroup();
+    const DocGroupConfig& group = settings->WorkingGroup();
     const unsigned short count = tokens::Count(group.paths, ';');
     std::string active;
     for (unsigned short i = 0; i < count; ++i) {
@@ -99,122 +99,117 @@ void DocManager::CollectFiles()
             active += tokens::Get(group.paths, i, ';');
         }
     }
-    d->SetPathLine(active);
-    d->browser->SetDirFileName(d->dirFileName);
-    d->browser->SetCollectPaths(d->GetCollectPaths());
-    d->browser->CollectFiles(false);
+    SetPathLine(active);
+    browser->SetDirFileName(dirFileName);
+    browser->SetCollectPaths(GetCollectPaths());
+    browser->CollectFiles(false);
     WatchControls();
 }
 
-void DocManager::QuerySave()
+void DocManagerImpl::QuerySave()
 {
-    if (!d->changed)
+    if (!changed)
         return;
-    const std::string question = ResString(STR_SAVE_QUESTION) + d->settings->WorkingGroup().groupName +
+    const std::string question = ResString(STR_SAVE_QUESTION) + settings->WorkingGroup().groupName +
                                  ResString(STR_SAVE_QUESTION_END);
-    if (DocQueryBox(this, question) == RET_YES) {
-        d->settings->SetGroupByExample(d->settings->CurrentPosition());
-        d->settings->SaveConfig();
+    if (DocQueryBox(&manager, question) == RET_YES) {
+        settings->SetGroupByExample(settings->CurrentPosition());
+        settings->SaveConfig();
     } else {
-        d->settings->SetCurGroup(0);  // the first group, not the current one: as it always was
+        settings->SetCurGroup(0);  // the first group, not the current one: as it always was
     }
 }
 
 template <class Dialog>
-bool DocManager::RunSettingsDialog()
+bool DocManagerImpl::RunSettingsDialog()
 {
-    auto dialog = std::make_unique<Dialog>(this, d->settings.get(), WORKING_GROUP);
+    auto dialog = std::make_unique<Dialog>(&manager, settings.get(), WORKING_GROUP);
     return dialog->exec() == 1;
 }
 
-void DocManager::CommandsHdl(QAction* item)
+void DocManagerImpl::CommandsHdl(QAction* item)
 {
     Command(DocCommandMenu::ItemId(item));
 }
 
-void DocManager::SectionHdl()
+void DocManagerImpl::SectionHdl()
 {
     QuerySave();
-    const QListWidgetItem* item = d->sectionList->currentItem();
+    const QListWidgetItem* item = sectionList->currentItem();
     SelectSection(item ? item->text().toStdString() : std::string(), true);
 }
 
-void DocManager::GroupHdl()
+void DocManagerImpl::GroupHdl()
 {
     QuerySave();
-    d->settings->SetCurGroup(d->SelectedGroupName().toStdString());
-    d->changed = false;
+    settings->SetCurGroup(SelectedGroupName().toStdString());
+    changed = false;
     CollectFiles();
 }
 
-void DocManager::SummaryHdl()
+void DocManagerImpl::SummaryHdl()
 {
-    d->settings->singleView = d->singleViewBox->isChecked();
+    settings->singleView = singleViewBox->isChecked();
     ResizeBrowser();
-    d->browser->InsertColumns();
+    browser->InsertColumns();
 }
 
-void DocManager::OpenHdl()
+void DocManagerImpl::OpenHdl()
 {
     QuerySave();
-    done(1);
+    manager.done(1);
 }
 
-void DocManager::CloseHdl()
+void DocManagerImpl::CloseHdl()
 {
-    if (d->settings) {
-        d->settings->SaveGeneralSection();
+    if (settings) {
+        settings->SaveGeneralSection();
         QuerySave();
     }
-    done(0);
+    manager.done(0);
 }
 
-void DocManager::reject()
-{
-    CloseHdl();
-}
-
-void DocManager::GroupsHdl()
+void DocManagerImpl::GroupsHdl()
 {
     QuerySave();
-    d->changed = false;
-    auto dialog = std::make_unique<DocGroupsDialog>(this, d->settings.get(), d->SelectedGroupName());
+    changed = false;
+    auto dialog = std::make_unique<DocGroupsDialog>(&manager, settings.get(), SelectedGroupName());
     FillSectionBox(dialog->exec() == 1);
 }
 
-void DocManager::PathsHdl()
+void DocManagerImpl::PathsHdl()
 {
     if (RunSettingsDialog<DocPathsDialog>()) {
-        d->changed = true;
+        changed = true;
         CollectFiles();
     }
 }
 
-void DocManager::FilterHdl()
+void DocManagerImpl::FilterHdl()
 {
     if (RunSettingsDialog<DocFilterDialog>()) {
-        d->changed = true;
+        changed = true;
         CollectFiles();
     }
 }
 
-void DocManager::SortHdl()
+void DocManagerImpl::SortHdl()
 {
     if (!RunSettingsDialog<DocSortDialog>())
         return;
-    d->changed = true;
-    if (d->settings->WorkingGroup().sortColumnId < NO_COLUMN) {
-        d->browser->ClearSelection();
-        d->browser->SortFiles(true);
+    changed = true;
+    if (settings->WorkingGroup().sortColumnId < NO_COLUMN) {
+        browser->ClearSelection();
+        browser->SortFiles(true);
     } else {
         CollectFiles();  // back to the order of collection
     }
 }
 
-void DocManager::ColumnsHdl()
+void DocManagerImpl::ColumnsHdl()
 {
     if (RunSettingsDialog<DocColumnsDialog>()) {
-        d->changed = true;
-        d->browser->InsertColumns();
+        changed = true;
+        browser->InsertColumns();
     }
 }

@@ -1,11 +1,13 @@
 #pragma once
-// Inside of DocManager, shared by its files and by the module's tests: the controls in the
-// order of the dialog, then the settings and the strings the host gave. It is the list's
-// host: the list asks the manager's virtual operations and commands through it.
+// Inside of DocManager, shared by its files and by the module's tests and benchmarks: the
+// dialog's steps and handlers, the controls in the order of the dialog, then the settings
+// and the strings the host gave. It is the list's host: the list reads the host's
+// document information and runs the file commands through it.
 #include <QFontMetrics>
 #include <QWidget>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "docmgr/config/impldocconfig.h"
 #include "docmgr/manager/docmanager.h"
@@ -13,22 +15,57 @@
 
 class DocBrowser;
 class DocCommandMenu;
+class DocMgrResId;
 class DocSummaryWindow;
+class QAction;
 class QCheckBox;
 class QHBoxLayout;
 class QLabel;
+class QLayout;
 class QListWidget;
 class QPushButton;
 class QToolButton;
 
-struct DocManager::Impl final : DocListHost {
-    explicit Impl(DocManager& owner) : manager(owner) {}
+class DocManagerImpl final : public DocListHost {
+public:
+    explicit DocManagerImpl(DocManager& owner) : manager(owner) {}
+
+    // The inside of `manager`, for tests and benchmarks that drive its steps without the
+    // modal loop.
+    static DocManagerImpl& Of(DocManager& manager) { return *manager.d; }
+    static const DocManagerImpl& Of(const DocManager& manager) { return *manager.d; }
 
     // DocListHost: the host's operations, with the manager as the editor's parent.
     std::unique_ptr<DocInfo> CreateDocInfo(const std::string& path) override;
-    bool ChangeDocInfo(const std::string& path) override;
     void ReadAhead(const std::vector<std::string>& paths) override;
+    bool ChangeDocInfo(const std::string& path) override;
+    // Runs file command `id` on the selected rows: the commands menu and the list's
+    // context menu.
     void Command(unsigned short id) override;
+
+    // The steps of the dialog, in the order a run uses them.
+    void BuildControls();
+    void Init();
+    void ResizeBrowser();
+    void FillSectionBox(bool collect);
+    void SelectSection(const std::string& section, bool collect);
+    void CollectFiles();
+    void WatchControls();
+    // Asks whether changed settings are to be kept in the current group.
+    void QuerySave();
+
+    // Handlers of the controls.
+    void CommandsHdl(QAction* item);
+    void SectionHdl();
+    void GroupHdl();
+    void SummaryHdl();
+    void OpenHdl();
+    void CloseHdl();
+    void GroupsHdl();
+    void PathsHdl();
+    void FilterHdl();
+    void SortHdl();
+    void ColumnsHdl();
 
     // Path list for collecting: the path line's text (active paths) or the start paths.
     std::string GetCollectPaths() const;
@@ -68,6 +105,24 @@ struct DocManager::Impl final : DocListHost {
     std::string pathLineText;
     std::string dirFileName;
     std::string defExtensions;
+
+private:
+    // The parts of the dialog BuildControls puts together; each makes its controls and
+    // returns their layout, when they have one of their own.
+    QLayout* BuildChoice(const DocMgrResId& res);
+    QLayout* BuildViewOptions(const DocMgrResId& res);
+    void BuildDialogButtons(const DocMgrResId& res);
+    void BuildPathLine();
+    void BuildBrowser();
+    void BuildSettingsButtons(const DocMgrResId& res);
+    QLayout* ButtonColumn();
+    // What the list reports: its count line, its selection, a double click, printing.
+    void ConnectBrowser();
+    void ConnectHandlers();
+    void DeleteSelected();
+    void ExportList();
+    template <class Dialog>
+    bool RunSettingsDialog();
 };
 
 // Dialog units of the application font: a quarter of the average character width

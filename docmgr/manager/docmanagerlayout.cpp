@@ -30,6 +30,13 @@ constexpr int DEFAULT_HEIGHT = 360;
 // Rows the section and group lists show before they scroll.
 constexpr int LIST_ROWS = 4;
 
+// A settings button: where it is kept, its object name, its text's id.
+struct SettingsButton {
+    QPushButton*& button;
+    const char* name;
+    uint16_t id;
+};
+
 template <class Control>
 Control* Make(QWidget* parent, const char* name)
 {
@@ -39,160 +46,196 @@ Control* Make(QWidget* parent, const char* name)
 }
 }  // namespace
 
-void DocManager::BuildControls()
+void DocManagerImpl::BuildControls()
 {
     const DocMgrResId res(DLG_MANAGER);
-    setObjectName("docManager");
-    setWindowTitle(res.DialogText());
-    auto text = [&res](uint16_t local) { return res.DialogText(local); };
-
-    d->sectionLabel = Make<QLabel>(this, "sectionLabel");
-    d->sectionLabel->setText(text(ID_SECTION_LABEL));
-    d->sectionList = Make<QListWidget>(this, "sectionList");
-    d->sectionLabel->setBuddy(d->sectionList);
-    d->groupLabel = Make<QLabel>(this, "groupLabel");
-    d->groupLabel->setText(text(ID_GROUP_LABEL));
-    d->groupList = Make<QListWidget>(this, "groupList");
-    d->groupLabel->setBuddy(d->groupList);
-    const int listHeight = QFontMetrics(font()).height() * LIST_ROWS + 8;
-    for (QListWidget* list : {d->sectionList, d->groupList}) {
-        list->setSelectionMode(QAbstractItemView::SingleSelection);
-        list->setFixedHeight(listHeight);
-    }
-    d->singleViewBox = Make<QCheckBox>(this, "singleViewBox");
-    d->singleViewBox->setText(text(ID_SINGLEVIEW));
-    d->readOnlyBox = Make<QCheckBox>(this, "readOnlyBox");
-    d->readOnlyBox->setText(text(ID_READONLY));
-
-    d->openButton = Make<QPushButton>(this, "openButton");
-    d->openButton->setText(text(ID_OPEN));
-    d->openButton->setDefault(true);
-    d->openButton->setEnabled(false);
-    d->closeButton = Make<QPushButton>(this, "closeButton");
-    d->closeButton->setText(text(ID_CLOSE));
-    d->closeButton->setAutoDefault(false);
-    d->commandsButton = Make<QToolButton>(this, "commandsButton");
-    d->commandsButton->setText(text(ID_COMMANDS));
-    d->commandMenu = new DocCommandMenu(d->commandsButton);
-    d->commandsButton->setMenu(d->commandMenu);
-    d->commandsButton->setPopupMode(QToolButton::InstantPopup);
-    d->commandsButton->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    d->commandsButton->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    d->commandsButton->setMinimumHeight(d->closeButton->sizeHint().height());
-
-    d->pathLine = Make<QLabel>(this, "pathLine");
-    d->pathLine->setTextFormat(Qt::PlainText);
-    // A long path list is cut off rather than widening the dialog.
-    d->pathLine->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    d->pathLine->setMinimumWidth(1);
-
-    d->browser = new DocBrowser(this, *d);
-    // Delete and F2 in the list run the menu's items, so they follow its enabling.
-    d->browser->addAction(d->commandMenu->Item(CMD_DELETE));
-    d->browser->addAction(d->commandMenu->Item(CMD_RENAME));
-    ConnectBrowser();
-
-    struct Settings {
-        QPushButton*& button;
-        const char* name;
-        uint16_t id;
-    };
-    const Settings settingsButtons[] = {{d->groupsButton, "groupsButton", ID_GROUPS},
-                                        {d->pathsButton, "pathsButton", ID_PATHS},
-                                        {d->filterButton, "filterButton", ID_FILTER},
-                                        {d->sortButton, "sortButton", ID_SORT},
-                                        {d->columnsButton, "columnsButton", ID_COLUMNS}};
-    for (const Settings& s : settingsButtons) {
-        s.button = Make<QPushButton>(this, s.name);
-        s.button->setText(text(s.id));
-        s.button->setAutoDefault(false);
-    }
+    manager.setObjectName("docManager");
+    manager.setWindowTitle(res.DialogText());
+    // The controls are made in the order of the dialog, which is also their tab order.
+    QLayout* choice = BuildChoice(res);
+    QLayout* viewOptions = BuildViewOptions(res);
+    BuildDialogButtons(res);
+    BuildPathLine();
+    BuildBrowser();
+    BuildSettingsButtons(res);
 
     // Left: the choice of group above the list; right: the buttons in one column.
-    auto* sectionColumn = new QVBoxLayout;
-    sectionColumn->addWidget(d->sectionLabel);
-    sectionColumn->addWidget(d->sectionList);
-    auto* groupColumn = new QVBoxLayout;
-    groupColumn->addWidget(d->groupLabel);
-    groupColumn->addWidget(d->groupList);
-    auto* choice = new QHBoxLayout;
-    choice->addLayout(sectionColumn, 1);
-    choice->addLayout(groupColumn, 1);
-    auto* viewOptions = new QHBoxLayout;
-    viewOptions->addWidget(d->singleViewBox);
-    viewOptions->addSpacing(DialogUnitsX(this, 12));
-    viewOptions->addWidget(d->readOnlyBox);
-    viewOptions->addStretch(1);
-    d->listRow = new QHBoxLayout;
-    d->listRow->addWidget(d->browser, 2);
     auto* left = new QVBoxLayout;
     left->addLayout(choice);
     left->addLayout(viewOptions);
-    left->addWidget(d->pathLine);
-    left->addLayout(d->listRow, 1);
-
-    auto* buttons = new QVBoxLayout;
-    buttons->addWidget(d->openButton);
-    buttons->addWidget(d->closeButton);
-    buttons->addWidget(d->commandsButton);
-    buttons->addSpacing(DialogUnitsY(this, 10));
-    for (const Settings& s : settingsButtons)
-        buttons->addWidget(s.button);
-    buttons->addStretch(1);
-
-    auto* root = new QHBoxLayout(this);
+    left->addWidget(pathLine);
+    left->addLayout(listRow, 1);
+    auto* root = new QHBoxLayout(&manager);
     root->addLayout(left, 1);
-    root->addLayout(buttons);
-    resize(DialogUnitsX(this, DEFAULT_WIDTH), DialogUnitsY(this, DEFAULT_HEIGHT));
+    root->addLayout(ButtonColumn());
+    manager.resize(DialogUnitsX(&manager, DEFAULT_WIDTH), DialogUnitsY(&manager, DEFAULT_HEIGHT));
 }
 
-void DocManager::ConnectBrowser()
+QLayout* DocManagerImpl::BuildChoice(const DocMgrResId& res)
 {
-    connect(d->browser, &DocBrowser::countLineChanged, this,
-            [this](const QString& line) { d->SetPathLine(line.toStdString()); });
-    connect(d->browser, &DocBrowser::selectionStateChanged, this, [this] {
+    sectionLabel = Make<QLabel>(&manager, "sectionLabel");
+    sectionLabel->setText(res.DialogText(ID_SECTION_LABEL));
+    sectionList = Make<QListWidget>(&manager, "sectionList");
+    sectionLabel->setBuddy(sectionList);
+    groupLabel = Make<QLabel>(&manager, "groupLabel");
+    groupLabel->setText(res.DialogText(ID_GROUP_LABEL));
+    groupList = Make<QListWidget>(&manager, "groupList");
+    groupLabel->setBuddy(groupList);
+    const int listHeight = QFontMetrics(manager.font()).height() * LIST_ROWS + 8;
+    for (QListWidget* list : {sectionList, groupList}) {
+        list->setSelectionMode(QAbstractItemView::SingleSelection);
+        list->setFixedHeight(listHeight);
+    }
+
+    auto* sectionColumn = new QVBoxLayout;
+    sectionColumn->addWidget(sectionLabel);
+    sectionColumn->addWidget(sectionList);
+    auto* groupColumn = new QVBoxLayout;
+    groupColumn->addWidget(groupLabel);
+    groupColumn->addWidget(groupList);
+    auto* choice = new QHBoxLayout;
+    choice->addLayout(sectionColumn, 1);
+    choice->addLayout(groupColumn, 1);
+    return choice;
+}
+
+QLayout* DocManagerImpl::BuildViewOptions(const DocMgrResId& res)
+{
+    singleViewBox = Make<QCheckBox>(&manager, "singleViewBox");
+    singleViewBox->setText(res.DialogText(ID_SINGLEVIEW));
+    readOnlyBox = Make<QCheckBox>(&manager, "readOnlyBox");
+    readOnlyBox->setText(res.DialogText(ID_READONLY));
+
+    auto* viewOptions = new QHBoxLayout;
+    viewOptions->addWidget(singleViewBox);
+    viewOptions->addSpacing(DialogUnitsX(&manager, 12));
+    viewOptions->addWidget(readOnlyBox);
+    viewOptions->addStretch(1);
+    return viewOptions;
+}
+
+void DocManagerImpl::BuildDialogButtons(const DocMgrResId& res)
+{
+    openButton = Make<QPushButton>(&manager, "openButton");
+    openButton->setText(res.DialogText(ID_OPEN));
+    openButton->setDefault(true);
+    openButton->setEnabled(false);
+    closeButton = Make<QPushButton>(&manager, "closeButton");
+    closeButton->setText(res.DialogText(ID_CLOSE));
+    closeButton->setAutoDefault(false);
+    commandsButton = Make<QToolButton>(&manager, "commandsButton");
+    commandsButton->setText(res.DialogText(ID_COMMANDS));
+    commandMenu = new DocCommandMenu(commandsButton);
+    commandsButton->setMenu(commandMenu);
+    commandsButton->setPopupMode(QToolButton::InstantPopup);
+    commandsButton->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    commandsButton->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    commandsButton->setMinimumHeight(closeButton->sizeHint().height());
+}
+
+void DocManagerImpl::BuildPathLine()
+{
+    pathLine = Make<QLabel>(&manager, "pathLine");
+    pathLine->setTextFormat(Qt::PlainText);
+    // A long path list is cut off rather than widening the dialog.
+    pathLine->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    pathLine->setMinimumWidth(1);
+}
+
+void DocManagerImpl::BuildBrowser()
+{
+    browser = new DocBrowser(&manager, *this);
+    // Delete and F2 in the list run the menu's items, so they follow its enabling.
+    browser->addAction(commandMenu->Item(CMD_DELETE));
+    browser->addAction(commandMenu->Item(CMD_RENAME));
+    ConnectBrowser();
+    listRow = new QHBoxLayout;
+    listRow->addWidget(browser, 2);
+}
+
+void DocManagerImpl::BuildSettingsButtons(const DocMgrResId& res)
+{
+    const SettingsButton buttons[] = {{groupsButton, "groupsButton", ID_GROUPS},
+                                      {pathsButton, "pathsButton", ID_PATHS},
+                                      {filterButton, "filterButton", ID_FILTER},
+                                      {sortButton, "sortButton", ID_SORT},
+                                      {columnsButton, "columnsButton", ID_COLUMNS}};
+    for (const SettingsButton& s : buttons) {
+        s.button = Make<QPushButton>(&manager, s.name);
+        s.button->setText(res.DialogText(s.id));
+        s.button->setAutoDefault(false);
+    }
+}
+
+QLayout* DocManagerImpl::ButtonColumn()
+{
+    auto* buttons = new QVBoxLayout;
+    buttons->addWidget(openButton);
+    buttons->addWidget(closeButton);
+    buttons->addWidget(commandsButton);
+    buttons->addSpacing(DialogUnitsY(&manager, 10));
+    for (QPushButton* button : {groupsButton, pathsButton, filterButton, sortButton, columnsButton})
+        buttons->addWidget(button);
+    buttons->addStretch(1);
+    return buttons;
+}
+
+void DocManagerImpl::ConnectBrowser()
+{
+    QObject::connect(browser, &DocBrowser::countLineChanged, &manager,
+                     [this](const QString& line) { SetPathLine(line.toStdString()); });
+    QObject::connect(browser, &DocBrowser::selectionStateChanged, &manager, [this] {
         WatchControls();
-        if (d->summary)
-            d->summary->update();  // shows the newly selected document
+        if (summary)
+            summary->update();  // shows the newly selected document
     });
-    connect(d->browser, &DocBrowser::rowActivated, this, [this] {
-        if (d->openButton->isEnabled())
-            d->openButton->click();
+    QObject::connect(browser, &DocBrowser::rowActivated, &manager, [this] {
+        if (openButton->isEnabled())
+            openButton->click();
     });
-    connect(d->browser, &DocBrowser::printListRequested, this, [this] {
-        DocPrintDialog dialog(d->browser, *d->browser);
+    QObject::connect(browser, &DocBrowser::printListRequested, &manager, [this] {
+        DocPrintDialog dialog(browser, *browser);
         dialog.exec();
     });
 }
 
-void DocManager::ConnectHandlers()
+void DocManagerImpl::ConnectHandlers()
 {
-    connect(d->commandMenu, &QMenu::triggered, this, &DocManager::CommandsHdl);
-    connect(d->sectionList, &QListWidget::currentRowChanged, this, &DocManager::SectionHdl);
-    connect(d->groupList, &QListWidget::currentRowChanged, this, &DocManager::GroupHdl);
-    connect(d->singleViewBox, &QCheckBox::clicked, this, &DocManager::SummaryHdl);
-    connect(d->openButton, &QPushButton::clicked, this, &DocManager::OpenHdl);
-    connect(d->closeButton, &QPushButton::clicked, this, &DocManager::CloseHdl);
-    connect(d->groupsButton, &QPushButton::clicked, this, &DocManager::GroupsHdl);
-    connect(d->pathsButton, &QPushButton::clicked, this, &DocManager::PathsHdl);
-    connect(d->filterButton, &QPushButton::clicked, this, &DocManager::FilterHdl);
-    connect(d->sortButton, &QPushButton::clicked, this, &DocManager::SortHdl);
-    connect(d->columnsButton, &QPushButton::clicked, this, &DocManager::ColumnsHdl);
+    // The dialog is each connection's context, so none outlives it.
+    auto onChange = [this](QListWidget* list, void (DocManagerImpl::*handler)()) {
+        QObject::connect(list, &QListWidget::currentRowChanged, &manager,
+                         [this, handler] { (this->*handler)(); });
+    };
+    auto onClick = [this](QAbstractButton* button, void (DocManagerImpl::*handler)()) {
+        QObject::connect(button, &QAbstractButton::clicked, &manager,
+                         [this, handler] { (this->*handler)(); });
+    };
+    QObject::connect(commandMenu, &QMenu::triggered, &manager, [this](QAction* item) { CommandsHdl(item); });
+    onChange(sectionList, &DocManagerImpl::SectionHdl);
+    onChange(groupList, &DocManagerImpl::GroupHdl);
+    onClick(singleViewBox, &DocManagerImpl::SummaryHdl);
+    onClick(openButton, &DocManagerImpl::OpenHdl);
+    onClick(closeButton, &DocManagerImpl::CloseHdl);
+    onClick(groupsButton, &DocManagerImpl::GroupsHdl);
+    onClick(pathsButton, &DocManagerImpl::PathsHdl);
+    onClick(filterButton, &DocManagerImpl::FilterHdl);
+    onClick(sortButton, &DocManagerImpl::SortHdl);
+    onClick(columnsButton, &DocManagerImpl::ColumnsHdl);
 }
 
-void DocManager::ResizeBrowser()
+void DocManagerImpl::ResizeBrowser()
 {
-    const bool single = d->singleViewBox->isChecked();
-    if (single && !d->summary) {
-        d->browser->SetSingleView(true);
-        d->summary = new DocSummaryWindow(this, *d->browser, *d);
+    const bool single = singleViewBox->isChecked();
+    if (single && !summary) {
+        browser->SetSingleView(true);
+        summary = new DocSummaryWindow(&manager, *browser, *this);
         // At least its width; a wider dialog gives the pane the room its values want.
-        d->summary->setMinimumWidth(DialogUnitsX(this, SUMMARY_WIDTH));
-        d->listRow->addWidget(d->summary, 3);
-        d->summary->show();
-    } else if (!single && d->summary) {
-        d->browser->SetSingleView(false);
-        delete d->summary;
-        d->summary = nullptr;
+        summary->setMinimumWidth(DialogUnitsX(&manager, SUMMARY_WIDTH));
+        listRow->addWidget(summary, 3);
+        summary->show();
+    } else if (!single && summary) {
+        browser->SetSingleView(false);
+        delete summary;
+        summary = nullptr;
     }
 }

@@ -9,7 +9,19 @@
 #include "docmgr/tools/intl.h"
 #include "docmgr/tools/tokens.h"
 
-DocRowList::DocRowList(DocSource& source) : source_(source) {}
+namespace {
+// Stands in when nobody listens: its reports do nothing.
+CollectObserver& NoObserver()
+{
+    static CollectObserver none;
+    return none;
+}
+}  // namespace
+
+DocRowList::DocRowList(DocSource& source, CollectObserver* observer)
+    : source_(source), observer_(observer ? *observer : NoObserver())
+{
+}
 
 DocRowList::~DocRowList() = default;
 

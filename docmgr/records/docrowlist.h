@@ -21,7 +21,8 @@ public:
     // reads that directory without writing its index.
     static constexpr int INDEX_LOCK_WAIT_MS = 200;
 
-    explicit DocRowList(DocSource& source);
+    // `observer`, when given, hears the collection's progress and unreadable directories.
+    explicit DocRowList(DocSource& source, CollectObserver* observer = nullptr);
     ~DocRowList();
 
     void SetConfig(const ImplDocConfig* config) { config_ = config; }
@@ -76,6 +77,7 @@ private:
     const std::string* WalkTo(long row);
 
     DocSource& source_;
+    CollectObserver& observer_;
     const ImplDocConfig* config_ = nullptr;
     std::string dirFileName_ = ".docindex";
     std::vector<std::unique_ptr<DocInfo>> rows_;

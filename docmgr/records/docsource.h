@@ -1,6 +1,6 @@
 #pragma once
 // What the row list needs from its owner: document information for a file, and which
-// rows are selected.
+// rows are selected; and whom it tells how a collection goes.
 #include <cstddef>
 #include <memory>
 #include <string>
@@ -17,6 +17,12 @@ public:
     // source may start reading them (on other threads, say). What CreateDocInfo returns
     // must not depend on it.
     virtual void ReadAhead(const std::vector<std::string>& /*paths*/) {}
+};
+
+// Hears how a collection goes: the list's progress display, a listing's warnings.
+class CollectObserver {
+public:
+    virtual ~CollectObserver() = default;
     // Called now and then while a collection runs (directories and documents so far).
     virtual void CollectProgress(size_t /*dirs*/, size_t /*docs*/) {}
     // Called for a directory that could not be listed (`error` is an errno value); it

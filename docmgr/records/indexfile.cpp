@@ -66,7 +66,7 @@ std::unique_ptr<DocInfo> DocRowList::Probe(const DirPass& pass, size_t file)
     std::unique_ptr<DocInfo> info = source_.CreateDocInfo(path);
     // Reading documents is the slow part: a large directory reports as it goes.
     if (++probed_ % 256 == 0)
-        source_.CollectProgress(dirsRead_, rows_.size() + pass.working.size());
+        observer_.CollectProgress(dirsRead_, rows_.size() + pass.working.size());
     if (info) {
         info->size = FileSize32(item.size);
     } else {
@@ -276,7 +276,7 @@ void DocRowList::ReadDir(const std::string& dir, bool withSubdirs, DirVisit& vis
     const std::string absDir = fsutil::Absolute(dir);
     fsutil::CurrentDirGuard cwd(absDir);
     ReadOneDir(absDir);
-    source_.CollectProgress(++dirsRead_, rows_.size());
+    observer_.CollectProgress(++dirsRead_, rows_.size());
     if (withSubdirs)
         ReadSubdirs(absDir, visit);
 }
@@ -296,7 +296,7 @@ void DocRowList::ReadOneDir(const std::string& absDir)
     pass.files = fsutil::List(pass.dir, pattern, fsutil::Kind::Files, &listed);
     pass.dirEntries = listed.entries;
     if (listed.error != 0)
-        source_.DirectoryUnreadable(pass.dir, listed.error);
+        observer_.DirectoryUnreadable(pass.dir, listed.error);
     pass.indexName = dirFileName_;
     pass.indexPath = fsutil::Join(pass.dir, dirFileName_);
     pass.consumed.assign(pass.files.size(), false);

@@ -72,16 +72,6 @@ void KxFileStream::Seek(uint64_t position)
     position_ = position;
 }
 
-void KxFileStream::SeekRel(int64_t delta)
-{
-    position_ = delta < 0 && uint64_t(-delta) > position_ ? 0 : uint64_t(int64_t(position_) + delta);
-}
-
-void KxFileStream::SeekToEnd()
-{
-    position_ = Size();
-}
-
 uint64_t KxFileStream::Size() const
 {
     struct stat st {};

@@ -23,8 +23,6 @@ public:
     size_t Write(const void* buffer, size_t n);
 
     void Seek(uint64_t position);
-    void SeekRel(int64_t delta);
-    void SeekToEnd();
     uint64_t Tell() const { return position_; }
     uint64_t Size() const;
     // Size and modification time of the open file (not of whatever its name holds now).

@@ -21,18 +21,8 @@ constexpr uint16_t DEFAULT_WIDTH = 0xFFFF;
 }  // namespace
 
 DocBrowser::Impl::Impl(DocBrowser* b, DocListHost& h)
-    : browser(b), host(h), list(*this), progress(b->parentWidget())
+    : browser(b), host(h), list(h, this), progress(b->parentWidget())
 {
-}
-
-std::unique_ptr<DocInfo> DocBrowser::Impl::CreateDocInfo(const std::string& path)
-{
-    return host.CreateDocInfo(path);
-}
-
-void DocBrowser::Impl::ReadAhead(const std::vector<std::string>& paths)
-{
-    host.ReadAhead(paths);
 }
 
 void DocBrowser::Impl::CollectProgress(size_t dirs, size_t docs)
@@ -219,16 +209,6 @@ void DocBrowser::InsertColumns()
     d->settingColumns = false;
     setUpdatesEnabled(updates);
     viewport()->update();
-}
-
-void DocBrowser::ReadWriteDocInfos(const std::string& dir, bool withSubdirs)
-{
-    d->list.ReadWriteDocInfos(dir, withSubdirs);
-}
-
-bool DocBrowser::WriteDirFileEntry(KxFileStream& stream, const DocInfo* info)
-{
-    return DocRowList::WriteDirFileEntry(stream, info);
 }
 
 void DocBrowser::RowRemoved(const std::string& path)

@@ -14,7 +14,6 @@ class ImplDocConfig;
 class DocListModel;
 class FrozenColumnsView;
 class CollectProgress;
-class KxFileStream;
 
 class DocBrowser : public QTableView {
     Q_OBJECT
@@ -33,12 +32,11 @@ public:
     // the selected rows stay selected.
     void InsertColumns();
 
-    // Index and collection, kept by the row list.
-    void ReadWriteDocInfos(const std::string& dir, bool withSubdirs);
-    static bool WriteDirFileEntry(KxFileStream& stream, const DocInfo* info);
     // Drops the rows of the deleted file `path`.
     void RowRemoved(const std::string& path);
-    // Reads the collect paths afresh and shows the result; reports the count line.
+    // Reads the collect paths afresh through the row list (DocRowList::CollectFiles, which
+    // reads each directory with ReadWriteDocInfos) and shows the result; reports the count
+    // line.
     void CollectFiles(bool onlyIfNeeded);
     void SortFiles(bool repaint);
     // Paths of the selected rows in ascending row order; null after the last.

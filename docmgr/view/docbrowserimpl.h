@@ -1,6 +1,7 @@
 #pragma once
-// Inside of DocBrowser, shared by its files: the row list with its source of document
-// information (the dialog's host) and its view of the selection (the selection model).
+// Inside of DocBrowser, shared by its files: the row list, which reads the dialog's host
+// for document information, reports its progress here and sees the selection through the
+// selection model.
 #include <utility>
 #include <vector>
 
@@ -11,12 +12,10 @@
 
 class DocCellDelegate;
 
-struct DocBrowser::Impl final : DocSource, DocSelection {
+struct DocBrowser::Impl final : CollectObserver, DocSelection {
     Impl(DocBrowser* browser, DocListHost& host);
 
-    // DocSource: the dialog's host supplies the information.
-    std::unique_ptr<DocInfo> CreateDocInfo(const std::string& path) override;
-    void ReadAhead(const std::vector<std::string>& paths) override;
+    // CollectObserver: a long collection shows how far it has got.
     void CollectProgress(size_t dirs, size_t docs) override;
     // DocSelection: the view's selected rows, ascending.
     long FirstSelected() const override;

@@ -67,11 +67,6 @@ int DocListModel::ColumnOf(uint16_t id) const
     return it == ids_.end() ? -1 : int(it - ids_.begin());
 }
 
-const DocInfo* DocListModel::RowInfo(int row) const
-{
-    return row >= 0 && size_t(row) < rows_.size() ? rows_[size_t(row)] : nullptr;
-}
-
 void DocListModel::HideRows()
 {
     if (rows_.empty())

@@ -26,8 +26,6 @@ public:
     void SetColumns(std::vector<uint16_t> ids, std::vector<QString> titles);
     uint16_t ColumnId(int column) const;
     int ColumnOf(uint16_t id) const;
-    // The DocInfo shown in `row`, or null.
-    const DocInfo* RowInfo(int row) const;
 
     // No rows until ShowRows: the list is about to be rebuilt.
     void HideRows();

@@ -64,7 +64,7 @@ std::string MissingDirectories(const std::string& pathList)
 }
 
 // Folders that exist but cannot be read would otherwise list as empty without a word.
-class ListingSource : public ReaderDocSource {
+class ListingSource : public ReaderDocSource, public CollectObserver {
 public:
     void DirectoryUnreadable(const std::string& dir, int error) override
     {
@@ -92,7 +92,7 @@ HeadlessResult List(const CommandLine& cmd, ImplDocConfig& settings, std::string
     err += MissingDirectories(pathList);
 
     ListingSource source;
-    DocRowList rows(source);
+    DocRowList rows(source, &source);
     rows.SetConfig(&settings);
     rows.SetDirFileName(cmd.indexName.empty() ? ResString(STR_INDEX_NAME) : cmd.indexName);
     rows.CollectFiles(pathList);

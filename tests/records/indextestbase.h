@@ -65,5 +65,5 @@ protected:
     TempDir dir;
     TestSource source;
     ImplDocConfig config{nullptr, "*"};
-    DocRowList rows{source};
+    DocRowList rows{source, &source};
 };

@@ -15,24 +15,33 @@ class TestHost : public DocManager {
 public:
     using DocManager::DocManager;
 
-    // The dialog's steps and handlers, for tests that drive it without a modal loop.
-    using DocManager::Init, DocManager::QuerySave;
-    using DocManager::GroupsHdl, DocManager::PathsHdl, DocManager::FilterHdl, DocManager::SortHdl;
-    using DocManager::ColumnsHdl, DocManager::CollectFiles, DocManager::Command;
+    // The dialog's inside, through its private header.
+    DocManagerImpl& Inside() { return DocManagerImpl::Of(*this); }
+    const DocManagerImpl& Inside() const { return DocManagerImpl::Of(*this); }
 
-    // What the dialog holds, read through its inside.
-    DocBrowser* GetBrowser() const { return d->browser; }
-    ImplDocConfig* GetSettings() const { return d->settings.get(); }
-    DocSummaryWindow* GetSummaryWindow() const { return d->summary; }
-    const std::string& GetPathLine() const { return d->pathLineText; }
-    bool IsChanged() const { return d->changed; }
-    QString GetSelectedGroupName() const { return d->SelectedGroupName(); }
-    DocListHost& ListHost() const { return *d; }
+    // The dialog's steps and handlers, for tests that drive it without a modal loop.
+    void Init() { Inside().Init(); }
+    void QuerySave() { Inside().QuerySave(); }
+    void CollectFiles() { Inside().CollectFiles(); }
+    void Command(unsigned short id) { Inside().Command(id); }
+    void GroupsHdl() { Inside().GroupsHdl(); }
+    void PathsHdl() { Inside().PathsHdl(); }
+    void FilterHdl() { Inside().FilterHdl(); }
+    void SortHdl() { Inside().SortHdl(); }
+    void ColumnsHdl() { Inside().ColumnsHdl(); }
+
+    // What the dialog holds.
+    DocBrowser* GetBrowser() const { return Inside().browser; }
+    ImplDocConfig* GetSettings() const { return Inside().settings.get(); }
+    DocSummaryWindow* GetSummaryWindow() const { return Inside().summary; }
+    const std::string& GetPathLine() const { return Inside().pathLineText; }
+    bool IsChanged() const { return Inside().changed; }
+    QString GetSelectedGroupName() const { return Inside().SelectedGroupName(); }
     // Paths of the selected rows in list order.
     std::vector<std::string> SelectedDocs() const
     {
         std::vector<std::string> docs;
-        for (const std::string* doc = d->browser->GetFirstDoc(); doc; doc = d->browser->GetNextDoc())
+        for (const std::string* doc = GetBrowser()->GetFirstDoc(); doc; doc = GetBrowser()->GetNextDoc())
             docs.push_back(*doc);
         return docs;
     }

@@ -9,8 +9,9 @@
 
 #include "docmgr/records/docsource.h"
 
-// Answers CreateDocInfo with known information per file name and counts the calls.
-class TestSource : public DocSource {
+// Answers CreateDocInfo with known information per file name and counts the calls, and
+// those of the collection's progress.
+class TestSource : public DocSource, public CollectObserver {
 public:
     // What a file gets when `known` has nothing for it: title = its name, author
     // "Tester", created 2020-01-02 10:00:00, modified and printed stamps equal to it.
