@@ -35,7 +35,7 @@ enum DocMgrMenu : uint16_t {
 // Query boxes.
 enum DocMgrQuery : uint16_t {
     QUERY_DELETE = 15700,      // several documents, %1 their count
-    QUERY_SAVE = 15701,        // changed settings, when there is no group to name
+    QUERY_SAVE = 15701,        // the save question; shown composed of STR_SAVE_QUESTION..
     QUERY_DELETE_ONE = 15702,  // one document, %1 its file name
 };
 

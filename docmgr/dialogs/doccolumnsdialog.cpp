@@ -18,7 +18,6 @@
 #include "docmgr/records/docfields.h"
 
 namespace {
-constexpr uint16_t kDialog = 15704;
 constexpr int kLastPos = 20;  // 20 columns and the separator
 }  // namespace
 
@@ -33,25 +32,25 @@ DocColumnsDialog::DocColumnsDialog(QWidget* parent, ImplDocConfig* config, unsig
 {
     ScopedWaitCursor wait;
     setObjectName(QStringLiteral("columnsDialog"));
-    setWindowTitle(DialogText(kDialog, 0));
+    setWindowTitle(DialogText(DLG_COLUMNS));
 
     columnList_ = new QListWidget(this);
     columnList_->setObjectName(QStringLiteral("columnList"));
-    frame_ = new QGroupBox(DialogText(kDialog, 81), this);
+    frame_ = new QGroupBox(DialogText(DLG_COLUMNS, COLUMNS_FRAME), this);
     frame_->setObjectName(QStringLiteral("frame"));
-    std::tie(okButton_, cancelButton_) = MakeOkCancel(this, kDialog);
+    std::tie(okButton_, cancelButton_) = MakeOkCancel(this, DLG_COLUMNS);
     upButton_ = new QToolButton(this);
     upButton_->setObjectName(QStringLiteral("upButton"));
     upButton_->setArrowType(Qt::UpArrow);
     downButton_ = new QToolButton(this);
     downButton_->setObjectName(QStringLiteral("downButton"));
     downButton_->setArrowType(Qt::DownArrow);
-    for (auto [button, local] : {std::pair{upButton_, 30}, std::pair{downButton_, 31}}) {
-        button->setToolTip(DialogText(kDialog, local));
-        button->setAccessibleName(DialogText(kDialog, local));
+    for (auto [button, local] : {std::pair{upButton_, COLUMNS_UP}, std::pair{downButton_, COLUMNS_DOWN}}) {
+        button->setToolTip(DialogText(DLG_COLUMNS, local));
+        button->setAccessibleName(DialogText(DLG_COLUMNS, local));
         button->setIconSize(QSize(20, 20));
     }
-    auto* hint = new QLabel(DialogText(kDialog, 82), this);
+    auto* hint = new QLabel(DialogText(DLG_COLUMNS, COLUMNS_FROZEN_HINT), this);
     hint->setObjectName(QStringLiteral("hintLabel"));
     hint->setWordWrap(true);
 

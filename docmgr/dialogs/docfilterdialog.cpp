@@ -21,12 +21,6 @@
 #include "docmgr/ui/waitcursor.h"
 
 namespace {
-constexpr uint16_t DLG_FILTER = 15702;
-enum : uint16_t {
-    TXT_TITLE = 1, TXT_TOPIC, TXT_AUTHOR, TXT_KEYWORDS, TXT_FILES, TXT_SENSITIVE, TXT_TEXT_FRAME,
-    TXT_CONDITION_FRAME, TXT_NO_CONDITION, TXT_CONDITION0 = 20, TXT_LINK0 = 30, TXT_OK = 40,
-    TXT_CANCEL, TXT_WILDCARD_HINT
-};
 constexpr int CONDITION_COUNT = 7;  // codes 0..6
 constexpr int CONDITION_PATTERN = 6;
 constexpr int LINK_COUNT = 3;       // end, and, or (any other stored code means or)
@@ -121,7 +115,7 @@ DocFilterDialog::DocFilterDialog(QWidget* parent, ImplDocConfig* config, unsigne
     const DocMgrResId res(DLG_FILTER);
     auto text = [&res](uint16_t local) { return res.DialogText(local); };
     setObjectName("filterDialog");
-    setWindowTitle(text(0));
+    setWindowTitle(text(CTL_TITLE));
 
     auto makeEdit = [this](const char* name) {
         auto* edit = new QLineEdit(this);
@@ -133,23 +127,23 @@ DocFilterDialog::DocFilterDialog(QWidget* parent, ImplDocConfig* config, unsigne
     d->authorEdit = makeEdit("authorEdit");
     d->keywordsEdit = makeEdit("keywordsEdit");
     d->filesEdit = makeEdit("filesEdit");
-    d->sensitiveBox = new QCheckBox(text(TXT_SENSITIVE), this);
+    d->sensitiveBox = new QCheckBox(text(FILTER_SENSITIVE), this);
     d->sensitiveBox->setObjectName("sensitiveBox");
 
-    auto* textFrame = new QGroupBox(text(TXT_TEXT_FRAME), this);
+    auto* textFrame = new QGroupBox(text(FILTER_TEXT_FRAME), this);
     textFrame->setObjectName("textFrame");
     auto* textForm = new QFormLayout(textFrame);
-    textForm->addRow(text(TXT_TITLE), d->titleEdit);
-    textForm->addRow(text(TXT_TOPIC), d->topicEdit);
-    textForm->addRow(text(TXT_AUTHOR), d->authorEdit);
-    textForm->addRow(text(TXT_KEYWORDS), d->keywordsEdit);
-    textForm->addRow(text(TXT_FILES), d->filesEdit);
+    textForm->addRow(text(FILTER_TITLE_LABEL), d->titleEdit);
+    textForm->addRow(text(FILTER_TOPIC_LABEL), d->topicEdit);
+    textForm->addRow(text(FILTER_AUTHOR_LABEL), d->authorEdit);
+    textForm->addRow(text(FILTER_KEYWORDS_LABEL), d->keywordsEdit);
+    textForm->addRow(text(FILTER_FILES_LABEL), d->filesEdit);
     textForm->addRow(QString(), d->sensitiveBox);
-    auto* hint = new QLabel(text(TXT_WILDCARD_HINT), textFrame);
+    auto* hint = new QLabel(text(FILTER_WILDCARD_HINT), textFrame);
     hint->setObjectName("wildcardHint");
     textForm->addRow(QString(), hint);
 
-    auto* conditionFrame = new QGroupBox(text(TXT_CONDITION_FRAME), this);
+    auto* conditionFrame = new QGroupBox(text(FILTER_CONDITION_FRAME), this);
     conditionFrame->setObjectName("conditionFrame");
     auto* grid = new QGridLayout(conditionFrame);
     for (int r = 0; r < int(FILTER_ROWS); ++r) {
@@ -158,13 +152,13 @@ DocFilterDialog::DocFilterDialog(QWidget* parent, ImplDocConfig* config, unsigne
         row.field = new QComboBox(conditionFrame);
         row.field->setObjectName("fieldList" + n);
         if (r == 0)
-            row.field->addItem(text(TXT_NO_CONDITION));
+            row.field->addItem(text(FILTER_NO_CONDITION));
         for (uint16_t id = COL_NAME; id <= COL_DIRECTORY; ++id)
             row.field->addItem(QString::fromStdString(GetColumnTitle(id, *d->group)));
         row.condition = new QComboBox(conditionFrame);
         row.condition->setObjectName("conditionList" + n);
         for (int c = 0; c < CONDITION_COUNT; ++c)
-            row.condition->addItem(text(uint16_t(TXT_CONDITION0 + c)));
+            row.condition->addItem(text(uint16_t(FILTER_EQUAL + c)));
         row.entries = new QStackedWidget(conditionFrame);
         row.entries->setObjectName("entryStack" + n);
         row.entries->setMinimumWidth(fontMetrics().averageCharWidth() * 24);
@@ -190,7 +184,7 @@ DocFilterDialog::DocFilterDialog(QWidget* parent, ImplDocConfig* config, unsigne
             link = new QComboBox(conditionFrame);
             link->setObjectName("linkList" + n);
             for (int l = 0; l < LINK_COUNT; ++l)
-                link->addItem(text(uint16_t(TXT_LINK0 + l)));
+                link->addItem(text(uint16_t(FILTER_LINK_END + l)));
             grid->addWidget(link, 2 * r + 1, 0);
             connect(link, &QComboBox::currentIndexChanged, this, &DocFilterDialog::LinkHdl);
         }
@@ -198,10 +192,10 @@ DocFilterDialog::DocFilterDialog(QWidget* parent, ImplDocConfig* config, unsigne
     grid->setColumnStretch(2, 1);
 
     auto* buttons = new QDialogButtonBox(this);
-    QPushButton* ok = buttons->addButton(text(TXT_OK), QDialogButtonBox::AcceptRole);
+    QPushButton* ok = buttons->addButton(text(FILTER_OK), QDialogButtonBox::AcceptRole);
     ok->setObjectName("okButton");
     ok->setDefault(true);
-    QPushButton* cancel = buttons->addButton(text(TXT_CANCEL), QDialogButtonBox::RejectRole);
+    QPushButton* cancel = buttons->addButton(text(FILTER_CANCEL), QDialogButtonBox::RejectRole);
     cancel->setObjectName("cancelButton");
     connect(ok, &QPushButton::clicked, this, &DocFilterDialog::OKHdl);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);

@@ -24,11 +24,6 @@
 #include "docmgr/dialogs/groupnames.h"
 
 namespace {
-constexpr uint16_t kDialog = 15705;
-constexpr uint16_t kProtectedName = 15717;  // the first group: never renamed, moved or deleted
-constexpr uint16_t kNewSection = 15716;
-constexpr uint16_t kNewNameStem = 15719;
-
 QString Q(const std::string& text) { return QString::fromStdString(text); }
 using groupnames::WithoutBlanks;
 
@@ -44,25 +39,24 @@ DocGroupsDialog::DocGroupsDialog(QWidget* parent, ImplDocConfig* config, const Q
     : QDialog(parent), config_(config), mainGroupName_(mainGroupName)
 {
     setObjectName(QStringLiteral("groupsDialog"));
-    setWindowTitle(DialogText(kDialog, 0));
+    setWindowTitle(DialogText(DLG_GROUPS));
 
     groupList_ = Named(new QListWidget(this), "groupList");
-    frame_ = Named(new QGroupBox(DialogText(kDialog, 13), this), "frame");
-    nameLabel_ = Named(new QLabel(DialogText(kDialog, 14), this), "nameLabel");
+    frame_ = Named(new QGroupBox(DialogText(DLG_GROUPS, GROUPS_FRAME), this), "frame");
+    nameLabel_ = Named(new QLabel(DialogText(DLG_GROUPS, GROUPS_NAME_LABEL), this), "nameLabel");
     nameEdit_ = Named(new QLineEdit(this), "nameEdit");
     nameLabel_->setBuddy(nameEdit_);
-    sectionLabel_ = Named(new QLabel(DialogText(kDialog, 10), this), "sectionLabel");
+    sectionLabel_ = Named(new QLabel(DialogText(DLG_GROUPS, GROUPS_SECTION_LABEL), this), "sectionLabel");
     sectionBox_ = Named(new QComboBox(this), "sectionBox");
     sectionBox_->setEditable(true);
     sectionBox_->setInsertPolicy(QComboBox::NoInsert);
     sectionLabel_->setBuddy(sectionBox_);
-    editFrame_ = Named(new QGroupBox(DialogText(kDialog, 16), this), "editFrame");
-    okButton_ = Named(new QPushButton(DialogText(kDialog, 18), this), "okButton");
+    editFrame_ = Named(new QGroupBox(DialogText(DLG_GROUPS, GROUPS_EDIT_FRAME), this), "editFrame");
+    okButton_ = Named(new QPushButton(DialogText(DLG_GROUPS, CTL_OK), this), "okButton");
     okButton_->setDefault(true);
-    // The cancel button shares number 11 with the section field, which has no text.
-    cancelButton_ = Named(new QPushButton(DialogText(kDialog, 11), this), "cancelButton");
+    cancelButton_ = Named(new QPushButton(DialogText(DLG_GROUPS, GROUPS_CANCEL), this), "cancelButton");
     settingsButton_ = Named(new QToolButton(this), "settingsButton");
-    settingsButton_->setText(DialogText(kDialog, 22));
+    settingsButton_->setText(DialogText(DLG_GROUPS, GROUPS_SETTINGS));
     settingsButton_->setPopupMode(QToolButton::InstantPopup);
     settingsButton_->setToolButtonStyle(Qt::ToolButtonTextOnly);
     settingsButton_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
@@ -70,7 +64,7 @@ DocGroupsDialog::DocGroupsDialog(QWidget* parent, ImplDocConfig* config, const Q
     for (unsigned short item : {ITEM_PATHS, ITEM_FILTER, ITEM_SORT, ITEM_COLUMNS, ITEM_STORE}) {
         if (item == ITEM_STORE)
             settingsMenu_->addSeparator();
-        QAction* action = settingsMenu_->addAction(MenuText(kDialog, item));
+        QAction* action = settingsMenu_->addAction(MenuText(MENU_GROUP_SETTINGS, item));
         action->setData(item);
     }
     settingsButton_->setMenu(settingsMenu_);
@@ -78,9 +72,9 @@ DocGroupsDialog::DocGroupsDialog(QWidget* parent, ImplDocConfig* config, const Q
     settingsButton_->setMinimumWidth(settingsButton_->sizeHint().width() + 12);
     moreButton_ = Named(new QPushButton(this), "moreButton");
     moreButton_->setCheckable(true);
-    newButton_ = Named(new QPushButton(DialogText(kDialog, 20), this), "newButton");
-    changeButton_ = Named(new QPushButton(DialogText(kDialog, 24), this), "changeButton");
-    deleteButton_ = Named(new QPushButton(DialogText(kDialog, 21), this), "deleteButton");
+    newButton_ = Named(new QPushButton(DialogText(DLG_GROUPS, GROUPS_NEW), this), "newButton");
+    changeButton_ = Named(new QPushButton(DialogText(DLG_GROUPS, GROUPS_CHANGE), this), "changeButton");
+    deleteButton_ = Named(new QPushButton(DialogText(DLG_GROUPS, GROUPS_DELETE), this), "deleteButton");
     for (QPushButton* button : {cancelButton_, moreButton_, newButton_, changeButton_, deleteButton_})
         button->setAutoDefault(false);  // Enter stays with OK
 
@@ -204,7 +198,7 @@ unsigned short DocGroupsDialog::SelectedPos() const
 
 bool DocGroupsDialog::IsProtected(const QString& name) const
 {
-    return name == DocResString(kProtectedName);
+    return name == DocResString(STR_FIRST_GROUP);
 }
 
 QString DocGroupsDialog::MainGroupName() const { return mainGroupName_; }
@@ -303,7 +297,7 @@ void DocGroupsDialog::ChangeHdl()
 
 void DocGroupsDialog::NewHdl()
 {
-    const QString name = groupnames::NewName(DocResString(kNewNameStem),
+    const QString name = groupnames::NewName(DocResString(STR_NEW_GROUP_STEM),
                                              [this](const QString& taken) { return ListHolds(taken); });
     groupList_->addItem(name);
     const unsigned short pos = static_cast<unsigned short>(groupList_->count() - 1);
@@ -312,7 +306,7 @@ void DocGroupsDialog::NewHdl()
     config_->InsertGroup(pos);
     DocGroupConfig& group = config_->Group(pos);
     group.groupName = name.toStdString();
-    group.section = ResString(kNewSection);
+    group.section = ResString(STR_DEFAULT_SECTION);
     AddSection(Q(group.section));
     SelectHdl();
 }
@@ -385,7 +379,8 @@ void DocGroupsDialog::reject() { CancelHdl(); }
 
 void DocGroupsDialog::MoreHdl(bool expanded)
 {
-    moreButton_->setText(DialogText(kDialog, 23) + (expanded ? QStringLiteral(" <<") : QStringLiteral(" >>")));
+    moreButton_->setText(DialogText(DLG_GROUPS, GROUPS_MORE) +
+                         (expanded ? QStringLiteral(" <<") : QStringLiteral(" >>")));
     for (QWidget* widget : attached_)
         widget->setVisible(expanded);
     if (!expanded && layout()) {

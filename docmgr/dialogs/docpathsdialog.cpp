@@ -18,8 +18,6 @@
 #include "docmgr/ui/waitcursor.h"
 
 namespace {
-constexpr uint16_t kDialog = 15701;
-constexpr uint16_t kIncludeBoxText = 226;  // check box 26; the remove button has 26 too
 
 QString Q(const std::string& text) { return QString::fromStdString(text); }
 }  // namespace
@@ -28,28 +26,28 @@ DocPathsDialog::DocPathsDialog(QWidget* parent, ImplDocConfig* config, unsigned 
     : QDialog(parent), config_(config), group_(group)
 {
     setObjectName(QStringLiteral("pathsDialog"));
-    setWindowTitle(DialogText(kDialog, 0));
+    setWindowTitle(DialogText(DLG_PATHS));
 
-    listCaption_ = new QLabel(DialogText(kDialog, 20), this);
+    listCaption_ = new QLabel(DialogText(DLG_PATHS, PATHS_CHOSEN_LABEL), this);
     listCaption_->setObjectName(QStringLiteral("listCaption"));
     pathList_ = new QListWidget(this);
     pathList_->setObjectName(QStringLiteral("pathList"));
     listCaption_->setBuddy(pathList_);
-    addButton_ = new QPushButton(DialogText(kDialog, 32), this);
+    addButton_ = new QPushButton(DialogText(DLG_PATHS, PATHS_ADD), this);
     addButton_->setObjectName(QStringLiteral("addButton"));
-    removeButton_ = new QPushButton(DialogText(kDialog, 26), this);
+    removeButton_ = new QPushButton(DialogText(DLG_PATHS, PATHS_REMOVE), this);
     removeButton_->setObjectName(QStringLiteral("removeButton"));
-    removeAllButton_ = new QPushButton(DialogText(kDialog, 33), this);
+    removeAllButton_ = new QPushButton(DialogText(DLG_PATHS, PATHS_REMOVE_ALL), this);
     removeAllButton_->setObjectName(QStringLiteral("removeAllButton"));
-    treeCaption_ = new QLabel(DialogText(kDialog, 22), this);
+    treeCaption_ = new QLabel(DialogText(DLG_PATHS, PATHS_TREE_LABEL), this);
     treeCaption_->setObjectName(QStringLiteral("treeCaption"));
     dirTree_ = new DocDirBox(this, config_);
     treeCaption_->setBuddy(dirTree_);
-    includeBox_ = new QCheckBox(DialogText(kDialog, kIncludeBoxText), this);
+    includeBox_ = new QCheckBox(DialogText(DLG_PATHS, PATHS_INCLUDE_TEXT), this);
     includeBox_->setObjectName(QStringLiteral("includeBox"));
-    frame_ = new QGroupBox(DialogText(kDialog, 27), this);
+    frame_ = new QGroupBox(DialogText(DLG_PATHS, PATHS_FRAME), this);
     frame_->setObjectName(QStringLiteral("frame"));
-    std::tie(okButton_, cancelButton_) = MakeOkCancel(this, kDialog);
+    std::tie(okButton_, cancelButton_) = MakeOkCancel(this, DLG_PATHS);
     for (QPushButton* button : {addButton_, removeButton_, removeAllButton_})
         button->setAutoDefault(false);  // Enter stays with OK
 

@@ -14,7 +14,6 @@
 #include "docmgr/records/docfields.h"
 
 namespace {
-constexpr uint16_t kDialog = 15703;
 constexpr int kEntries = 20;
 bool rememberedAscending = true;
 }  // namespace
@@ -27,20 +26,20 @@ DocSortDialog::DocSortDialog(QWidget* parent, ImplDocConfig* config, unsigned sh
 {
     ScopedWaitCursor wait;
     setObjectName(QStringLiteral("sortDialog"));
-    setWindowTitle(DialogText(kDialog, 0));
+    setWindowTitle(DialogText(DLG_SORT));
 
-    auto* caption = new QLabel(DialogText(kDialog, 72), this);
+    auto* caption = new QLabel(DialogText(DLG_SORT, SORT_BY_LABEL), this);
     caption->setObjectName(QStringLiteral("columnCaption"));
     columnList_ = new QListWidget(this);
     columnList_->setObjectName(QStringLiteral("columnList"));
     caption->setBuddy(columnList_);
-    directionFrame_ = new QGroupBox(DialogText(kDialog, 71), this);
+    directionFrame_ = new QGroupBox(DialogText(DLG_SORT, SORT_ORDER_FRAME), this);
     directionFrame_->setObjectName(QStringLiteral("directionFrame"));
-    ascendingButton_ = new QRadioButton(DialogText(kDialog, 28), directionFrame_);
+    ascendingButton_ = new QRadioButton(DialogText(DLG_SORT, SORT_ASCENDING), directionFrame_);
     ascendingButton_->setObjectName(QStringLiteral("ascendingButton"));
-    descendingButton_ = new QRadioButton(DialogText(kDialog, 29), directionFrame_);
+    descendingButton_ = new QRadioButton(DialogText(DLG_SORT, SORT_DESCENDING), directionFrame_);
     descendingButton_->setObjectName(QStringLiteral("descendingButton"));
-    std::tie(okButton_, cancelButton_) = MakeOkCancel(this, kDialog);
+    std::tie(okButton_, cancelButton_) = MakeOkCancel(this, DLG_SORT);
 
     auto* frameLayout = new QVBoxLayout(directionFrame_);
     frameLayout->addWidget(ascendingButton_);

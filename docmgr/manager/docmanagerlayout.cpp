@@ -14,14 +14,6 @@
 #include "docmgr/view/docsummarywindow.h"
 
 namespace {
-constexpr uint16_t DLG_MANAGER = 15700;
-// Local ids of the controls in the dialog resource.
-enum : uint16_t {
-    ID_OPEN = 10, ID_CLOSE = 11, ID_GROUPS = 13, ID_PATHS = 14, ID_FILTER = 15, ID_SORT = 16,
-    ID_COLUMNS = 17, ID_PATHLINE = 20, ID_COMMANDS = 34, ID_SECTION_LABEL = 90,
-    ID_SECTION_LIST = 91, ID_GROUP_LABEL = 92, ID_GROUP_LIST = 93, ID_READONLY = 94,
-    ID_SINGLEVIEW = 95
-};
 // Width of the summary pane in dialog units.
 constexpr int SUMMARY_WIDTH = 240;
 // Default size of the dialog in dialog units; the list takes what the controls leave.
@@ -47,11 +39,11 @@ void DocManager::BuildControls()
     auto text = [&res](uint16_t local) { return res.DialogText(local); };
 
     d->sectionLabel = Make<QLabel>(this, "sectionLabel");
-    d->sectionLabel->setText(text(ID_SECTION_LABEL));
+    d->sectionLabel->setText(text(MANAGER_SECTION_LABEL));
     d->sectionList = Make<QListWidget>(this, "sectionList");
     d->sectionLabel->setBuddy(d->sectionList);
     d->groupLabel = Make<QLabel>(this, "groupLabel");
-    d->groupLabel->setText(text(ID_GROUP_LABEL));
+    d->groupLabel->setText(text(MANAGER_GROUP_LABEL));
     d->groupList = Make<QListWidget>(this, "groupList");
     d->groupLabel->setBuddy(d->groupList);
     const int listHeight = QFontMetrics(font()).height() * LIST_ROWS + 8;
@@ -60,19 +52,19 @@ void DocManager::BuildControls()
         list->setFixedHeight(listHeight);
     }
     d->singleViewBox = Make<QCheckBox>(this, "singleViewBox");
-    d->singleViewBox->setText(text(ID_SINGLEVIEW));
+    d->singleViewBox->setText(text(MANAGER_SINGLE_VIEW));
     d->readOnlyBox = Make<QCheckBox>(this, "readOnlyBox");
-    d->readOnlyBox->setText(text(ID_READONLY));
+    d->readOnlyBox->setText(text(MANAGER_READ_ONLY));
 
     d->openButton = Make<QPushButton>(this, "openButton");
-    d->openButton->setText(text(ID_OPEN));
+    d->openButton->setText(text(MANAGER_OPEN));
     d->openButton->setDefault(true);
     d->openButton->setEnabled(false);
     d->closeButton = Make<QPushButton>(this, "closeButton");
-    d->closeButton->setText(text(ID_CLOSE));
+    d->closeButton->setText(text(MANAGER_CLOSE));
     d->closeButton->setAutoDefault(false);
     d->commandsButton = Make<QToolButton>(this, "commandsButton");
-    d->commandsButton->setText(text(ID_COMMANDS));
+    d->commandsButton->setText(text(MANAGER_COMMANDS));
     d->commandMenu = new DocCommandMenu(d->commandsButton);
     d->commandsButton->setMenu(d->commandMenu);
     d->commandsButton->setPopupMode(QToolButton::InstantPopup);
@@ -97,11 +89,11 @@ void DocManager::BuildControls()
         const char* name;
         uint16_t id;
     };
-    const Settings settingsButtons[] = {{d->groupsButton, "groupsButton", ID_GROUPS},
-                                        {d->pathsButton, "pathsButton", ID_PATHS},
-                                        {d->filterButton, "filterButton", ID_FILTER},
-                                        {d->sortButton, "sortButton", ID_SORT},
-                                        {d->columnsButton, "columnsButton", ID_COLUMNS}};
+    const Settings settingsButtons[] = {{d->groupsButton, "groupsButton", MANAGER_GROUPS},
+                                        {d->pathsButton, "pathsButton", MANAGER_PATHS},
+                                        {d->filterButton, "filterButton", MANAGER_FILTER},
+                                        {d->sortButton, "sortButton", MANAGER_SORT},
+                                        {d->columnsButton, "columnsButton", MANAGER_COLUMNS}};
     for (const Settings& s : settingsButtons) {
         s.button = Make<QPushButton>(this, s.name);
         s.button->setText(text(s.id));

@@ -17,11 +17,6 @@
 #include "docmgr/print/docprintingdlg.h"
 #include "docmgr/view/docbrowser.h"
 
-namespace {
-constexpr uint16_t kDialog = 15709;
-constexpr uint16_t kJobName = 15743;
-}  // namespace
-
 struct DocPrintDialog::Impl {
     explicit Impl(DocBrowser& browser)
         : browser(browser), printer(QPrinter::HighResolution), listPrinter(browser, printer)
@@ -29,13 +24,13 @@ struct DocPrintDialog::Impl {
     }
 
     DocBrowser& browser;
-    QLabel* columnLabel = new QLabel(DialogText(kDialog, 114));
+    QLabel* columnLabel = new QLabel(DialogText(DLG_PRINT, PRINT_COLUMNS_LABEL));
     QListWidget* columnList = new QListWidget;
-    QPushButton* okButton = new QPushButton(DialogText(kDialog, 18));
-    QPushButton* cancelButton = new QPushButton(DialogText(kDialog, 19));
-    QPushButton* printerButton = new QPushButton(DialogText(kDialog, 136));
-    QPushButton* fontButton = new QPushButton(DialogText(kDialog, 137));
-    QCheckBox* landscapeBox = new QCheckBox(DialogText(kDialog, 138));
+    QPushButton* okButton = new QPushButton(DialogText(DLG_PRINT, CTL_OK));
+    QPushButton* cancelButton = new QPushButton(DialogText(DLG_PRINT, CTL_CANCEL));
+    QPushButton* printerButton = new QPushButton(DialogText(DLG_PRINT, PRINT_PRINTER));
+    QPushButton* fontButton = new QPushButton(DialogText(DLG_PRINT, PRINT_FONT));
+    QCheckBox* landscapeBox = new QCheckBox(DialogText(DLG_PRINT, PRINT_LANDSCAPE));
     QLabel* fitLabel = new QLabel;
     QPrinter printer;  // the system's default printer
     DocListPrinter listPrinter;
@@ -52,7 +47,7 @@ struct DocPrintDialog::Impl {
 DocPrintDialog::DocPrintDialog(QWidget* parent, DocBrowser& browser)
     : QDialog(parent), d(std::make_unique<Impl>(browser))
 {
-    setWindowTitle(DialogText(kDialog));
+    setWindowTitle(DialogText(DLG_PRINT));
     d->columnLabel->setObjectName(QStringLiteral("columnLabel"));
     d->columnList->setObjectName(QStringLiteral("columnList"));
     d->okButton->setObjectName(QStringLiteral("okButton"));
@@ -143,7 +138,7 @@ void DocPrintDialog::ShowFit()
     // printing, while a narrower font or landscape can still help.
     const int chosen = int(d->columnList->selectedItems().size());
     const int fitting = chosen == 0 ? 0 : FittingColumns();
-    d->fitLabel->setText(DialogText(kDialog, 139).arg(fitting).arg(chosen));
+    d->fitLabel->setText(DialogText(DLG_PRINT, PRINT_FIT_WARNING).arg(fitting).arg(chosen));
     d->fitLabel->setVisible(chosen > 0 && fitting < chosen);
     d->landscapeBox->blockSignals(true);
     d->landscapeBox->setChecked(d->printer.pageLayout().orientation() == QPageLayout::Landscape);
@@ -169,7 +164,7 @@ void DocPrintDialog::FontSettingsHdl()
 
 void DocPrintDialog::OkHdl()
 {
-    if (!StartJob(QString::fromStdString(ResString(kJobName)))) {
+    if (!StartJob(QString::fromStdString(ResString(STR_PRINT_JOB)))) {
         done(0);
         return;
     }

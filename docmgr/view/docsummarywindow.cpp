@@ -10,14 +10,15 @@
 #include "docmgr/tools/fsutil.h"
 #include "docmgr/tools/intl.h"
 #include "docmgr/tools/resmgr.h"
+#include "resources/resids.h"
 
 namespace {
-constexpr uint16_t STR_NAME = 15700, STR_SIZE = 15701, STR_TITLE = 15703, STR_TOPIC = 15704,
-                   STR_CREATED = 15705, STR_MODIFIED = 15708, STR_PRINTED = 15711,
-                   STR_COMMENT = 15714, STR_KEYWORDS = 15715, STR_AT = 15734, STR_BY = 15735;
-constexpr uint16_t kMeasuredLabels[] = {STR_NAME,     STR_SIZE,    STR_TITLE,
-                                        STR_TOPIC,    STR_CREATED, STR_MODIFIED,
-                                        STR_PRINTED,  STR_COMMENT, STR_KEYWORDS};
+// The fixed rows' labels are the titles of the columns they show.
+constexpr uint16_t kMeasuredLabels[] = {STR_COL_NAME,          STR_COL_SIZE,
+                                        STR_COL_TITLE,         STR_COL_TOPIC,
+                                        STR_COL_CREATED_DATE,  STR_COL_MODIFIED_DATE,
+                                        STR_COL_PRINTED_DATE,  STR_COL_COMMENT,
+                                        STR_COL_KEYWORDS};
 
 QString Res(uint16_t id)
 {
@@ -110,21 +111,21 @@ void DocSummaryWindow::paintEvent(QPaintEvent* event)
     auto date = [&](const Date& value) { return text(intl::FormatDate(value)); };
     auto time = [&](const Time& value, const Date& of) { return text(intl::FormatTime(value, of)); };
 
-    draw(Kind::Line, Res(STR_NAME), text(fsutil::Absolute(path)));
-    draw(Kind::Line, Res(STR_SIZE), QString::number(fsutil::FileSize(path)));
-    draw(Kind::Line, Res(STR_TITLE), text(info->title));
-    draw(Kind::Line, Res(STR_TOPIC), text(info->topic));
-    draw(Kind::Date, Res(STR_CREATED), date(info->createdDate));
+    draw(Kind::Line, Res(STR_COL_NAME), text(fsutil::Absolute(path)));
+    draw(Kind::Line, Res(STR_COL_SIZE), QString::number(fsutil::FileSize(path)));
+    draw(Kind::Line, Res(STR_COL_TITLE), text(info->title));
+    draw(Kind::Line, Res(STR_COL_TOPIC), text(info->topic));
+    draw(Kind::Date, Res(STR_COL_CREATED_DATE), date(info->createdDate));
     draw(Kind::Time, Res(STR_AT), time(info->createdTime, info->createdDate));
     draw(Kind::Author, Res(STR_BY), text(info->author));
-    draw(Kind::Date, Res(STR_MODIFIED), date(info->modifiedDate));
+    draw(Kind::Date, Res(STR_COL_MODIFIED_DATE), date(info->modifiedDate));
     draw(Kind::Time, Res(STR_AT), time(info->modifiedTime, info->modifiedDate));
     draw(Kind::Author, Res(STR_BY), text(info->modifiedBy));
-    draw(Kind::Date, Res(STR_PRINTED), printed ? date(info->printedDate) : none);
+    draw(Kind::Date, Res(STR_COL_PRINTED_DATE), printed ? date(info->printedDate) : none);
     draw(Kind::Time, Res(STR_AT), printed ? time(info->printedTime, info->printedDate) : none);
     draw(Kind::Author, Res(STR_BY), printed ? text(info->printedBy) : none);
-    draw(Kind::Line, Res(STR_COMMENT), text(info->comment));
-    draw(Kind::Line, Res(STR_KEYWORDS), text(info->keywords));
+    draw(Kind::Line, Res(STR_COL_COMMENT), text(info->comment));
+    draw(Kind::Line, Res(STR_COL_KEYWORDS), text(info->keywords));
     const ImplDocConfig* settings = browser_.GetSettings();
     for (size_t i = 0; i < info->info.size(); ++i)
         draw(Kind::Line, settings ? text(settings->WorkingGroup().infoLabel[i]) : QString(),
