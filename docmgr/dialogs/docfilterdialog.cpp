@@ -18,20 +18,20 @@
 #include "docmgr/config/impldocconfig.h"
 #include "docmgr/ui/docmgrresid.h"
 #include "docmgr/records/docfields.h"
+#include "docmgr/records/matches.h"
 #include "docmgr/ui/waitcursor.h"
 
 namespace {
-constexpr int CONDITION_COUNT = 7;  // codes 0..6
-constexpr int CONDITION_PATTERN = 6;
-constexpr int LINK_COUNT = 3;       // end, and, or (any other stored code means or)
+// The positions of the condition and link lists are the codes they store.
+constexpr FilterLink kLinks[] = {FilterLink::End, FilterLink::And, FilterLink::Or};
 enum Entry { VALUE_ENTRY = 0, DATE_ENTRY = 1, TIME_ENTRY = 2 };
 
 // Which entry a row's comparison reads: the pattern condition always reads the value
 // text; dates and times read their own fields. Field 20 and above compares the printed
 // time, as the filter matching does.
-Entry EntryFor(uint16_t field, int condition)
+Entry EntryFor(uint16_t field, std::optional<FilterCondition> condition)
 {
-    if (condition == CONDITION_PATTERN)
+    if (condition == FilterCondition::Wildcard)
         return VALUE_ENTRY;
     switch (field) {
     case COL_CREATED_DATE: case COL_MODIFIED_DATE: case COL_PRINTED_DATE:
@@ -157,8 +157,8 @@ DocFilterDialog::DocFilterDialog(QWidget* parent, ImplDocConfig* config, unsigne
             row.field->addItem(QString::fromStdString(GetColumnTitle(id, *d->group)));
         row.condition = new QComboBox(conditionFrame);
         row.condition->setObjectName("conditionList" + n);
-        for (int c = 0; c < CONDITION_COUNT; ++c)
-            row.condition->addItem(text(uint16_t(FILTER_EQUAL + c)));
+        for (int32_t code = 0; code < FILTER_CONDITION_COUNT; ++code)
+            row.condition->addItem(text(uint16_t(FILTER_EQUAL + code)));
         row.entries = new QStackedWidget(conditionFrame);
         row.entries->setObjectName("entryStack" + n);
         row.entries->setMinimumWidth(fontMetrics().averageCharWidth() * 24);
@@ -183,8 +183,8 @@ DocFilterDialog::DocFilterDialog(QWidget* parent, ImplDocConfig* config, unsigne
             QComboBox*& link = d->links[size_t(r)];
             link = new QComboBox(conditionFrame);
             link->setObjectName("linkList" + n);
-            for (int l = 0; l < LINK_COUNT; ++l)
-                link->addItem(text(uint16_t(FILTER_LINK_END + l)));
+            for (FilterLink code : kLinks)
+                link->addItem(text(uint16_t(FILTER_LINK_END + int(code))));
             grid->addWidget(link, 2 * r + 1, 0);
             connect(link, &QComboBox::currentIndexChanged, this, &DocFilterDialog::LinkHdl);
         }
@@ -223,8 +223,8 @@ void DocFilterDialog::Fill()
         Impl::ConditionRow& row = d->rows[r];
         const QSignalBlocker quietField(row.field), quietCondition(row.condition);
         row.field->setCurrentIndex(Impl::PositionOf(int(r), g.filterField[r]));
-        const int32_t condition = g.filterCondition[r];
-        row.condition->setCurrentIndex(condition >= 0 && condition < CONDITION_COUNT ? condition : -1);
+        const std::optional<FilterCondition> condition = ConditionOf(g.filterCondition[r]);
+        row.condition->setCurrentIndex(condition ? int(*condition) : -1);
         row.value->setText(QString::fromStdString(g.filterValue[r]));
         row.date->setDate(ToQDate(g.filterDate[r]));
         row.shownDate = row.date->date();
@@ -234,8 +234,7 @@ void DocFilterDialog::Fill()
     }
     for (size_t l = 0; l < d->links.size(); ++l) {
         const QSignalBlocker quiet(d->links[l]);
-        const int32_t link = g.filterLink[l];
-        d->shownLinks[l] = link == 0 || link == 1 ? link : 2;
+        d->shownLinks[l] = int(LinkOf(g.filterLink[l]));
         d->links[l]->setCurrentIndex(d->shownLinks[l]);
     }
     UpdateRows();
@@ -244,7 +243,7 @@ void DocFilterDialog::Fill()
 void DocFilterDialog::FieldHdl(int r)
 {
     Impl::ConditionRow& row = d->rows[size_t(r)];
-    row.entries->setCurrentIndex(EntryFor(d->ShownField(r), row.condition->currentIndex()));
+    row.entries->setCurrentIndex(EntryFor(d->ShownField(r), ConditionOf(row.condition->currentIndex())));
     UpdateRows();
 }
 
@@ -265,7 +264,7 @@ void DocFilterDialog::UpdateRows()
         row.entries->setEnabled(used);
         if (r < d->links.size()) {
             d->links[r]->setEnabled(used);
-            used = used && d->links[r]->currentIndex() != 0;
+            used = used && d->links[r]->currentIndex() != int(FilterLink::End);
         }
     }
 }
