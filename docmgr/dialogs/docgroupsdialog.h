@@ -44,6 +44,11 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void BuildControls();
+    void BuildSettingsButton();
+    void LayOutControls();
+    void ConnectHandlers();
+    void FillGroups();
     void FillSections();
     // Selects a list entry without running the selection handler.
     void SelectRow(int row);
