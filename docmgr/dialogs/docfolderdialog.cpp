@@ -62,7 +62,8 @@ void DocFolderDialog::OKHdl()
     // A name that climbs out of the base or starts at the root is refused like a folder
     // that cannot be made.
     if (const int error = docfileops::MakeFolder(base_, name))
-        DocInfoBox(this, JoinedMessage(STR_FOLDER_FAILED, base_ + name, STR_FOLDER_FAILED_END), DocErrorText(error));
+        DocInfoBox(this, JoinedMessage(STR_FOLDER_FAILED, base_ + name, STR_FOLDER_FAILED_END),
+                   DocErrorText(error));
     done(1);
 }
 

@@ -86,7 +86,9 @@ void DocRenameDialog::OKHdl()
         // A name with a separator would move the file elsewhere; it is refused like a
         // rename that fails.
         if (const int error = docfileops::RenameTo(d->document, newName.toStdString()))
-            DocInfoBox(this, JoinedMessage(STR_RENAME_FAILED, fsutil::FileName(d->document), STR_RENAME_FAILED_END),
+            DocInfoBox(this,
+                       JoinedMessage(STR_RENAME_FAILED, fsutil::FileName(d->document),
+                                     STR_RENAME_FAILED_END),
                        DocErrorText(error));
         else {
             ++d->renameCount;
