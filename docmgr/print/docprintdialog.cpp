@@ -75,6 +75,26 @@ DocPrintDialog::DocPrintDialog(QWidget* parent, DocBrowser& browser)
     const QFontMetrics metrics = d->columnList->fontMetrics();
     d->columnList->setMinimumSize(metrics.averageCharWidth() * 30, metrics.height() * 14);
 
+    LayOutControls();
+
+    connect(d->columnList, &QListWidget::itemSelectionChanged, this, &DocPrintDialog::SelectHdl);
+    connect(d->okButton, &QPushButton::clicked, this, &DocPrintDialog::OkHdl);
+    connect(d->cancelButton, &QPushButton::clicked, this, &QDialog::reject);
+    connect(d->printerButton, &QPushButton::clicked, this, &DocPrintDialog::PrintSettingsHdl);
+    connect(d->fontButton, &QPushButton::clicked, this, &DocPrintDialog::FontSettingsHdl);
+    connect(d->landscapeBox, &QCheckBox::toggled, this, [this](bool landscape) {
+        d->printer.setPageOrientation(landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+        ShowFit();
+    });
+    SelectHdl();
+}
+
+DocPrintDialog::~DocPrintDialog() = default;
+
+void DocPrintDialog::LayOutControls()
+{
+    // The column list with the fit warning below it; the buttons beside it, OK level
+    // with the list's top.
     auto* listLayout = new QVBoxLayout;
     listLayout->addWidget(d->columnLabel);
     listLayout->addWidget(d->columnList, 1);
@@ -91,20 +111,7 @@ DocPrintDialog::DocPrintDialog(QWidget* parent, DocBrowser& browser)
     auto* layout = new QHBoxLayout(this);
     layout->addLayout(listLayout, 1);
     layout->addLayout(buttons);
-
-    connect(d->columnList, &QListWidget::itemSelectionChanged, this, &DocPrintDialog::SelectHdl);
-    connect(d->okButton, &QPushButton::clicked, this, &DocPrintDialog::OkHdl);
-    connect(d->cancelButton, &QPushButton::clicked, this, &QDialog::reject);
-    connect(d->printerButton, &QPushButton::clicked, this, &DocPrintDialog::PrintSettingsHdl);
-    connect(d->fontButton, &QPushButton::clicked, this, &DocPrintDialog::FontSettingsHdl);
-    connect(d->landscapeBox, &QCheckBox::toggled, this, [this](bool landscape) {
-        d->printer.setPageOrientation(landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
-        ShowFit();
-    });
-    SelectHdl();
 }
-
-DocPrintDialog::~DocPrintDialog() = default;
 
 QPrinter* DocPrintDialog::GetPrinter() const { return &d->printer; }
 QFont DocPrintDialog::GetPrintFont() const { return d->listPrinter.GetFont(); }
