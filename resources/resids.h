@@ -35,7 +35,7 @@ enum DocMgrMenu : uint16_t {
 // Query boxes.
 enum DocMgrQuery : uint16_t {
     QUERY_DELETE = 15700,      // several documents, %1 their count
-    QUERY_SAVE = 15701,        // the save question; shown composed of STR_SAVE_QUESTION..
+    QUERY_SAVE = 15701,        // the save question; the code composes its own with the group name
     QUERY_DELETE_ONE = 15702,  // one document, %1 its file name
 };
 
@@ -187,7 +187,7 @@ enum PrintingControl : uint16_t { PRINTING_MESSAGE = 136 };
 // List export (DLG_EXPORT).
 enum ExportControl : uint16_t { EXPORT_FILE_TYPES = 1 };
 
-// Column titles: the titles of columns 3..15 are STR_COL_TITLE - 3 + id.
+// Column titles. Name, size and folder come first; columns 3..15 follow in column order.
 enum ColumnTitleString : uint16_t {
     STR_COL_NAME = 15700,
     STR_COL_SIZE = 15701,
