@@ -8,11 +8,9 @@
 #include "docmgr/tools/resmgr.h"
 #include "docmgr/tools/textcase.h"
 #include "docmgr/tools/tokens.h"
+#include "resources/resids.h"
 
 namespace {
-constexpr uint16_t STR_FIRST_SECTION = 15716;
-constexpr uint16_t STR_FIRST_GROUP = 15717;
-constexpr uint16_t STR_NEW_CONFIG = 15721;
 
 std::string ReadText(Config* config, const char* key)
 {
@@ -77,7 +75,7 @@ void ImplDocConfig::MakeFirstGroup(const std::string& defaultFilter, const Infor
     auto first = std::make_shared<DocGroupConfig>();
     first->filterFiles = defaultFilter;
     first->groupName = ResString(STR_FIRST_GROUP);
-    first->section = ResString(STR_FIRST_SECTION);
+    first->section = ResString(STR_DEFAULT_SECTION);
     groups_.push_back(std::move(first));
     SaveConfig();
     SetCurGroup(0);

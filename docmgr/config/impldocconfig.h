@@ -21,7 +21,7 @@ constexpr uint16_t WORKING_GROUP = 0xFFFF;  // group number of the settings in f
 
 class ImplDocConfig {
 public:
-    // Called with the text of message 15721 when a configuration without groups was read.
+    // Called with the text of STR_NEW_CONFIG when a configuration without groups was read.
     using Inform = std::function<void(const std::string& message)>;
 
     // Reads `config`; `defaultFilter` becomes the file pattern of the working group and

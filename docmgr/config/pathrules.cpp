@@ -5,10 +5,7 @@
 #include "docmgr/tools/resmgr.h"
 #include "docmgr/tools/textcase.h"
 #include "docmgr/tools/tokens.h"
-
-namespace {
-constexpr uint16_t STR_SUBDIR_MARKER = 15723;
-}  // namespace
+#include "resources/resids.h"
 
 // The marker is loaded every time, so it always follows the module's resources.
 bool TestSub(const std::string& path)

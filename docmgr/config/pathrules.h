@@ -1,5 +1,5 @@
 #pragma once
-// The subdirectory marker at the end of a path entry ("/**", string 15723).
+// The subdirectory marker at the end of a path entry ("/**", STR_SUBDIR_MARKER).
 #include <string>
 
 // True when `path` ends in the marker.

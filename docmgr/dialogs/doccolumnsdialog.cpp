@@ -8,18 +8,28 @@
 #include <QPushButton>
 #include <QKeyEvent>
 #include <QToolButton>
-#include <QVBoxLayout>
 #include <utility>
 
 #include "docmgr/config/impldocconfig.h"
 #include "docmgr/dialogs/columnmove.h"
+#include "docmgr/ui/dialoglayout.h"
 #include "docmgr/ui/dialogtext.h"
 #include "docmgr/ui/waitcursor.h"
 #include "docmgr/records/docfields.h"
 
 namespace {
-constexpr uint16_t kDialog = 15704;
 constexpr int kLastPos = 20;  // 20 columns and the separator
+
+// An arrow button that names its move in its tool tip.
+QToolButton* MoveButton(QWidget* parent, const char* name, Qt::ArrowType arrow, uint16_t text)
+{
+    auto* button = Named(new QToolButton(parent), name);
+    button->setArrowType(arrow);
+    button->setToolTip(DialogText(DLG_COLUMNS, text));
+    button->setAccessibleName(DialogText(DLG_COLUMNS, text));
+    button->setIconSize(QSize(20, 20));
+    return button;
+}
 }  // namespace
 
 const QString& DocColumnsDialog::SeparatorText()
@@ -32,47 +42,7 @@ DocColumnsDialog::DocColumnsDialog(QWidget* parent, ImplDocConfig* config, unsig
     : QDialog(parent), config_(config), group_(group)
 {
     ScopedWaitCursor wait;
-    setObjectName(QStringLiteral("columnsDialog"));
-    setWindowTitle(DialogText(kDialog, 0));
-
-    columnList_ = new QListWidget(this);
-    columnList_->setObjectName(QStringLiteral("columnList"));
-    frame_ = new QGroupBox(DialogText(kDialog, 81), this);
-    frame_->setObjectName(QStringLiteral("frame"));
-    std::tie(okButton_, cancelButton_) = MakeOkCancel(this, kDialog);
-    upButton_ = new QToolButton(this);
-    upButton_->setObjectName(QStringLiteral("upButton"));
-    upButton_->setArrowType(Qt::UpArrow);
-    downButton_ = new QToolButton(this);
-    downButton_->setObjectName(QStringLiteral("downButton"));
-    downButton_->setArrowType(Qt::DownArrow);
-    for (auto [button, local] : {std::pair{upButton_, 30}, std::pair{downButton_, 31}}) {
-        button->setToolTip(DialogText(kDialog, local));
-        button->setAccessibleName(DialogText(kDialog, local));
-        button->setIconSize(QSize(20, 20));
-    }
-    auto* hint = new QLabel(DialogText(kDialog, 82), this);
-    hint->setObjectName(QStringLiteral("hintLabel"));
-    hint->setWordWrap(true);
-
-    auto* moveButtons = new QVBoxLayout;
-    moveButtons->addStretch();
-    moveButtons->addWidget(upButton_);
-    moveButtons->addWidget(downButton_);
-    moveButtons->addStretch();
-    auto* frameLayout = new QGridLayout(frame_);
-    frameLayout->addWidget(columnList_, 0, 0);
-    frameLayout->addLayout(moveButtons, 0, 1);
-    frameLayout->addWidget(hint, 1, 0, 1, 2);
-    auto* dialogButtons = new QVBoxLayout;
-    dialogButtons->addWidget(okButton_);
-    dialogButtons->addWidget(cancelButton_);
-    dialogButtons->addStretch();
-    auto* layout = new QHBoxLayout(this);
-    layout->addWidget(frame_, 1);
-    layout->addLayout(dialogButtons);
-    columnList_->setMinimumSize(220, 360);
-
+    BuildControls();
     const DocGroupConfig& g = config_->Group(group_);
     columnOrder_ = g.columnId;
 
@@ -91,11 +61,31 @@ DocColumnsDialog::DocColumnsDialog(QWidget* parent, ImplDocConfig* config, unsig
     // Connected after the first selection: construction leaves the down button as it is.
     connect(columnList_, &QListWidget::currentRowChanged, this, &DocColumnsDialog::SelectHdl);
 
-    setTabOrder(columnList_, upButton_);
-    setTabOrder(upButton_, downButton_);
-    setTabOrder(downButton_, okButton_);
-    setTabOrder(okButton_, cancelButton_);
+    SetTabChain({columnList_, upButton_, downButton_, okButton_, cancelButton_});
     columnList_->setFocus();
+}
+
+void DocColumnsDialog::BuildControls()
+{
+    setObjectName(QStringLiteral("columnsDialog"));
+    setWindowTitle(DialogText(DLG_COLUMNS));
+    columnList_ = Named(new QListWidget(this), "columnList");
+    frame_ = Named(new QGroupBox(DialogText(DLG_COLUMNS, COLUMNS_FRAME), this), "frame");
+    std::tie(okButton_, cancelButton_) = MakeOkCancel(this, DLG_COLUMNS);
+    upButton_ = MoveButton(this, "upButton", Qt::UpArrow, COLUMNS_UP);
+    downButton_ = MoveButton(this, "downButton", Qt::DownArrow, COLUMNS_DOWN);
+    auto* hint = Named(new QLabel(DialogText(DLG_COLUMNS, COLUMNS_FROZEN_HINT), this), "hintLabel");
+    hint->setWordWrap(true);
+
+    // The list with its move buttons and the hint in the frame; OK and cancel at the right.
+    auto* frameLayout = new QGridLayout(frame_);
+    frameLayout->addWidget(columnList_, 0, 0);
+    frameLayout->addLayout(CentredButtonColumn({upButton_, downButton_}), 0, 1);
+    frameLayout->addWidget(hint, 1, 0, 1, 2);
+    auto* layout = new QHBoxLayout(this);
+    layout->addWidget(frame_, 1);
+    layout->addLayout(ButtonColumn({okButton_, cancelButton_}));
+    columnList_->setMinimumSize(220, 360);
 }
 
 DocColumnsDialog::~DocColumnsDialog() = default;

@@ -33,6 +33,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    // The controls and their layout.
+    void BuildControls();
     // Position of the first entry whose text is the separator's.
     int SeparatorPos() const;
     // Exchanges list entries `a` and `a + 1` and selects `select`.

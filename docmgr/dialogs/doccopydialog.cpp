@@ -17,7 +17,6 @@
 #include "docmgr/tools/fsutil.h"
 
 namespace {
-constexpr uint16_t kDialog = 15706;
 constexpr unsigned short kNoEntry = 0xFFFF;
 
 // A failure message in the middle of the wait: the box gets the ordinary pointer, the
@@ -33,13 +32,13 @@ void TellDuringWait(QWidget* parent, const std::string& text, int error)
 struct DocCopyDialog::Impl {
     std::vector<std::string> documents;
     std::vector<std::string> resultPaths;
-    QLabel* caption = new QLabel(DialogText(kDialog, 22));
+    QLabel* caption = new QLabel(DialogText(DLG_COPY, COPY_TARGET_LABEL));
     DocDirBox* tree = nullptr;
     QGroupBox* frame = new QGroupBox;
-    QPushButton* okButton = new QPushButton(DialogText(kDialog, 18));
-    QPushButton* cancelButton = new QPushButton(DialogText(kDialog, 19));
-    QPushButton* folderButton = new QPushButton(DialogText(kDialog, 35));
-    QCheckBox* moveBox = new QCheckBox(DialogText(kDialog, 101));
+    QPushButton* okButton = new QPushButton(DialogText(DLG_COPY, CTL_OK));
+    QPushButton* cancelButton = new QPushButton(DialogText(DLG_COPY, CTL_CANCEL));
+    QPushButton* folderButton = new QPushButton(DialogText(DLG_COPY, COPY_NEW_FOLDER));
+    QCheckBox* moveBox = new QCheckBox(DialogText(DLG_COPY, COPY_MOVE));
     unsigned short doneCount = 0;
 
     std::string SelectedDir() const { return tree->GetDir(tree->GetSelectedPos()); }
@@ -50,7 +49,7 @@ DocCopyDialog::DocCopyDialog(QWidget* parent, std::vector<std::string> documents
 {
     d->documents = std::move(documents);
     d->tree = new DocDirBox(nullptr, nullptr);
-    setWindowTitle(DialogText(kDialog));
+    setWindowTitle(DialogText(DLG_COPY));
     d->caption->setObjectName(QStringLiteral("caption"));
     d->tree->setObjectName(QStringLiteral("directoryTree"));
     d->tree->SetEnterOpens(false);  // Enter on the chosen folder copies into it
@@ -114,14 +113,14 @@ void DocCopyDialog::OKHdl()
             const std::string name = fsutil::FileName(source);
             if (move) {
                 if (const int error = docfileops::MoveInto(source, target)) {
-                    TellDuringWait(this, JoinedMessage(15730, name, 15731), error);
+                    TellDuringWait(this, JoinedMessage(STR_MOVE_FAILED, name, STR_MOVE_FAILED_END), error);
                 } else {
                     ++d->doneCount;
                     source = fsutil::Join(target, name);
                 }
             } else {
                 if (const int error = docfileops::CopyInto(source, target))
-                    TellDuringWait(this, JoinedMessage(15728, name, 15729), error);
+                    TellDuringWait(this, JoinedMessage(STR_COPY_FAILED, name, STR_COPY_FAILED_END), error);
                 else
                     ++d->doneCount;
             }

@@ -14,9 +14,9 @@
 #include "docmgr/tools/fsutil.h"
 #include "docmgr/tools/resmgr.h"
 #include "docmgr/tools/textcase.h"
+#include "resources/resids.h"
 
 namespace {
-constexpr uint16_t STR_SHOW_HIDDEN = 15746;
 const QString kRoot = QStringLiteral("/");
 constexpr char kDelimiter = '/';
 

@@ -13,31 +13,29 @@
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTimeEdit>
+#include <QVBoxLayout>
 #include <array>
 
 #include "docmgr/config/impldocconfig.h"
-#include "docmgr/ui/docmgrresid.h"
+#include "docmgr/ui/dialoglayout.h"
+#include "docmgr/ui/dialogtext.h"
 #include "docmgr/records/docfields.h"
+#include "docmgr/records/matches.h"
 #include "docmgr/ui/waitcursor.h"
 
 namespace {
-constexpr uint16_t DLG_FILTER = 15702;
-enum : uint16_t {
-    TXT_TITLE = 1, TXT_TOPIC, TXT_AUTHOR, TXT_KEYWORDS, TXT_FILES, TXT_SENSITIVE, TXT_TEXT_FRAME,
-    TXT_CONDITION_FRAME, TXT_NO_CONDITION, TXT_CONDITION0 = 20, TXT_LINK0 = 30, TXT_OK = 40,
-    TXT_CANCEL, TXT_WILDCARD_HINT
-};
-constexpr int CONDITION_COUNT = 7;  // codes 0..6
-constexpr int CONDITION_PATTERN = 6;
-constexpr int LINK_COUNT = 3;       // end, and, or (any other stored code means or)
+QString Text(uint16_t local) { return DialogText(DLG_FILTER, local); }
+
+// The positions of the condition and link lists are the codes they store.
+constexpr FilterLink kLinks[] = {FilterLink::End, FilterLink::And, FilterLink::Or};
 enum Entry { VALUE_ENTRY = 0, DATE_ENTRY = 1, TIME_ENTRY = 2 };
 
 // Which entry a row's comparison reads: the pattern condition always reads the value
 // text; dates and times read their own fields. Field 20 and above compares the printed
 // time, as the filter matching does.
-Entry EntryFor(uint16_t field, int condition)
+Entry EntryFor(uint16_t field, std::optional<FilterCondition> condition)
 {
-    if (condition == CONDITION_PATTERN)
+    if (condition == FilterCondition::Wildcard)
         return VALUE_ENTRY;
     switch (field) {
     case COL_CREATED_DATE: case COL_MODIFIED_DATE: case COL_PRINTED_DATE:
@@ -76,6 +74,10 @@ struct DocFilterDialog::Impl {
         // keeps its stored number, even one the controls cannot show.
         QDate shownDate;
         QTime shownTime;
+
+        // Makes the row's lists and entries in `frame`; row 0's field list begins with
+        // "no condition".
+        void Build(QWidget* frame, int r, const DocGroupConfig& group, int entryWidth);
     };
 
     DocGroupConfig* group = nullptr;
@@ -113,105 +115,121 @@ struct DocFilterDialog::Impl {
     }
 };
 
+void DocFilterDialog::Impl::ConditionRow::Build(QWidget* frame, int r, const DocGroupConfig& group,
+                                               int entryWidth)
+{
+    const QString n = QString::number(r);
+    field = new QComboBox(frame);
+    field->setObjectName("fieldList" + n);
+    if (r == 0)
+        field->addItem(Text(FILTER_NO_CONDITION));
+    for (uint16_t id = COL_NAME; id <= COL_DIRECTORY; ++id)
+        field->addItem(QString::fromStdString(GetColumnTitle(id, group)));
+    condition = new QComboBox(frame);
+    condition->setObjectName("conditionList" + n);
+    for (int32_t code = 0; code < FILTER_CONDITION_COUNT; ++code)
+        condition->addItem(Text(uint16_t(FILTER_EQUAL + code)));
+
+    // One entry for each kind of comparison value, shown by EntryFor.
+    entries = new QStackedWidget(frame);
+    entries->setObjectName("entryStack" + n);
+    entries->setMinimumWidth(entryWidth);
+    value = new QLineEdit(entries);
+    value->setObjectName("valueEdit" + n);
+    date = new QDateEdit(entries);
+    date->setDisplayFormat(QString::fromStdString(intl::ShortDateFormat()));
+    date->setObjectName("dateEdit" + n);
+    date->setCalendarPopup(true);
+    time = new QTimeEdit(entries);
+    time->setObjectName("timeEdit" + n);
+    time->setDisplayFormat(QStringLiteral("HH:mm:ss"));
+    entries->insertWidget(VALUE_ENTRY, value);
+    entries->insertWidget(DATE_ENTRY, date);
+    entries->insertWidget(TIME_ENTRY, time);
+}
+
 DocFilterDialog::DocFilterDialog(QWidget* parent, ImplDocConfig* config, unsigned short group)
     : QDialog(parent), d(std::make_unique<Impl>())
 {
     ScopedWaitCursor wait;
     d->group = &config->Group(group);
-    const DocMgrResId res(DLG_FILTER);
-    auto text = [&res](uint16_t local) { return res.DialogText(local); };
     setObjectName("filterDialog");
-    setWindowTitle(text(0));
+    setWindowTitle(Text(CTL_TITLE));
 
-    auto makeEdit = [this](const char* name) {
-        auto* edit = new QLineEdit(this);
-        edit->setObjectName(name);
-        return edit;
-    };
-    d->titleEdit = makeEdit("titleEdit");
-    d->topicEdit = makeEdit("topicEdit");
-    d->authorEdit = makeEdit("authorEdit");
-    d->keywordsEdit = makeEdit("keywordsEdit");
-    d->filesEdit = makeEdit("filesEdit");
-    d->sensitiveBox = new QCheckBox(text(TXT_SENSITIVE), this);
-    d->sensitiveBox->setObjectName("sensitiveBox");
-
-    auto* textFrame = new QGroupBox(text(TXT_TEXT_FRAME), this);
-    textFrame->setObjectName("textFrame");
-    auto* textForm = new QFormLayout(textFrame);
-    textForm->addRow(text(TXT_TITLE), d->titleEdit);
-    textForm->addRow(text(TXT_TOPIC), d->topicEdit);
-    textForm->addRow(text(TXT_AUTHOR), d->authorEdit);
-    textForm->addRow(text(TXT_KEYWORDS), d->keywordsEdit);
-    textForm->addRow(text(TXT_FILES), d->filesEdit);
-    textForm->addRow(QString(), d->sensitiveBox);
-    auto* hint = new QLabel(text(TXT_WILDCARD_HINT), textFrame);
-    hint->setObjectName("wildcardHint");
-    textForm->addRow(QString(), hint);
-
-    auto* conditionFrame = new QGroupBox(text(TXT_CONDITION_FRAME), this);
-    conditionFrame->setObjectName("conditionFrame");
-    auto* grid = new QGridLayout(conditionFrame);
-    for (int r = 0; r < int(FILTER_ROWS); ++r) {
-        Impl::ConditionRow& row = d->rows[size_t(r)];
-        const QString n = QString::number(r);
-        row.field = new QComboBox(conditionFrame);
-        row.field->setObjectName("fieldList" + n);
-        if (r == 0)
-            row.field->addItem(text(TXT_NO_CONDITION));
-        for (uint16_t id = COL_NAME; id <= COL_DIRECTORY; ++id)
-            row.field->addItem(QString::fromStdString(GetColumnTitle(id, *d->group)));
-        row.condition = new QComboBox(conditionFrame);
-        row.condition->setObjectName("conditionList" + n);
-        for (int c = 0; c < CONDITION_COUNT; ++c)
-            row.condition->addItem(text(uint16_t(TXT_CONDITION0 + c)));
-        row.entries = new QStackedWidget(conditionFrame);
-        row.entries->setObjectName("entryStack" + n);
-        row.entries->setMinimumWidth(fontMetrics().averageCharWidth() * 24);
-        row.value = new QLineEdit(row.entries);
-        row.value->setObjectName("valueEdit" + n);
-        row.date = new QDateEdit(row.entries);
-        row.date->setDisplayFormat(QString::fromStdString(intl::ShortDateFormat()));
-        row.date->setObjectName("dateEdit" + n);
-        row.date->setCalendarPopup(true);
-        row.time = new QTimeEdit(row.entries);
-        row.time->setObjectName("timeEdit" + n);
-        row.time->setDisplayFormat(QStringLiteral("HH:mm:ss"));
-        row.entries->insertWidget(VALUE_ENTRY, row.value);
-        row.entries->insertWidget(DATE_ENTRY, row.date);
-        row.entries->insertWidget(TIME_ENTRY, row.time);
-        grid->addWidget(row.field, 2 * r, 0);
-        grid->addWidget(row.condition, 2 * r, 1);
-        grid->addWidget(row.entries, 2 * r, 2);
-        connect(row.field, &QComboBox::currentIndexChanged, this, [this, r] { FieldHdl(r); });
-        connect(row.condition, &QComboBox::currentIndexChanged, this, [this, r] { FieldHdl(r); });
-        if (r + 1 < int(FILTER_ROWS)) {
-            QComboBox*& link = d->links[size_t(r)];
-            link = new QComboBox(conditionFrame);
-            link->setObjectName("linkList" + n);
-            for (int l = 0; l < LINK_COUNT; ++l)
-                link->addItem(text(uint16_t(TXT_LINK0 + l)));
-            grid->addWidget(link, 2 * r + 1, 0);
-            connect(link, &QComboBox::currentIndexChanged, this, &DocFilterDialog::LinkHdl);
-        }
-    }
-    grid->setColumnStretch(2, 1);
-
-    auto* buttons = new QDialogButtonBox(this);
-    QPushButton* ok = buttons->addButton(text(TXT_OK), QDialogButtonBox::AcceptRole);
-    ok->setObjectName("okButton");
-    ok->setDefault(true);
-    QPushButton* cancel = buttons->addButton(text(TXT_CANCEL), QDialogButtonBox::RejectRole);
-    cancel->setObjectName("cancelButton");
-    connect(ok, &QPushButton::clicked, this, &DocFilterDialog::OKHdl);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-
+    QGroupBox* textFrame = BuildTextFrame();
+    QGroupBox* conditionFrame = BuildConditionFrame();
+    QDialogButtonBox* buttons = BuildButtons();
     auto* root = new QVBoxLayout(this);
     root->addWidget(textFrame);
     root->addWidget(conditionFrame);
     root->addWidget(buttons);
 
     Fill();
+}
+
+QGroupBox* DocFilterDialog::BuildTextFrame()
+{
+    d->titleEdit = Named(new QLineEdit(this), "titleEdit");
+    d->topicEdit = Named(new QLineEdit(this), "topicEdit");
+    d->authorEdit = Named(new QLineEdit(this), "authorEdit");
+    d->keywordsEdit = Named(new QLineEdit(this), "keywordsEdit");
+    d->filesEdit = Named(new QLineEdit(this), "filesEdit");
+    d->sensitiveBox = Named(new QCheckBox(Text(FILTER_SENSITIVE), this), "sensitiveBox");
+
+    auto* frame = Named(new QGroupBox(Text(FILTER_TEXT_FRAME), this), "textFrame");
+    auto* form = new QFormLayout(frame);
+    form->addRow(Text(FILTER_TITLE_LABEL), d->titleEdit);
+    form->addRow(Text(FILTER_TOPIC_LABEL), d->topicEdit);
+    form->addRow(Text(FILTER_AUTHOR_LABEL), d->authorEdit);
+    form->addRow(Text(FILTER_KEYWORDS_LABEL), d->keywordsEdit);
+    form->addRow(Text(FILTER_FILES_LABEL), d->filesEdit);
+    form->addRow(QString(), d->sensitiveBox);
+    form->addRow(QString(), Named(new QLabel(Text(FILTER_WILDCARD_HINT), frame), "wildcardHint"));
+    return frame;
+}
+
+QGroupBox* DocFilterDialog::BuildConditionFrame()
+{
+    auto* frame = Named(new QGroupBox(Text(FILTER_CONDITION_FRAME), this), "conditionFrame");
+    auto* grid = new QGridLayout(frame);
+    // Each row on a line of its own, the link to the next row on the line below it.
+    for (int r = 0; r < int(FILTER_ROWS); ++r) {
+        Impl::ConditionRow& row = d->rows[size_t(r)];
+        row.Build(frame, r, *d->group, fontMetrics().averageCharWidth() * 24);
+        grid->addWidget(row.field, 2 * r, 0);
+        grid->addWidget(row.condition, 2 * r, 1);
+        grid->addWidget(row.entries, 2 * r, 2);
+        connect(row.field, &QComboBox::currentIndexChanged, this, [this, r] { FieldHdl(r); });
+        connect(row.condition, &QComboBox::currentIndexChanged, this, [this, r] { FieldHdl(r); });
+        if (r + 1 < int(FILTER_ROWS))
+            grid->addWidget(BuildLinkList(frame, r), 2 * r + 1, 0);
+    }
+    grid->setColumnStretch(2, 1);
+    return frame;
+}
+
+QComboBox* DocFilterDialog::BuildLinkList(QWidget* frame, int r)
+{
+    QComboBox*& link = d->links[size_t(r)];
+    link = new QComboBox(frame);
+    link->setObjectName("linkList" + QString::number(r));
+    for (FilterLink code : kLinks)
+        link->addItem(Text(uint16_t(FILTER_LINK_END + int(code))));
+    connect(link, &QComboBox::currentIndexChanged, this, &DocFilterDialog::LinkHdl);
+    return link;
+}
+
+QDialogButtonBox* DocFilterDialog::BuildButtons()
+{
+    auto* buttons = new QDialogButtonBox(this);
+    QPushButton* ok = buttons->addButton(Text(FILTER_OK), QDialogButtonBox::AcceptRole);
+    ok->setObjectName("okButton");
+    ok->setDefault(true);
+    QPushButton* cancel = buttons->addButton(Text(FILTER_CANCEL), QDialogButtonBox::RejectRole);
+    cancel->setObjectName("cancelButton");
+    connect(ok, &QPushButton::clicked, this, &DocFilterDialog::OKHdl);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    return buttons;
 }
 
 DocFilterDialog::~DocFilterDialog() = default;
@@ -229,8 +247,8 @@ void DocFilterDialog::Fill()
         Impl::ConditionRow& row = d->rows[r];
         const QSignalBlocker quietField(row.field), quietCondition(row.condition);
         row.field->setCurrentIndex(Impl::PositionOf(int(r), g.filterField[r]));
-        const int32_t condition = g.filterCondition[r];
-        row.condition->setCurrentIndex(condition >= 0 && condition < CONDITION_COUNT ? condition : -1);
+        const std::optional<FilterCondition> condition = ConditionOf(g.filterCondition[r]);
+        row.condition->setCurrentIndex(condition ? int(*condition) : -1);
         row.value->setText(QString::fromStdString(g.filterValue[r]));
         row.date->setDate(ToQDate(g.filterDate[r]));
         row.shownDate = row.date->date();
@@ -240,8 +258,7 @@ void DocFilterDialog::Fill()
     }
     for (size_t l = 0; l < d->links.size(); ++l) {
         const QSignalBlocker quiet(d->links[l]);
-        const int32_t link = g.filterLink[l];
-        d->shownLinks[l] = link == 0 || link == 1 ? link : 2;
+        d->shownLinks[l] = int(LinkOf(g.filterLink[l]));
         d->links[l]->setCurrentIndex(d->shownLinks[l]);
     }
     UpdateRows();
@@ -250,7 +267,7 @@ void DocFilterDialog::Fill()
 void DocFilterDialog::FieldHdl(int r)
 {
     Impl::ConditionRow& row = d->rows[size_t(r)];
-    row.entries->setCurrentIndex(EntryFor(d->ShownField(r), row.condition->currentIndex()));
+    row.entries->setCurrentIndex(EntryFor(d->ShownField(r), ConditionOf(row.condition->currentIndex())));
     UpdateRows();
 }
 
@@ -271,7 +288,7 @@ void DocFilterDialog::UpdateRows()
         row.entries->setEnabled(used);
         if (r < d->links.size()) {
             d->links[r]->setEnabled(used);
-            used = used && d->links[r]->currentIndex() != 0;
+            used = used && d->links[r]->currentIndex() != int(FilterLink::End);
         }
     }
 }

@@ -3,6 +3,9 @@
 #include <memory>
 
 class ImplDocConfig;
+class QComboBox;
+class QDialogButtonBox;
+class QGroupBox;
 
 // Edits the filter fields of one group in place when confirmed with OK (result 1):
 // the four text patterns and the file pattern, the case flag, three condition rows
@@ -22,6 +25,12 @@ private:
     void LinkHdl();
     void Fill();
     void UpdateRows();
+    // The text filters with their captions.
+    QGroupBox* BuildTextFrame();
+    // The condition rows and the links between them.
+    QGroupBox* BuildConditionFrame();
+    QComboBox* BuildLinkList(QWidget* frame, int row);
+    QDialogButtonBox* BuildButtons();
 
     struct Impl;
     std::unique_ptr<Impl> d;

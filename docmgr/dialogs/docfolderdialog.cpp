@@ -12,20 +12,16 @@
 #include "docmgr/ui/docmsgbox.h"
 #include "docmgr/tools/fsutil.h"
 
-namespace {
-constexpr uint16_t kDialog = 15707;
-}
-
 DocFolderDialog::DocFolderDialog(QWidget* parent, const std::string& base)
     : QDialog(parent),
-      nameLabel_(new QLabel(DialogText(kDialog, 14))),
+      nameLabel_(new QLabel(DialogText(DLG_NEW_FOLDER, NEW_FOLDER_NAME_LABEL))),
       nameEdit_(new QLineEdit),
       frame_(new QGroupBox),
-      okButton_(new QPushButton(DialogText(kDialog, 18))),
-      cancelButton_(new QPushButton(DialogText(kDialog, 19))),
+      okButton_(new QPushButton(DialogText(DLG_NEW_FOLDER, CTL_OK))),
+      cancelButton_(new QPushButton(DialogText(DLG_NEW_FOLDER, CTL_CANCEL))),
       base_(base)
 {
-    setWindowTitle(DialogText(kDialog) + QStringLiteral(" [") + QString::fromStdString(base_) +
+    setWindowTitle(DialogText(DLG_NEW_FOLDER) + QStringLiteral(" [") + QString::fromStdString(base_) +
                    QStringLiteral("]"));
     nameLabel_->setObjectName(QStringLiteral("nameLabel"));
     nameEdit_->setObjectName(QStringLiteral("nameEdit"));
@@ -66,7 +62,8 @@ void DocFolderDialog::OKHdl()
     // A name that climbs out of the base or starts at the root is refused like a folder
     // that cannot be made.
     if (const int error = docfileops::MakeFolder(base_, name))
-        DocInfoBox(this, JoinedMessage(15726, base_ + name, 15727), DocErrorText(error));
+        DocInfoBox(this, JoinedMessage(STR_FOLDER_FAILED, base_ + name, STR_FOLDER_FAILED_END),
+                   DocErrorText(error));
     done(1);
 }
 

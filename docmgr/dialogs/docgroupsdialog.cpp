@@ -16,6 +16,7 @@
 #include <memory>
 
 #include "docmgr/config/impldocconfig.h"
+#include "docmgr/ui/dialoglayout.h"
 #include "docmgr/ui/dialogtext.h"
 #include "docmgr/dialogs/doccolumnsdialog.h"
 #include "docmgr/dialogs/docfilterdialog.h"
@@ -24,45 +25,64 @@
 #include "docmgr/dialogs/groupnames.h"
 
 namespace {
-constexpr uint16_t kDialog = 15705;
-constexpr uint16_t kProtectedName = 15717;  // the first group: never renamed, moved or deleted
-constexpr uint16_t kNewSection = 15716;
-constexpr uint16_t kNewNameStem = 15719;
-
 QString Q(const std::string& text) { return QString::fromStdString(text); }
+QString Text(uint16_t local) { return DialogText(DLG_GROUPS, local); }
 using groupnames::WithoutBlanks;
-
-template <class W>
-W* Named(W* widget, const char* name)
-{
-    widget->setObjectName(QLatin1String(name));
-    return widget;
-}
 }  // namespace
 
 DocGroupsDialog::DocGroupsDialog(QWidget* parent, ImplDocConfig* config, const QString& mainGroupName)
     : QDialog(parent), config_(config), mainGroupName_(mainGroupName)
 {
-    setObjectName(QStringLiteral("groupsDialog"));
-    setWindowTitle(DialogText(kDialog, 0));
+    BuildControls();
+    LayOutControls();
+    attached_ = {newButton_, changeButton_, deleteButton_, nameLabel_, sectionLabel_,
+                 nameEdit_, sectionBox_, editFrame_};
+    ConnectHandlers();
 
+    FillSections();
+    FillGroups();
+    editedGroup_ = config_->CurrentPosition();
+    SelectRow(editedGroup_ < config_->GroupCount() ? editedGroup_ : 0);
+    SelectHdl();
+    MoreHdl(false);
+
+    SetTabChain({groupList_, okButton_, cancelButton_, settingsButton_, moreButton_, nameEdit_,
+                 sectionBox_, newButton_, changeButton_, deleteButton_});
+    groupList_->setFocus();
+}
+
+void DocGroupsDialog::BuildControls()
+{
+    setObjectName(QStringLiteral("groupsDialog"));
+    setWindowTitle(DialogText(DLG_GROUPS));
     groupList_ = Named(new QListWidget(this), "groupList");
-    frame_ = Named(new QGroupBox(DialogText(kDialog, 13), this), "frame");
-    nameLabel_ = Named(new QLabel(DialogText(kDialog, 14), this), "nameLabel");
+    frame_ = Named(new QGroupBox(Text(GROUPS_FRAME), this), "frame");
+    nameLabel_ = Named(new QLabel(Text(GROUPS_NAME_LABEL), this), "nameLabel");
     nameEdit_ = Named(new QLineEdit(this), "nameEdit");
     nameLabel_->setBuddy(nameEdit_);
-    sectionLabel_ = Named(new QLabel(DialogText(kDialog, 10), this), "sectionLabel");
+    sectionLabel_ = Named(new QLabel(Text(GROUPS_SECTION_LABEL), this), "sectionLabel");
     sectionBox_ = Named(new QComboBox(this), "sectionBox");
     sectionBox_->setEditable(true);
     sectionBox_->setInsertPolicy(QComboBox::NoInsert);
     sectionLabel_->setBuddy(sectionBox_);
-    editFrame_ = Named(new QGroupBox(DialogText(kDialog, 16), this), "editFrame");
-    okButton_ = Named(new QPushButton(DialogText(kDialog, 18), this), "okButton");
+    editFrame_ = Named(new QGroupBox(Text(GROUPS_EDIT_FRAME), this), "editFrame");
+    okButton_ = Named(new QPushButton(Text(CTL_OK), this), "okButton");
     okButton_->setDefault(true);
-    // The cancel button shares number 11 with the section field, which has no text.
-    cancelButton_ = Named(new QPushButton(DialogText(kDialog, 11), this), "cancelButton");
+    cancelButton_ = Named(new QPushButton(Text(GROUPS_CANCEL), this), "cancelButton");
+    BuildSettingsButton();
+    moreButton_ = Named(new QPushButton(this), "moreButton");
+    moreButton_->setCheckable(true);
+    newButton_ = Named(new QPushButton(Text(GROUPS_NEW), this), "newButton");
+    changeButton_ = Named(new QPushButton(Text(GROUPS_CHANGE), this), "changeButton");
+    deleteButton_ = Named(new QPushButton(Text(GROUPS_DELETE), this), "deleteButton");
+    for (QPushButton* button : {cancelButton_, moreButton_, newButton_, changeButton_, deleteButton_})
+        button->setAutoDefault(false);  // Enter stays with OK
+}
+
+void DocGroupsDialog::BuildSettingsButton()
+{
     settingsButton_ = Named(new QToolButton(this), "settingsButton");
-    settingsButton_->setText(DialogText(kDialog, 22));
+    settingsButton_->setText(Text(GROUPS_SETTINGS));
     settingsButton_->setPopupMode(QToolButton::InstantPopup);
     settingsButton_->setToolButtonStyle(Qt::ToolButtonTextOnly);
     settingsButton_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
@@ -70,20 +90,18 @@ DocGroupsDialog::DocGroupsDialog(QWidget* parent, ImplDocConfig* config, const Q
     for (unsigned short item : {ITEM_PATHS, ITEM_FILTER, ITEM_SORT, ITEM_COLUMNS, ITEM_STORE}) {
         if (item == ITEM_STORE)
             settingsMenu_->addSeparator();
-        QAction* action = settingsMenu_->addAction(MenuText(kDialog, item));
+        QAction* action = settingsMenu_->addAction(MenuText(MENU_GROUP_SETTINGS, item));
         action->setData(item);
     }
     settingsButton_->setMenu(settingsMenu_);
     // Room for the menu arrow beside the text.
     settingsButton_->setMinimumWidth(settingsButton_->sizeHint().width() + 12);
-    moreButton_ = Named(new QPushButton(this), "moreButton");
-    moreButton_->setCheckable(true);
-    newButton_ = Named(new QPushButton(DialogText(kDialog, 20), this), "newButton");
-    changeButton_ = Named(new QPushButton(DialogText(kDialog, 24), this), "changeButton");
-    deleteButton_ = Named(new QPushButton(DialogText(kDialog, 21), this), "deleteButton");
-    for (QPushButton* button : {cancelButton_, moreButton_, newButton_, changeButton_, deleteButton_})
-        button->setAutoDefault(false);  // Enter stays with OK
+}
 
+void DocGroupsDialog::LayOutControls()
+{
+    // The group list with OK, cancel, settings and more beside it; below, the editing
+    // fields with new, change and delete beside them.
     auto* frameLayout = new QVBoxLayout(frame_);
     frameLayout->addWidget(groupList_);
     auto* editLayout = new QGridLayout(editFrame_);
@@ -92,26 +110,18 @@ DocGroupsDialog::DocGroupsDialog(QWidget* parent, ImplDocConfig* config, const Q
     editLayout->addWidget(sectionLabel_, 1, 0);
     editLayout->addWidget(sectionBox_, 1, 1);
     editLayout->setColumnStretch(1, 1);
-    auto* mainButtons = new QVBoxLayout;
-    for (QWidget* w : std::initializer_list<QWidget*>{okButton_, cancelButton_, settingsButton_, moreButton_})
-        mainButtons->addWidget(w);
-    mainButtons->addStretch();
-    auto* editButtons = new QVBoxLayout;
-    for (QWidget* w : {newButton_, changeButton_, deleteButton_})
-        editButtons->addWidget(w);
-    editButtons->addStretch();
     auto* layout = new QGridLayout(this);
     layout->addWidget(frame_, 0, 0);
-    layout->addLayout(mainButtons, 0, 1);
+    layout->addLayout(ButtonColumn({okButton_, cancelButton_, settingsButton_, moreButton_}), 0, 1);
     layout->addWidget(editFrame_, 1, 0);
-    layout->addLayout(editButtons, 1, 1);
+    layout->addLayout(ButtonColumn({newButton_, changeButton_, deleteButton_}), 1, 1);
     layout->setRowStretch(0, 1);
     groupList_->setMinimumSize(260, 220);
     nameEdit_->setMinimumWidth(180);
+}
 
-    attached_ = {newButton_, changeButton_, deleteButton_, nameLabel_, sectionLabel_,
-                 nameEdit_, sectionBox_, editFrame_};
-
+void DocGroupsDialog::ConnectHandlers()
+{
     connect(groupList_, &QListWidget::currentRowChanged, this, &DocGroupsDialog::SelectHdl);
     connect(okButton_, &QPushButton::clicked, this, &DocGroupsDialog::OKHdl);
     connect(cancelButton_, &QPushButton::clicked, this, &DocGroupsDialog::CancelHdl);
@@ -125,41 +135,25 @@ DocGroupsDialog::DocGroupsDialog(QWidget* parent, ImplDocConfig* config, const Q
         nameModified_ = true;
         ModifyHdl();
     });
-    connect(sectionBox_->lineEdit(), &QLineEdit::textEdited, this, [this] {
+    const auto sectionModified = [this] {
         sectionModified_ = true;
         ModifyHdl();
-    });
-    connect(sectionBox_, &QComboBox::textActivated, this, [this] {
-        sectionModified_ = true;
-        ModifyHdl();
-    });
+    };
+    connect(sectionBox_->lineEdit(), &QLineEdit::textEdited, this, sectionModified);
+    connect(sectionBox_, &QComboBox::textActivated, this, sectionModified);
+    // Enter in either field applies the change (eventFilter).
     nameEdit_->installEventFilter(this);
     sectionBox_->lineEdit()->installEventFilter(this);
-
-    FillSections();
-    {
-        const QSignalBlocker blocker(groupList_);
-        for (uint16_t g = 0; g < config_->GroupCount(); ++g)
-            groupList_->addItem(Q(config_->Group(g).groupName));
-    }
-    editedGroup_ = config_->CurrentPosition();
-    SelectRow(editedGroup_ < config_->GroupCount() ? editedGroup_ : 0);
-    SelectHdl();
-    MoreHdl(false);
-
-    setTabOrder(groupList_, okButton_);
-    setTabOrder(okButton_, cancelButton_);
-    setTabOrder(cancelButton_, settingsButton_);
-    setTabOrder(settingsButton_, moreButton_);
-    setTabOrder(moreButton_, nameEdit_);
-    setTabOrder(nameEdit_, sectionBox_);
-    setTabOrder(sectionBox_, newButton_);
-    setTabOrder(newButton_, changeButton_);
-    setTabOrder(changeButton_, deleteButton_);
-    groupList_->setFocus();
 }
 
 DocGroupsDialog::~DocGroupsDialog() = default;
+
+void DocGroupsDialog::FillGroups()
+{
+    const QSignalBlocker blocker(groupList_);
+    for (uint16_t g = 0; g < config_->GroupCount(); ++g)
+        groupList_->addItem(Q(config_->Group(g).groupName));
+}
 
 void DocGroupsDialog::FillSections()
 {
@@ -204,7 +198,7 @@ unsigned short DocGroupsDialog::SelectedPos() const
 
 bool DocGroupsDialog::IsProtected(const QString& name) const
 {
-    return name == DocResString(kProtectedName);
+    return name == DocResString(STR_FIRST_GROUP);
 }
 
 QString DocGroupsDialog::MainGroupName() const { return mainGroupName_; }
@@ -303,7 +297,7 @@ void DocGroupsDialog::ChangeHdl()
 
 void DocGroupsDialog::NewHdl()
 {
-    const QString name = groupnames::NewName(DocResString(kNewNameStem),
+    const QString name = groupnames::NewName(DocResString(STR_NEW_GROUP_STEM),
                                              [this](const QString& taken) { return ListHolds(taken); });
     groupList_->addItem(name);
     const unsigned short pos = static_cast<unsigned short>(groupList_->count() - 1);
@@ -312,7 +306,7 @@ void DocGroupsDialog::NewHdl()
     config_->InsertGroup(pos);
     DocGroupConfig& group = config_->Group(pos);
     group.groupName = name.toStdString();
-    group.section = ResString(kNewSection);
+    group.section = ResString(STR_DEFAULT_SECTION);
     AddSection(Q(group.section));
     SelectHdl();
 }
@@ -385,7 +379,7 @@ void DocGroupsDialog::reject() { CancelHdl(); }
 
 void DocGroupsDialog::MoreHdl(bool expanded)
 {
-    moreButton_->setText(DialogText(kDialog, 23) + (expanded ? QStringLiteral(" <<") : QStringLiteral(" >>")));
+    moreButton_->setText(Text(GROUPS_MORE) + (expanded ? QStringLiteral(" <<") : QStringLiteral(" >>")));
     for (QWidget* widget : attached_)
         widget->setVisible(expanded);
     if (!expanded && layout()) {

@@ -19,12 +19,6 @@ class QToolButton;
 class DocGroupsDialog : public QDialog {
     Q_OBJECT
 public:
-    // Settings menu items: the paths, filter, sort and columns dialogs on the selected
-    // group, and storing the settings in force into it.
-    enum SettingsItem : unsigned short {
-        ITEM_PATHS = 10, ITEM_FILTER = 11, ITEM_SORT = 12, ITEM_COLUMNS = 13, ITEM_STORE = 14
-    };
-
     // `mainGroupName` is the group chosen in the main dialog.
     DocGroupsDialog(QWidget* parent, ImplDocConfig* config, const QString& mainGroupName);
     ~DocGroupsDialog() override;
@@ -34,7 +28,7 @@ public:
     void ChangeHdl();   // renames and/or moves the edited group to another section
     void NewHdl();
     void DeleteHdl();
-    void SettingsHdl(unsigned short item);
+    void SettingsHdl(unsigned short item);  // a GroupSettingsItem
     void OKHdl();
     void CancelHdl();
     void MoreHdl(bool expanded);  // shows or hides the editing controls
@@ -50,6 +44,11 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void BuildControls();
+    void BuildSettingsButton();
+    void LayOutControls();
+    void ConnectHandlers();
+    void FillGroups();
     void FillSections();
     // Selects a list entry without running the selection handler.
     void SelectRow(int row);

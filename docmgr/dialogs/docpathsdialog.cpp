@@ -7,78 +7,26 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
-#include <QVBoxLayout>
 #include <algorithm>
 
 #include "docmgr/config/impldocconfig.h"
 #include "docmgr/config/pathrules.h"
+#include "docmgr/ui/dialoglayout.h"
 #include "docmgr/ui/dialogtext.h"
 #include "docmgr/dialogs/docdirbox.h"
 #include "docmgr/dialogs/pathentries.h"
 #include "docmgr/ui/waitcursor.h"
 
 namespace {
-constexpr uint16_t kDialog = 15701;
-constexpr uint16_t kIncludeBoxText = 226;  // check box 26; the remove button has 26 too
-
 QString Q(const std::string& text) { return QString::fromStdString(text); }
+QString Text(uint16_t local) { return DialogText(DLG_PATHS, local); }
 }  // namespace
 
 DocPathsDialog::DocPathsDialog(QWidget* parent, ImplDocConfig* config, unsigned short group)
     : QDialog(parent), config_(config), group_(group)
 {
-    setObjectName(QStringLiteral("pathsDialog"));
-    setWindowTitle(DialogText(kDialog, 0));
-
-    listCaption_ = new QLabel(DialogText(kDialog, 20), this);
-    listCaption_->setObjectName(QStringLiteral("listCaption"));
-    pathList_ = new QListWidget(this);
-    pathList_->setObjectName(QStringLiteral("pathList"));
-    listCaption_->setBuddy(pathList_);
-    addButton_ = new QPushButton(DialogText(kDialog, 32), this);
-    addButton_->setObjectName(QStringLiteral("addButton"));
-    removeButton_ = new QPushButton(DialogText(kDialog, 26), this);
-    removeButton_->setObjectName(QStringLiteral("removeButton"));
-    removeAllButton_ = new QPushButton(DialogText(kDialog, 33), this);
-    removeAllButton_->setObjectName(QStringLiteral("removeAllButton"));
-    treeCaption_ = new QLabel(DialogText(kDialog, 22), this);
-    treeCaption_->setObjectName(QStringLiteral("treeCaption"));
-    dirTree_ = new DocDirBox(this, config_);
-    treeCaption_->setBuddy(dirTree_);
-    includeBox_ = new QCheckBox(DialogText(kDialog, kIncludeBoxText), this);
-    includeBox_->setObjectName(QStringLiteral("includeBox"));
-    frame_ = new QGroupBox(DialogText(kDialog, 27), this);
-    frame_->setObjectName(QStringLiteral("frame"));
-    std::tie(okButton_, cancelButton_) = MakeOkCancel(this, kDialog);
-    for (QPushButton* button : {addButton_, removeButton_, removeAllButton_})
-        button->setAutoDefault(false);  // Enter stays with OK
-
-    // Tree | add, remove, remove all | chosen paths, all inside the frame; OK and
-    // cancel at the right.
-    auto* moveButtons = new QVBoxLayout;
-    moveButtons->addStretch();
-    moveButtons->addWidget(addButton_);
-    moveButtons->addWidget(removeButton_);
-    moveButtons->addWidget(removeAllButton_);
-    moveButtons->addStretch();
-    auto* frameLayout = new QGridLayout(frame_);
-    frameLayout->addWidget(treeCaption_, 0, 0);
-    frameLayout->addWidget(dirTree_, 1, 0);
-    frameLayout->addLayout(moveButtons, 1, 1);
-    frameLayout->addWidget(listCaption_, 0, 2);
-    frameLayout->addWidget(pathList_, 1, 2);
-    frameLayout->addWidget(includeBox_, 2, 2);
-    frameLayout->setColumnStretch(0, 1);
-    frameLayout->setColumnStretch(2, 1);
-    auto* dialogButtons = new QVBoxLayout;
-    dialogButtons->addWidget(okButton_);
-    dialogButtons->addWidget(cancelButton_);
-    dialogButtons->addStretch();
-    auto* layout = new QHBoxLayout(this);
-    layout->addWidget(frame_, 1);
-    layout->addLayout(dialogButtons);
-    dirTree_->setMinimumSize(240, 320);
-    pathList_->setMinimumSize(240, 320);
+    BuildControls();
+    LayOutControls();
 
     connect(okButton_, &QPushButton::clicked, this, &DocPathsDialog::OKHdl);
     connect(cancelButton_, &QPushButton::clicked, this, &QDialog::reject);
@@ -103,14 +51,49 @@ DocPathsDialog::DocPathsDialog(QWidget* parent, ImplDocConfig* config, unsigned 
     PathsHdl();
     DirectoriesHdl();
 
-    setTabOrder(dirTree_, addButton_);
-    setTabOrder(addButton_, removeButton_);
-    setTabOrder(removeButton_, removeAllButton_);
-    setTabOrder(removeAllButton_, pathList_);
-    setTabOrder(pathList_, includeBox_);
-    setTabOrder(includeBox_, okButton_);
-    setTabOrder(okButton_, cancelButton_);
+    SetTabChain({dirTree_, addButton_, removeButton_, removeAllButton_, pathList_, includeBox_,
+                 okButton_, cancelButton_});
     dirTree_->setFocus();
+}
+
+void DocPathsDialog::BuildControls()
+{
+    setObjectName(QStringLiteral("pathsDialog"));
+    setWindowTitle(DialogText(DLG_PATHS));
+    listCaption_ = Named(new QLabel(Text(PATHS_CHOSEN_LABEL), this), "listCaption");
+    pathList_ = Named(new QListWidget(this), "pathList");
+    listCaption_->setBuddy(pathList_);
+    addButton_ = Named(new QPushButton(Text(PATHS_ADD), this), "addButton");
+    removeButton_ = Named(new QPushButton(Text(PATHS_REMOVE), this), "removeButton");
+    removeAllButton_ = Named(new QPushButton(Text(PATHS_REMOVE_ALL), this), "removeAllButton");
+    treeCaption_ = Named(new QLabel(Text(PATHS_TREE_LABEL), this), "treeCaption");
+    dirTree_ = new DocDirBox(this, config_);
+    treeCaption_->setBuddy(dirTree_);
+    includeBox_ = Named(new QCheckBox(Text(PATHS_INCLUDE_TEXT), this), "includeBox");
+    frame_ = Named(new QGroupBox(Text(PATHS_FRAME), this), "frame");
+    std::tie(okButton_, cancelButton_) = MakeOkCancel(this, DLG_PATHS);
+    for (QPushButton* button : {addButton_, removeButton_, removeAllButton_})
+        button->setAutoDefault(false);  // Enter stays with OK
+}
+
+void DocPathsDialog::LayOutControls()
+{
+    // Tree | add, remove, remove all | chosen paths, all inside the frame; OK and
+    // cancel at the right.
+    auto* frameLayout = new QGridLayout(frame_);
+    frameLayout->addWidget(treeCaption_, 0, 0);
+    frameLayout->addWidget(dirTree_, 1, 0);
+    frameLayout->addLayout(CentredButtonColumn({addButton_, removeButton_, removeAllButton_}), 1, 1);
+    frameLayout->addWidget(listCaption_, 0, 2);
+    frameLayout->addWidget(pathList_, 1, 2);
+    frameLayout->addWidget(includeBox_, 2, 2);
+    frameLayout->setColumnStretch(0, 1);
+    frameLayout->setColumnStretch(2, 1);
+    auto* layout = new QHBoxLayout(this);
+    layout->addWidget(frame_, 1);
+    layout->addLayout(ButtonColumn({okButton_, cancelButton_}));
+    dirTree_->setMinimumSize(240, 320);
+    pathList_->setMinimumSize(240, 320);
 }
 
 DocPathsDialog::~DocPathsDialog() = default;

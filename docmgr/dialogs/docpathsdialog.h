@@ -32,6 +32,9 @@ public:
     DocDirBox* GetDirBox() const { return dirTree_; }
 
 private:
+    void BuildControls();
+    void LayOutControls();
+
     ImplDocConfig* config_;
     unsigned short group_;
     QLabel* listCaption_;

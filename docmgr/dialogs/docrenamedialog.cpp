@@ -13,18 +13,14 @@
 #include "docmgr/ui/docmsgbox.h"
 #include "docmgr/tools/fsutil.h"
 
-namespace {
-constexpr uint16_t kDialog = 15708;
-}
-
 struct DocRenameDialog::Impl {
-    QLabel* oldNameLabel = new QLabel(DialogText(kDialog, 110));
+    QLabel* oldNameLabel = new QLabel(DialogText(DLG_RENAME, RENAME_CURRENT_LABEL));
     QLineEdit* oldNameEdit = new QLineEdit;
-    QLabel* newNameLabel = new QLabel(DialogText(kDialog, 112));
+    QLabel* newNameLabel = new QLabel(DialogText(DLG_RENAME, RENAME_NEW_LABEL));
     QLineEdit* newNameEdit = new QLineEdit;
     QGroupBox* frame = new QGroupBox;
-    QPushButton* okButton = new QPushButton(DialogText(kDialog, 18));
-    QPushButton* cancelButton = new QPushButton(DialogText(kDialog, 19));
+    QPushButton* okButton = new QPushButton(DialogText(DLG_RENAME, CTL_OK));
+    QPushButton* cancelButton = new QPushButton(DialogText(DLG_RENAME, CTL_CANCEL));
     std::string document;
     unsigned renameCount = 0;
     std::string newPath;
@@ -36,7 +32,7 @@ DocRenameDialog::DocRenameDialog(QWidget* parent, const std::string& document)
     d->document = document;
     const QString name = QString::fromStdString(fsutil::FileName(d->document));
 
-    setWindowTitle(DialogText(kDialog));
+    setWindowTitle(DialogText(DLG_RENAME));
     d->oldNameLabel->setObjectName(QStringLiteral("oldNameLabel"));
     d->oldNameEdit->setObjectName(QStringLiteral("oldNameEdit"));
     d->newNameLabel->setObjectName(QStringLiteral("newNameLabel"));
@@ -90,7 +86,9 @@ void DocRenameDialog::OKHdl()
         // A name with a separator would move the file elsewhere; it is refused like a
         // rename that fails.
         if (const int error = docfileops::RenameTo(d->document, newName.toStdString()))
-            DocInfoBox(this, JoinedMessage(15732, fsutil::FileName(d->document), 15733),
+            DocInfoBox(this,
+                       JoinedMessage(STR_RENAME_FAILED, fsutil::FileName(d->document),
+                                     STR_RENAME_FAILED_END),
                        DocErrorText(error));
         else {
             ++d->renameCount;

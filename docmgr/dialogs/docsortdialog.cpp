@@ -9,12 +9,12 @@
 #include <QVBoxLayout>
 
 #include "docmgr/config/impldocconfig.h"
+#include "docmgr/ui/dialoglayout.h"
 #include "docmgr/ui/dialogtext.h"
 #include "docmgr/ui/waitcursor.h"
 #include "docmgr/records/docfields.h"
 
 namespace {
-constexpr uint16_t kDialog = 15703;
 constexpr int kEntries = 20;
 bool rememberedAscending = true;
 }  // namespace
@@ -27,20 +27,17 @@ DocSortDialog::DocSortDialog(QWidget* parent, ImplDocConfig* config, unsigned sh
 {
     ScopedWaitCursor wait;
     setObjectName(QStringLiteral("sortDialog"));
-    setWindowTitle(DialogText(kDialog, 0));
+    setWindowTitle(DialogText(DLG_SORT));
 
-    auto* caption = new QLabel(DialogText(kDialog, 72), this);
-    caption->setObjectName(QStringLiteral("columnCaption"));
-    columnList_ = new QListWidget(this);
-    columnList_->setObjectName(QStringLiteral("columnList"));
+    auto* caption = Named(new QLabel(DialogText(DLG_SORT, SORT_BY_LABEL), this), "columnCaption");
+    columnList_ = Named(new QListWidget(this), "columnList");
     caption->setBuddy(columnList_);
-    directionFrame_ = new QGroupBox(DialogText(kDialog, 71), this);
-    directionFrame_->setObjectName(QStringLiteral("directionFrame"));
-    ascendingButton_ = new QRadioButton(DialogText(kDialog, 28), directionFrame_);
-    ascendingButton_->setObjectName(QStringLiteral("ascendingButton"));
-    descendingButton_ = new QRadioButton(DialogText(kDialog, 29), directionFrame_);
-    descendingButton_->setObjectName(QStringLiteral("descendingButton"));
-    std::tie(okButton_, cancelButton_) = MakeOkCancel(this, kDialog);
+    directionFrame_ = Named(new QGroupBox(DialogText(DLG_SORT, SORT_ORDER_FRAME), this), "directionFrame");
+    ascendingButton_ =
+        Named(new QRadioButton(DialogText(DLG_SORT, SORT_ASCENDING), directionFrame_), "ascendingButton");
+    descendingButton_ =
+        Named(new QRadioButton(DialogText(DLG_SORT, SORT_DESCENDING), directionFrame_), "descendingButton");
+    std::tie(okButton_, cancelButton_) = MakeOkCancel(this, DLG_SORT);
 
     auto* frameLayout = new QVBoxLayout(directionFrame_);
     frameLayout->addWidget(ascendingButton_);
@@ -76,10 +73,7 @@ DocSortDialog::DocSortDialog(QWidget* parent, ImplDocConfig* config, unsigned sh
     }
     SelectHdl();
 
-    setTabOrder(columnList_, ascendingButton_);
-    setTabOrder(ascendingButton_, descendingButton_);
-    setTabOrder(descendingButton_, okButton_);
-    setTabOrder(okButton_, cancelButton_);
+    SetTabChain({columnList_, ascendingButton_, descendingButton_, okButton_, cancelButton_});
     columnList_->setFocus();
 }
 

@@ -13,13 +13,9 @@
 #include "docmgr/tools/resmgr.h"
 #include "docmgr/view/docbrowser.h"
 #include "docmgr/view/docsummarywindow.h"
+#include "resources/resids.h"
 
 namespace {
-constexpr uint16_t STR_INDEX_NAME = 15720;
-constexpr uint16_t STR_DEF_EXTENSIONS = 15722;
-constexpr uint16_t STR_SUBDIR_MARKER = 15723;
-constexpr uint16_t STR_OPEN = 15738;
-constexpr uint16_t STR_SELECT = 15739;
 // Used when the host gives no configuration of its own, whatever name it gave.
 constexpr const char* FALLBACK_CONFIG = "dmgdump.cfg";
 }  // namespace

@@ -15,13 +15,9 @@
 #include "docmgr/view/docbrowser.h"
 #include "docmgr/view/doccommandmenu.h"
 #include "docmgr/ui/waitcursor.h"
+#include "resources/resids.h"
 
 namespace {
-constexpr uint16_t QUERY_DELETE = 15700;      // several documents, %1 their count
-constexpr uint16_t QUERY_DELETE_ONE = 15702;  // one document, %1 its file name
-constexpr uint16_t STR_DELETE_FAILED = 15724;
-constexpr uint16_t STR_DELETE_FAILED_END = 15725;
-
 // Paths of the selected rows in list order.
 std::vector<std::string> SelectedDocs(DocBrowser& browser)
 {

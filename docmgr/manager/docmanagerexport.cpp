@@ -15,10 +15,6 @@
 #include "docmgr/view/docbrowser.h"
 
 namespace {
-constexpr uint16_t DLG_EXPORT = 15711;  // title; local 1: the file type filter
-constexpr uint16_t STR_EXPORT_FAILED = 15744;
-constexpr uint16_t STR_EXPORT_FAILED_END = 15745;
-
 // Writes `text` to `path`, replacing the file; 0 or an errno value.
 int WriteFile(const std::string& path, const std::string& text)
 {
@@ -36,7 +32,7 @@ int WriteFile(const std::string& path, const std::string& text)
 
 void DocManagerImpl::ExportList()
 {
-    QFileDialog dialog(&manager, DialogText(DLG_EXPORT), QString(), DialogText(DLG_EXPORT, 1));
+    QFileDialog dialog(&manager, DialogText(DLG_EXPORT), QString(), DialogText(DLG_EXPORT, EXPORT_FILE_TYPES));
     dialog.setObjectName(QStringLiteral("exportDialog"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QStringLiteral("csv"));

@@ -17,11 +17,9 @@
 #include "docmgr/view/docbrowser.h"
 #include "docmgr/view/doccommandmenu.h"
 #include "docmgr/ui/waitcursor.h"
+#include "resources/resids.h"
 
 namespace {
-constexpr uint16_t STR_SAVE_QUESTION = 15736;
-constexpr uint16_t STR_SAVE_QUESTION_END = 15737;
-
 // Row of the list entry with exactly `text`, or -1.
 int FindEntry(const QListWidget* list, const QString& text)
 {

@@ -14,14 +14,6 @@
 #include "docmgr/view/docsummarywindow.h"
 
 namespace {
-constexpr uint16_t DLG_MANAGER = 15700;
-// Local ids of the controls in the dialog resource.
-enum : uint16_t {
-    ID_OPEN = 10, ID_CLOSE = 11, ID_GROUPS = 13, ID_PATHS = 14, ID_FILTER = 15, ID_SORT = 16,
-    ID_COLUMNS = 17, ID_PATHLINE = 20, ID_COMMANDS = 34, ID_SECTION_LABEL = 90,
-    ID_SECTION_LIST = 91, ID_GROUP_LABEL = 92, ID_GROUP_LIST = 93, ID_READONLY = 94,
-    ID_SINGLEVIEW = 95
-};
 // Width of the summary pane in dialog units.
 constexpr int SUMMARY_WIDTH = 240;
 // Default size of the dialog in dialog units; the list takes what the controls leave.
@@ -74,11 +66,11 @@ void DocManagerImpl::BuildControls()
 QLayout* DocManagerImpl::BuildChoice(const DocMgrResId& res)
 {
     sectionLabel = Make<QLabel>(&manager, "sectionLabel");
-    sectionLabel->setText(res.DialogText(ID_SECTION_LABEL));
+    sectionLabel->setText(res.DialogText(MANAGER_SECTION_LABEL));
     sectionList = Make<QListWidget>(&manager, "sectionList");
     sectionLabel->setBuddy(sectionList);
     groupLabel = Make<QLabel>(&manager, "groupLabel");
-    groupLabel->setText(res.DialogText(ID_GROUP_LABEL));
+    groupLabel->setText(res.DialogText(MANAGER_GROUP_LABEL));
     groupList = Make<QListWidget>(&manager, "groupList");
     groupLabel->setBuddy(groupList);
     const int listHeight = QFontMetrics(manager.font()).height() * LIST_ROWS + 8;
@@ -102,9 +94,9 @@ QLayout* DocManagerImpl::BuildChoice(const DocMgrResId& res)
 QLayout* DocManagerImpl::BuildViewOptions(const DocMgrResId& res)
 {
     singleViewBox = Make<QCheckBox>(&manager, "singleViewBox");
-    singleViewBox->setText(res.DialogText(ID_SINGLEVIEW));
+    singleViewBox->setText(res.DialogText(MANAGER_SINGLE_VIEW));
     readOnlyBox = Make<QCheckBox>(&manager, "readOnlyBox");
-    readOnlyBox->setText(res.DialogText(ID_READONLY));
+    readOnlyBox->setText(res.DialogText(MANAGER_READ_ONLY));
 
     auto* viewOptions = new QHBoxLayout;
     viewOptions->addWidget(singleViewBox);
@@ -117,14 +109,14 @@ QLayout* DocManagerImpl::BuildViewOptions(const DocMgrResId& res)
 void DocManagerImpl::BuildDialogButtons(const DocMgrResId& res)
 {
     openButton = Make<QPushButton>(&manager, "openButton");
-    openButton->setText(res.DialogText(ID_OPEN));
+    openButton->setText(res.DialogText(MANAGER_OPEN));
     openButton->setDefault(true);
     openButton->setEnabled(false);
     closeButton = Make<QPushButton>(&manager, "closeButton");
-    closeButton->setText(res.DialogText(ID_CLOSE));
+    closeButton->setText(res.DialogText(MANAGER_CLOSE));
     closeButton->setAutoDefault(false);
     commandsButton = Make<QToolButton>(&manager, "commandsButton");
-    commandsButton->setText(res.DialogText(ID_COMMANDS));
+    commandsButton->setText(res.DialogText(MANAGER_COMMANDS));
     commandMenu = new DocCommandMenu(commandsButton);
     commandsButton->setMenu(commandMenu);
     commandsButton->setPopupMode(QToolButton::InstantPopup);
@@ -155,11 +147,11 @@ void DocManagerImpl::BuildBrowser()
 
 void DocManagerImpl::BuildSettingsButtons(const DocMgrResId& res)
 {
-    const SettingsButton buttons[] = {{groupsButton, "groupsButton", ID_GROUPS},
-                                      {pathsButton, "pathsButton", ID_PATHS},
-                                      {filterButton, "filterButton", ID_FILTER},
-                                      {sortButton, "sortButton", ID_SORT},
-                                      {columnsButton, "columnsButton", ID_COLUMNS}};
+    const SettingsButton buttons[] = {{groupsButton, "groupsButton", MANAGER_GROUPS},
+                                      {pathsButton, "pathsButton", MANAGER_PATHS},
+                                      {filterButton, "filterButton", MANAGER_FILTER},
+                                      {sortButton, "sortButton", MANAGER_SORT},
+                                      {columnsButton, "columnsButton", MANAGER_COLUMNS}};
     for (const SettingsButton& s : buttons) {
         s.button = Make<QPushButton>(&manager, s.name);
         s.button->setText(res.DialogText(s.id));

@@ -17,11 +17,6 @@
 #include "docmgr/print/docprintingdlg.h"
 #include "docmgr/view/docbrowser.h"
 
-namespace {
-constexpr uint16_t kDialog = 15709;
-constexpr uint16_t kJobName = 15743;
-}  // namespace
-
 struct DocPrintDialog::Impl {
     explicit Impl(DocBrowser& browser)
         : browser(browser), printer(QPrinter::HighResolution), listPrinter(browser, printer)
@@ -29,13 +24,13 @@ struct DocPrintDialog::Impl {
     }
 
     DocBrowser& browser;
-    QLabel* columnLabel = new QLabel(DialogText(kDialog, 114));
+    QLabel* columnLabel = new QLabel(DialogText(DLG_PRINT, PRINT_COLUMNS_LABEL));
     QListWidget* columnList = new QListWidget;
-    QPushButton* okButton = new QPushButton(DialogText(kDialog, 18));
-    QPushButton* cancelButton = new QPushButton(DialogText(kDialog, 19));
-    QPushButton* printerButton = new QPushButton(DialogText(kDialog, 136));
-    QPushButton* fontButton = new QPushButton(DialogText(kDialog, 137));
-    QCheckBox* landscapeBox = new QCheckBox(DialogText(kDialog, 138));
+    QPushButton* okButton = new QPushButton(DialogText(DLG_PRINT, CTL_OK));
+    QPushButton* cancelButton = new QPushButton(DialogText(DLG_PRINT, CTL_CANCEL));
+    QPushButton* printerButton = new QPushButton(DialogText(DLG_PRINT, PRINT_PRINTER));
+    QPushButton* fontButton = new QPushButton(DialogText(DLG_PRINT, PRINT_FONT));
+    QCheckBox* landscapeBox = new QCheckBox(DialogText(DLG_PRINT, PRINT_LANDSCAPE));
     QLabel* fitLabel = new QLabel;
     QPrinter printer;  // the system's default printer
     DocListPrinter listPrinter;
@@ -52,7 +47,7 @@ struct DocPrintDialog::Impl {
 DocPrintDialog::DocPrintDialog(QWidget* parent, DocBrowser& browser)
     : QDialog(parent), d(std::make_unique<Impl>(browser))
 {
-    setWindowTitle(DialogText(kDialog));
+    setWindowTitle(DialogText(DLG_PRINT));
     d->columnLabel->setObjectName(QStringLiteral("columnLabel"));
     d->columnList->setObjectName(QStringLiteral("columnList"));
     d->okButton->setObjectName(QStringLiteral("okButton"));
@@ -80,6 +75,26 @@ DocPrintDialog::DocPrintDialog(QWidget* parent, DocBrowser& browser)
     const QFontMetrics metrics = d->columnList->fontMetrics();
     d->columnList->setMinimumSize(metrics.averageCharWidth() * 30, metrics.height() * 14);
 
+    LayOutControls();
+
+    connect(d->columnList, &QListWidget::itemSelectionChanged, this, &DocPrintDialog::SelectHdl);
+    connect(d->okButton, &QPushButton::clicked, this, &DocPrintDialog::OkHdl);
+    connect(d->cancelButton, &QPushButton::clicked, this, &QDialog::reject);
+    connect(d->printerButton, &QPushButton::clicked, this, &DocPrintDialog::PrintSettingsHdl);
+    connect(d->fontButton, &QPushButton::clicked, this, &DocPrintDialog::FontSettingsHdl);
+    connect(d->landscapeBox, &QCheckBox::toggled, this, [this](bool landscape) {
+        d->printer.setPageOrientation(landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+        ShowFit();
+    });
+    SelectHdl();
+}
+
+DocPrintDialog::~DocPrintDialog() = default;
+
+void DocPrintDialog::LayOutControls()
+{
+    // The column list with the fit warning below it; the buttons beside it, OK level
+    // with the list's top.
     auto* listLayout = new QVBoxLayout;
     listLayout->addWidget(d->columnLabel);
     listLayout->addWidget(d->columnList, 1);
@@ -96,20 +111,7 @@ DocPrintDialog::DocPrintDialog(QWidget* parent, DocBrowser& browser)
     auto* layout = new QHBoxLayout(this);
     layout->addLayout(listLayout, 1);
     layout->addLayout(buttons);
-
-    connect(d->columnList, &QListWidget::itemSelectionChanged, this, &DocPrintDialog::SelectHdl);
-    connect(d->okButton, &QPushButton::clicked, this, &DocPrintDialog::OkHdl);
-    connect(d->cancelButton, &QPushButton::clicked, this, &QDialog::reject);
-    connect(d->printerButton, &QPushButton::clicked, this, &DocPrintDialog::PrintSettingsHdl);
-    connect(d->fontButton, &QPushButton::clicked, this, &DocPrintDialog::FontSettingsHdl);
-    connect(d->landscapeBox, &QCheckBox::toggled, this, [this](bool landscape) {
-        d->printer.setPageOrientation(landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
-        ShowFit();
-    });
-    SelectHdl();
 }
-
-DocPrintDialog::~DocPrintDialog() = default;
 
 QPrinter* DocPrintDialog::GetPrinter() const { return &d->printer; }
 QFont DocPrintDialog::GetPrintFont() const { return d->listPrinter.GetFont(); }
@@ -143,7 +145,7 @@ void DocPrintDialog::ShowFit()
     // printing, while a narrower font or landscape can still help.
     const int chosen = int(d->columnList->selectedItems().size());
     const int fitting = chosen == 0 ? 0 : FittingColumns();
-    d->fitLabel->setText(DialogText(kDialog, 139).arg(fitting).arg(chosen));
+    d->fitLabel->setText(DialogText(DLG_PRINT, PRINT_FIT_WARNING).arg(fitting).arg(chosen));
     d->fitLabel->setVisible(chosen > 0 && fitting < chosen);
     d->landscapeBox->blockSignals(true);
     d->landscapeBox->setChecked(d->printer.pageLayout().orientation() == QPageLayout::Landscape);
@@ -169,7 +171,7 @@ void DocPrintDialog::FontSettingsHdl()
 
 void DocPrintDialog::OkHdl()
 {
-    if (!StartJob(QString::fromStdString(ResString(kJobName)))) {
+    if (!StartJob(QString::fromStdString(ResString(STR_PRINT_JOB)))) {
         done(0);
         return;
     }

@@ -29,6 +29,7 @@ public:
     int FittingColumns() const;
 
 private:
+    void LayOutControls();
     void SelectHdl();
     void PrintSettingsHdl();
     void FontSettingsHdl();

@@ -10,7 +10,6 @@
 #include "docmgr/ui/fileoptext.h"
 
 namespace {
-constexpr uint16_t kDialog = 15710;
 constexpr int kPollMs = 2000;
 
 // The printer's name; a printer that writes a file is named by that file.
@@ -25,12 +24,12 @@ QString PrinterName(const QPrinter& printer)
 DocPrintingDlg::DocPrintingDlg(QWidget* parent, QPrinter* printer)
     : QDialog(parent),
       printer_(printer),
-      messageLabel_(new QLabel(DialogText(kDialog, 136))),
+      messageLabel_(new QLabel(DialogText(DLG_PRINTING, PRINTING_MESSAGE))),
       printerLabel_(new QLabel),
-      cancelButton_(new QPushButton(DialogText(kDialog, 19))),
+      cancelButton_(new QPushButton(DialogText(DLG_PRINTING, CTL_CANCEL))),
       timer_(new QTimer(this))
 {
-    setWindowTitle(DialogText(kDialog));
+    setWindowTitle(DialogText(DLG_PRINTING));
     messageLabel_->setObjectName(QStringLiteral("messageLabel"));
     printerLabel_->setObjectName(QStringLiteral("printerLabel"));
     cancelButton_->setObjectName(QStringLiteral("cancelButton"));

@@ -4,12 +4,10 @@
 #include "docmgr/tools/fsutil.h"
 #include "docmgr/tools/intl.h"
 #include "docmgr/tools/resmgr.h"
+#include "resources/resids.h"
 
 namespace {
 
-constexpr uint16_t STR_COL_NAME = 15700;
-constexpr uint16_t STR_COL_SIZE = 15701;
-constexpr uint16_t STR_COL_DIRECTORY = 15702;
 const char* const NOT_SET = "---";
 
 std::string DateText(const Date& date) { return intl::FormatDate(date); }
@@ -105,9 +103,9 @@ std::string GetColumnTitle(uint16_t columnId, const DocGroupConfig& group)
     case COL_INFO2:
     case COL_INFO3: return group.infoLabel[columnId - COL_INFO0];
     default:
-        // Titles of columns 3..15 are strings 15700 + id.
+        // Columns 3..15 have their titles in the same order.
         if (columnId >= COL_TITLE && columnId <= COL_KEYWORDS)
-            return ResString(uint16_t(STR_COL_NAME + columnId));
+            return ResString(uint16_t(STR_COL_TITLE + (columnId - COL_TITLE)));
         return {};
     }
 }

@@ -32,6 +32,6 @@ const Time& TimeField(const DocInfo& info, uint16_t columnId);
 // Text of one cell: "---" for 8/9 when their texts equal 5/6, and for 11..13 when the
 // printed stamp equals the created stamp; empty for ids outside 1..20.
 std::string GetFieldString(const DocInfo& info, uint16_t columnId);
-// Title of a column: strings 15700.. for the fixed columns, the group's info captions
+// Title of a column: strings STR_COL_NAME.. for the fixed columns, the group's info captions
 // for 16..19; empty for ids outside 1..20.
 std::string GetColumnTitle(uint16_t columnId, const DocGroupConfig& group);

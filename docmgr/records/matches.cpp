@@ -14,19 +14,19 @@
 
 namespace {
 
-constexpr int COND_WILDCARD = 6;
-
-// Condition codes 0..5 on the comparison of document value against comparison value.
-bool Holds(int condition, std::strong_ordering c)
+// A comparing condition on the comparison of document value against comparison value.
+bool Holds(FilterCondition condition, std::strong_ordering c)
 {
     switch (condition) {
-    case 0: return c == 0;
-    case 1: return c >= 0;
-    case 2: return c <= 0;
-    case 3: return c > 0;
-    case 4: return c < 0;
-    default: return c != 0;  // 5
+    case FilterCondition::Equal: return c == 0;
+    case FilterCondition::AtLeast: return c >= 0;
+    case FilterCondition::AtMost: return c <= 0;
+    case FilterCondition::Greater: return c > 0;
+    case FilterCondition::Less: return c < 0;
+    case FilterCondition::NotEqual: return c != 0;
+    case FilterCondition::Wildcard: break;  // matched, not compared
     }
+    return false;
 }
 
 class FilterTest {
@@ -58,11 +58,11 @@ public:
     bool Row(const DocInfo& info, size_t r, bool previous) const
     {
         const uint16_t field = group_.filterField[r];
-        const int condition = group_.filterCondition[r];
-        if (condition < 0 || condition > COND_WILDCARD)
+        const std::optional<FilterCondition> condition = ConditionOf(group_.filterCondition[r]);
+        if (!condition)
             return previous;
         const std::string& value = group_.filterValue[r];
-        const bool wild = condition == COND_WILDCARD;
+        const bool wild = *condition == FilterCondition::Wildcard;
 
         switch (KindOfColumn(field)) {
         case FieldKind::Name:
@@ -72,19 +72,19 @@ public:
             const std::string other = Cased(value);
             if (wild)
                 return wildcard::Match(other, text);
-            return Holds(condition, text.compare(other) <=> 0);
+            return Holds(*condition, text.compare(other) <=> 0);
         }
         case FieldKind::Size: {
             const auto number = static_cast<uint32_t>(tokens::ToNumber(value));
             if (wild)  // the value's wildcards are lost on the way: equality
                 return wildcard::Match(std::to_string(number), std::to_string(info.size));
-            return Holds(condition, info.size <=> number);
+            return Holds(*condition, info.size <=> number);
         }
         case FieldKind::Date: {
             const Date& date = DateField(info, field);
             if (wild)
                 return wildcard::Match(value, intl::FormatDate(date));
-            return Holds(condition, date.GetDate() <=> group_.filterDate[r]);
+            return Holds(*condition, date.GetDate() <=> group_.filterDate[r]);
         }
         // Codes 0 and 20 and above compare the printed time.
         case FieldKind::Time:
@@ -93,7 +93,7 @@ public:
             const Time& time = TimeField(info, field);
             if (wild)
                 return wildcard::Match(value, intl::FormatTime(time));
-            return Holds(condition, time.GetTime() <=> static_cast<int32_t>(group_.filterTime[r]));
+            return Holds(*condition, time.GetTime() <=> static_cast<int32_t>(group_.filterTime[r]));
         }
         }
         return previous;
@@ -101,7 +101,9 @@ public:
 
     bool Conditions(const DocInfo& info) const
     {
-        const size_t rows = group_.filterLink[0] == 0 ? 1 : group_.filterLink[1] == 0 ? 2 : 3;
+        const FilterLink link0 = LinkOf(group_.filterLink[0]);
+        const FilterLink link1 = LinkOf(group_.filterLink[1]);
+        const size_t rows = link0 == FilterLink::End ? 1 : link1 == FilterLink::End ? 2 : 3;
         bool r[FILTER_ROWS] = {false, false, false};
         for (size_t i = 0; i < rows; ++i)
             r[i] = Row(info, i, i > 0 ? r[i - 1] : false);
@@ -110,11 +112,11 @@ public:
             return r[0];
         if (rows == 2) {
             // Two rows take AND or OR from the sort settings, not from the link.
-            const bool both = group_.sortColumnId == 1 && !group_.sortAscending;
+            const bool both = group_.sortColumnId == COL_NAME && !group_.sortAscending;
             return both ? (r[0] && r[1]) : (r[0] || r[1]);
         }
-        const bool and0 = group_.filterLink[0] == 1;
-        const bool and1 = group_.filterLink[1] == 1;
+        const bool and0 = link0 == FilterLink::And;
+        const bool and1 = link1 == FilterLink::And;
         if (and0 && and1)
             return r[0] && r[1] && r[2];
         if (and0)

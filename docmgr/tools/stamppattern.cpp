@@ -2,6 +2,7 @@
 
 #include <QDate>
 #include <QTime>
+#include <optional>
 
 namespace {
 
@@ -12,6 +13,29 @@ qsizetype RunLength(const QString& pattern, qsizetype i)
     while (i + n < pattern.size() && pattern[i + n] == pattern[i])
         ++n;
     return n;
+}
+
+// The text quoted from `i` on, which is moved past the closing quote; '' stands for one
+// quote.
+std::string QuotedText(const QString& pattern, qsizetype& i)
+{
+    std::string text;
+    qsizetype j = i + 1;
+    for (; j < pattern.size(); ++j) {
+        if (pattern[j] == u'\'') {
+            if (j + 1 < pattern.size() && pattern[j + 1] == u'\'') {
+                text += '\'';
+                ++j;
+                continue;
+            }
+            break;
+        }
+        text += QString(pattern[j]).toStdString();
+    }
+    if (j == i + 1 && j < pattern.size())
+        text.assign(1, '\'');
+    i = j + 1;
+    return text;
 }
 
 void AppendNumber(std::string& out, int value, int width)
@@ -30,6 +54,13 @@ StampPattern::StampPattern(const QLocale& locale, const QString& pattern)
 {
     // Digits other than 0-9 are the locale's business.
     viaLocale_ = locale.zeroDigit() != QStringLiteral("0");
+    ReadNames(locale);
+    if (!viaLocale_)
+        Parse(pattern);
+}
+
+void StampPattern::ReadNames(const QLocale& locale)
+{
     for (int form = 0; form < 2; ++form) {
         const auto format = form == 0 ? QLocale::ShortFormat : QLocale::LongFormat;
         for (int month = 1; month <= 12; ++month)
@@ -37,47 +68,38 @@ StampPattern::StampPattern(const QLocale& locale, const QString& pattern)
         for (int day = 1; day <= 7; ++day)
             dayNames_[form][day] = locale.dayName(day, format).toStdString();
     }
+}
+
+std::optional<StampPattern::Field> StampPattern::RunField(QChar c, qsizetype run)
+{
+    if (c == u'd' && run <= 4)
+        return run <= 2 ? Field::Day : Field::DayName;
+    if (c == u'M' && run <= 4)
+        return run <= 2 ? Field::Month : Field::MonthName;
+    if (c == u'y' && (run == 2 || run == 4))
+        return run == 2 ? Field::Year2 : Field::Year4;
+    if (c == u'H' && run <= 2)
+        return Field::Hour24;
+    if (c == u'h' && run <= 2)
+        return Field::Hour12;
+    if (c == u'm' && run <= 2)
+        return Field::Minute;
+    if (c == u's' && run <= 2)
+        return Field::Second;
+    return std::nullopt;
+}
+
+void StampPattern::Parse(const QString& pattern)
+{
     bool twelveHour = false;
     for (qsizetype i = 0; i < pattern.size() && !viaLocale_;) {
         const QChar c = pattern[i];
         const qsizetype run = RunLength(pattern, i);
-        auto add = [&](Field field, int width, qsizetype used) {
-            parts_.push_back({field, width, {}});
-            i += used;
-        };
         if (c == u'\'') {
-            // Quoted text; '' stands for one quote.
-            std::string text;
-            qsizetype j = i + 1;
-            for (; j < pattern.size(); ++j) {
-                if (pattern[j] == u'\'') {
-                    if (j + 1 < pattern.size() && pattern[j + 1] == u'\'') {
-                        text += '\'';
-                        ++j;
-                        continue;
-                    }
-                    break;
-                }
-                text += QString(pattern[j]).toStdString();
-            }
-            if (j == i + 1 && j < pattern.size())
-                text.assign(1, '\'');
-            parts_.push_back({Field::Text, 0, text});
-            i = j + 1;
-        } else if (c == u'd' && run <= 4) {
-            add(run <= 2 ? Field::Day : Field::DayName, int(run), run);
-        } else if (c == u'M' && run <= 4) {
-            add(run <= 2 ? Field::Month : Field::MonthName, int(run), run);
-        } else if (c == u'y' && (run == 2 || run == 4)) {
-            add(run == 2 ? Field::Year2 : Field::Year4, int(run), run);
-        } else if (c == u'H' && run <= 2) {
-            add(Field::Hour24, int(run), run);
-        } else if (c == u'h' && run <= 2) {
-            add(Field::Hour12, int(run), run);
-        } else if (c == u'm' && run <= 2) {
-            add(Field::Minute, int(run), run);
-        } else if (c == u's' && run <= 2) {
-            add(Field::Second, int(run), run);
+            parts_.push_back({Field::Text, 0, QuotedText(pattern, i)});
+        } else if (const std::optional<Field> field = RunField(c, run)) {
+            parts_.push_back({*field, int(run), {}});
+            i += run;
         } else if ((c == u'A' || c == u'a') && i + 1 < pattern.size() &&
                    (pattern[i + 1] == u'P' || pattern[i + 1] == u'p')) {
             parts_.push_back({Field::AmPm, 0, {}, c == u'a'});

@@ -4,6 +4,7 @@
 // for each one.
 #include <QLocale>
 #include <QString>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -26,6 +27,12 @@ private:
         std::string text;   // Field::Text
         bool lower = false; // Field::AmPm in lower case ("ap"), else upper case
     };
+    // The month and day names of both lengths.
+    void ReadNames(const QLocale& locale);
+    // Takes `pattern` apart into parts_, or sets viaLocale_ for what only the locale knows.
+    void Parse(const QString& pattern);
+    // The field a run of `run` letters `c` stands for; none when it stands for no part.
+    static std::optional<Field> RunField(QChar c, qsizetype run);
     void Append(std::string& out, const Part& part, int year, int month, int day, int hour,
                 int minute, int second) const;
 

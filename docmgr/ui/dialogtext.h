@@ -5,8 +5,8 @@
 
 #include "docmgr/ui/docmgrresid.h"
 
-// Title (local 0) or control text of dialog `dialog`.
-inline QString DialogText(uint16_t dialog, uint16_t local = 0)
+// Title (CTL_TITLE) or control text of dialog `dialog`.
+inline QString DialogText(uint16_t dialog, uint16_t local = CTL_TITLE)
 {
     return DocMgrResId(dialog).DialogText(local);
 }
@@ -20,13 +20,13 @@ inline QString MenuText(uint16_t menu, uint16_t item)
 #include <tuple>  // callers take the pair apart with std::tie
 #include <utility>
 
-// The OK button (control 18, the default) and the cancel button (19) of dialog `dialog`.
+// The OK button (CTL_OK, the default) and the cancel button (CTL_CANCEL) of dialog `dialog`.
 inline std::pair<QPushButton*, QPushButton*> MakeOkCancel(QWidget* parent, uint16_t dialog)
 {
-    auto* ok = new QPushButton(DialogText(dialog, 18), parent);
+    auto* ok = new QPushButton(DialogText(dialog, CTL_OK), parent);
     ok->setObjectName(QStringLiteral("okButton"));
     ok->setDefault(true);
-    auto* cancel = new QPushButton(DialogText(dialog, 19), parent);
+    auto* cancel = new QPushButton(DialogText(dialog, CTL_CANCEL), parent);
     cancel->setObjectName(QStringLiteral("cancelButton"));
     return {ok, cancel};
 }

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "docmgr/tools/resmgr.h"
+#include "resources/resids.h"
 
 class DocMgrResId {
 public:
@@ -19,7 +20,7 @@ public:
     std::string String() const;
     // Title (local 0) or control text of the dialog, item of the menu, text of the box.
     QString Text(ResKind kind, uint16_t local = 0) const;
-    QString DialogText(uint16_t local = 0) const { return Text(ResKind::Dialog, local); }
+    QString DialogText(uint16_t local = CTL_TITLE) const { return Text(ResKind::Dialog, local); }
 
 private:
     uint16_t id_;

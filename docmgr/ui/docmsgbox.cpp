@@ -4,10 +4,9 @@
 #include <cstring>
 
 #include "docmgr/tools/resmgr.h"
+#include "resources/resids.h"
 
 namespace {
-constexpr uint16_t DLG_MANAGER = 15700;
-
 DocBoxAnswerer& Answerer()
 {
     static DocBoxAnswerer answerer;
@@ -22,7 +21,7 @@ DocBoxExtras& Extras()
 
 QString BoxTitle()
 {
-    return QString::fromStdString(ResText(ResKind::Dialog, DLG_MANAGER, 0));
+    return QString::fromStdString(ResText(ResKind::Dialog, DLG_MANAGER, CTL_TITLE));
 }
 }  // namespace
 

@@ -4,13 +4,11 @@
 #include <QProgressDialog>
 
 #include "docmgr/tools/resmgr.h"
+#include "resources/resids.h"
 
 namespace {
 int delayMs = 500;
 constexpr int UPDATE_INTERVAL_MS = 100;
-constexpr uint16_t DLG_MANAGER = 15700;
-constexpr uint16_t TEXT_PROGRESS = 40;   // "%1 folders, %2 documents read"
-constexpr uint16_t TEXT_PROGRESS_TITLE = 41;
 }  // namespace
 
 CollectProgress::CollectProgress(QWidget* parent) : parent_(parent) {}
@@ -43,7 +41,7 @@ void CollectProgress::Update(size_t dirs, size_t docs)
         dialog_ = new QProgressDialog(parent_);
         dialog_->setObjectName("collectProgress");
         dialog_->setWindowTitle(
-            QString::fromStdString(ResText(ResKind::Dialog, DLG_MANAGER, TEXT_PROGRESS_TITLE)));
+            QString::fromStdString(ResText(ResKind::Dialog, DLG_MANAGER, MANAGER_PROGRESS_TITLE)));
         dialog_->setCancelButton(nullptr);  // a collection runs to its end
         dialog_->setRange(0, 0);
         dialog_->setMinimumDuration(0);
@@ -51,7 +49,7 @@ void CollectProgress::Update(size_t dirs, size_t docs)
         dialog_->setMinimumWidth(dialog_->fontMetrics().averageCharWidth() * 45);
         shown_ = true;
     }
-    lastText_ = QString::fromStdString(ResText(ResKind::Dialog, DLG_MANAGER, TEXT_PROGRESS))
+    lastText_ = QString::fromStdString(ResText(ResKind::Dialog, DLG_MANAGER, MANAGER_PROGRESS))
                     .arg(dirs)
                     .arg(docs);
     dialog_->setLabelText(lastText_);

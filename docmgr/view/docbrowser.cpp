@@ -14,9 +14,9 @@
 #include "docmgr/view/doclistmodel.h"
 #include "docmgr/view/frozencolumns.h"
 #include "docmgr/ui/waitcursor.h"
+#include "resources/resids.h"
 
 namespace {
-constexpr uint16_t STR_COUNT_LINE = 15718;
 constexpr uint16_t DEFAULT_WIDTH = 0xFFFF;
 }  // namespace
 

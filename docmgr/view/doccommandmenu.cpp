@@ -3,9 +3,6 @@
 #include "docmgr/tools/resmgr.h"
 
 namespace {
-constexpr uint16_t MENU_COMMANDS = 15700;
-constexpr unsigned short FIRST_COMMAND = 20;
-constexpr unsigned short LAST_COMMAND = 26;
 const char* const kItemNames[] = {"deleteItem", "docInfoItem", "copyItem",
                                   "renameItem", "printDocsItem", "printListItem",
                                   "exportListItem"};
@@ -14,10 +11,10 @@ const char* const kItemNames[] = {"deleteItem", "docInfoItem", "copyItem",
 DocCommandMenu::DocCommandMenu(QWidget* parent) : QMenu(parent)
 {
     setObjectName("commandMenu");
-    for (unsigned short id = FIRST_COMMAND; id <= LAST_COMMAND; ++id) {
+    for (unsigned short id = CMD_DELETE; id <= CMD_EXPORTLIST; ++id) {
         QAction* item = addAction(QString::fromStdString(ResText(ResKind::Menu, MENU_COMMANDS, id)));
         item->setData(id);
-        item->setObjectName(kItemNames[id - FIRST_COMMAND]);
+        item->setObjectName(kItemNames[id - CMD_DELETE]);
     }
     // The keys work where the list has the focus: the manager adds these items to it.
     Item(CMD_DELETE)->setShortcut(QKeySequence::Delete);

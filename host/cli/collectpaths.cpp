@@ -5,10 +5,7 @@
 #include "docmgr/tools/fsutil.h"
 #include "docmgr/tools/resmgr.h"
 #include "docmgr/tools/tokens.h"
-
-namespace {
-constexpr uint16_t STR_NO_START_PATH = 15723;
-}
+#include "resources/resids.h"
 
 std::string ActivePaths(const DocGroupConfig& group)
 {
@@ -30,7 +27,7 @@ std::string JoinStartPaths(const std::vector<std::string>& paths)
     for (const std::string& path : paths)
         raw += (raw.empty() ? "" : ";") + path;
     // The placeholder start path means "none", as in the window.
-    if (raw == ResString(STR_NO_START_PATH))
+    if (raw == ResString(STR_SUBDIR_MARKER))
         return {};
 
     std::string joined;

@@ -13,6 +13,7 @@
 #include "host/cli/listformat.h"
 #include "host/cli/readersource.h"
 #include "host/cli/userconfig.h"
+#include "resources/resids.h"
 
 namespace {
 
@@ -20,9 +21,6 @@ struct HeadlessResult {
     int status = 0;     // 0 success, 1 failure, 2 bad arguments
     std::string err;    // messages for standard error
 };
-
-constexpr uint16_t STR_INDEX_NAME = 15720;
-constexpr uint16_t STR_DEFAULT_EXTENSIONS = 15722;
 
 HeadlessResult Failure(int status, std::string err, const std::string& message)
 {
@@ -117,7 +115,7 @@ HeadlessResult Run(const CommandLine& cmd, std::ostream& out, std::ostream& errO
         return Failure(1, std::move(err), error);
 
     // A configuration without groups gets its first group, and the user is told so.
-    ImplDocConfig settings(config.get(), ResString(STR_DEFAULT_EXTENSIONS),
+    ImplDocConfig settings(config.get(), ResString(STR_DEF_EXTENSIONS),
                            [&err](const std::string& message) { err += message + "\n"; });
     if (!config->GetSaveError().empty())
         err += "docmanager: the configuration " + config->GetPath()

@@ -6,6 +6,7 @@
 #include "docmgr/config/impldocconfig.h"
 #include "docmgr/tools/config.h"
 #include "tests/config/configfixture.h"
+#include "resources/resids.h"
 
 using ManagerConfigTest = ConfigFileTest;
 
@@ -37,7 +38,7 @@ TEST_F(ManagerConfigTest, EmptyFileMakesAndSavesAFirstGroup)
         EXPECT_EQ(docConfig.actualGroup, 1u);
         EXPECT_EQ(docConfig.access, ACCESS_FILECOPY | ACCESS_FILEDELETE | ACCESS_FILEPRINT |
                                         ACCESS_FILERENAME);
-        EXPECT_EQ(docConfig.Group(0).section, ResString(15716));
+        EXPECT_EQ(docConfig.Group(0).section, ResString(STR_DEFAULT_SECTION));
         // The one-line export: header, working group, then the list.
         EXPECT_EQ(docConfig.Export(), "@DocManager[2.1][F][1][2][" + docConfig.WorkingGroup().Export() +
                                           "}[" + docConfig.Group(0).Export() + "}!");
@@ -46,7 +47,7 @@ TEST_F(ManagerConfigTest, EmptyFileMakesAndSavesAFirstGroup)
         EXPECT_EQ(docConfig.Export().substr(0, 25), "@DocManager[2.1][T][0][2]");
     }
     ASSERT_EQ(messages.size(), 1u);
-    EXPECT_EQ(messages[0], ResString(15721));
+    EXPECT_EQ(messages[0], ResString(STR_NEW_CONFIG));
 
     Config saved(Path());
     saved.SetGroup("0");

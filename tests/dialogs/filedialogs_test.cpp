@@ -8,6 +8,7 @@
 #include "docmgr/dialogs/docfolderdialog.h"
 #include "docmgr/dialogs/docrenamedialog.h"
 #include "tests/support/managerfixture.h"
+#include "resources/resids.h"
 
 class FileDialogTest : public ManagerTest {
 protected:
@@ -69,7 +70,7 @@ TEST_F(FileDialogTest, MoveLeavesADocumentWhoseTargetExistsAndSaysSo)
     EXPECT_EQ(dir.Read("docs/b.odt"), "mine b");
     EXPECT_EQ(dir.Read("dst/b.odt"), "theirs");
     // No guess at the cause: the system's reason.
-    EXPECT_EQ(infos, std::vector<std::string>{ResString(15730) + "b.odt could not be moved."});
+    EXPECT_EQ(infos, std::vector<std::string>{ResString(STR_MOVE_FAILED) + "b.odt could not be moved."});
     EXPECT_EQ(AnsweredDocBox().detail.toStdString(), std::strerror(EEXIST));
 }
 
@@ -77,7 +78,7 @@ TEST_F(FileDialogTest, TheFolderDialogNeedsANameAndRefusesOneLeavingItsBase)
 {
     AnswerBoxes(RET_YES);
     DocFolderDialog dialog(nullptr, dst);
-    EXPECT_EQ(dialog.windowTitle().toStdString(), ResText(ResKind::Dialog, 15707) + " [" + dst + "]");
+    EXPECT_EQ(dialog.windowTitle().toStdString(), ResText(ResKind::Dialog, DLG_NEW_FOLDER) + " [" + dst + "]");
     EXPECT_FALSE(In<QPushButton>(dialog, "okButton")->isEnabled());
     In<QLineEdit>(dialog, "nameEdit")->setText("x");
     EXPECT_TRUE(In<QPushButton>(dialog, "okButton")->isEnabled());
@@ -90,7 +91,8 @@ TEST_F(FileDialogTest, TheFolderDialogNeedsANameAndRefusesOneLeavingItsBase)
         DocFolderDialog folder(nullptr, dst);
         In<QLineEdit>(folder, "nameEdit")->setText(QString::fromStdString(refused));
         In<QPushButton>(folder, "okButton")->click();
-        EXPECT_EQ(infos, std::vector<std::string>{ResString(15726) + dst + refused + ResString(15727)});
+        EXPECT_EQ(infos, std::vector<std::string>{ResString(STR_FOLDER_FAILED) + dst + refused +
+                                                  ResString(STR_FOLDER_FAILED_END)});
         EXPECT_TRUE(folder.GetFolder().empty());
     }
     EXPECT_EQ(dir.Read("dst/notes"), "keep");
@@ -102,7 +104,7 @@ TEST_F(FileDialogTest, RenameRefusesTakenNamesAndSeparatorsAndAllowsACaseVariant
     dir.MakeDir("docs/sub");
     const std::string report = dir.MakeFile("docs/report.odt", "mine");
     StartSelected({"report.odt"});
-    const std::string failed = ResString(15732) + "report.odt" + ResString(15733);
+    const std::string failed = ResString(STR_RENAME_FAILED) + "report.odt" + ResString(STR_RENAME_FAILED_END);
     const struct {
         const char* newName;
         unsigned count;

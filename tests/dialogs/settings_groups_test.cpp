@@ -4,6 +4,7 @@
 
 #include "docmgr/dialogs/docgroupsdialog.h"
 #include "tests/support/managerfixture.h"
+#include "resources/resids.h"
 
 class GroupsDialogTest : public ManagerTest {
 protected:
@@ -60,8 +61,8 @@ protected:
     void OpenThree(int actual = 1) { Open({{standard, "General"}, {"Alpha", "Work"}, {"Beta", "Home"}}, actual); }
 
     std::unique_ptr<DocGroupsDialog> dialog;
-    const std::string standard = ResString(15717);
-    const std::string stem = ResString(15719);
+    const std::string standard = ResString(STR_FIRST_GROUP);
+    const std::string stem = ResString(STR_NEW_GROUP_STEM);
 };
 
 TEST_F(GroupsDialogTest, OpensOnTheActualGroupAndProtectsTheFirstGroup)
@@ -157,7 +158,7 @@ TEST_F(GroupsDialogTest, NewMakesAGroupFromTheSettingsInForceAndOkMakesTheSelect
     Button("newButton")->click();
     EXPECT_EQ(Texts(List()), Names());
     EXPECT_EQ(NameEdit()->text().toStdString(), stem + "1");
-    EXPECT_EQ(Settings().Group(3).section, ResString(15716));
+    EXPECT_EQ(Settings().Group(3).section, ResString(STR_DEFAULT_SECTION));
     EXPECT_EQ(Settings().Group(3).sortColumnId, 7);
 
     List()->setCurrentRow(2);
@@ -188,7 +189,7 @@ TEST_F(GroupsDialogTest, CancelSwitchesOnlyWhenTheMainGroupWasTouched)
     // Main group stored into while another is selected: it is still listed, not selected.
     OpenThree();
     Settings().WorkingGroup().paths = "/new";
-    dialog->SettingsHdl(DocGroupsDialog::ITEM_STORE);
+    dialog->SettingsHdl(ITEM_STORE);
     EXPECT_EQ(Settings().Group(1).paths, "/new");
     List()->setCurrentRow(2);
     Button("cancelButton")->click();
@@ -204,13 +205,13 @@ TEST_F(GroupsDialogTest, SettingsMenuOpensTheDialogsOnTheSelectedGroup)
         In<QListWidget>(sort, "columnList")->setCurrentRow(4);
         In<QPushButton>(sort, "okButton")->click();
     });
-    dialog->SettingsHdl(DocGroupsDialog::ITEM_SORT);
+    dialog->SettingsHdl(ITEM_SORT);
     EXPECT_EQ(Settings().Group(2).sortColumnId, 4);
     EXPECT_FALSE(dialog->IsMainGroupChanged());
 
     // Cancelled on the main group: nothing is marked.
     List()->setCurrentRow(1);
     OnNextModal([](QDialog& columns) { In<QPushButton>(columns, "cancelButton")->click(); });
-    dialog->SettingsHdl(DocGroupsDialog::ITEM_COLUMNS);
+    dialog->SettingsHdl(ITEM_COLUMNS);
     EXPECT_FALSE(dialog->IsMainGroupChanged());
 }

@@ -13,6 +13,7 @@
 #include "docmgr/print/docprintingdlg.h"
 #include "docmgr/records/docfields.h"
 #include "tests/support/managerfixture.h"
+#include "resources/resids.h"
 
 // The output of one of poppler's tools (pdfinfo, pdftotext) on `pdf`; empty when it fails.
 static QString Poppler(const char* program, QStringList arguments, const std::string& pdf)
@@ -104,7 +105,7 @@ TEST_F(PrintTest, ColumnsGoInIdOrderEachAsWideAsItsWidestText)
     Settings().WorkingGroup().columnId = {5, 3, 1, 2, 4, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20};
     Browser().InsertColumns();
     QSet<QString> titles;
-    for (uint16_t id : {15705, 15703, 15700, 15707})
+    for (uint16_t id : {STR_COL_CREATED_DATE, STR_COL_TITLE, STR_COL_NAME, STR_COL_AUTHOR})
         titles.insert(QString::fromStdString(ResString(id)));
     const auto widths = DocListPrinter(Browser(), *dialog->GetPrinter()).ColumnWidths(titles);
     // "doc00.odt" over "File name", the long title on the second row, "Author" over "Tester"
@@ -155,7 +156,7 @@ TEST_F(PrintTest, OkPrintsTheListPageByPageToAPdfPrinter)
     EXPECT_EQ(pages[0][1], "doc00.odt doc00.odt");
     const std::string last = DocName(lines - 1);
     EXPECT_EQ(pages[1], (std::vector<std::string>{"File name Title", last + " " + last}));
-    const QString title = QRegularExpression::escape(QString::fromStdString(ResString(15743)));
+    const QString title = QRegularExpression::escape(QString::fromStdString(ResString(STR_PRINT_JOB)));
     EXPECT_TRUE(Poppler("pdfinfo", {}, pdf).contains(QRegularExpression("^Title: *" + title + "$", QRegularExpression::MultilineOption)));
     // The header starts in the top left corner of the printable area: 20 mm (56.7 pt)
     // from the left edge, 15 mm (42.5 pt) from the top.

@@ -14,6 +14,7 @@
 #include "docmgr/tools/replacefile.h"
 #include "docmgr/tools/resmgr.h"
 #include "tests/support/tempdir.h"
+#include "resources/resids.h"
 
 namespace {
 struct Files : ::testing::Test {
@@ -105,22 +106,22 @@ TEST_F(Files, StreamReadsWritesAtPositionsAndLocksExclusively)
 TEST(Resources, ModuleSlotHoldsTheManagerWhileTheModuleLives)
 {
     EXPECT_EQ(GetModuleResMgr(), nullptr);
-    EXPECT_EQ(ResString(15723), "");
+    EXPECT_EQ(ResString(STR_SUBDIR_MARKER), "");
     {
         ResModule module(Language::German);
         ASSERT_NE(GetModuleResMgr(), nullptr);
-        EXPECT_EQ(ResString(15700), "Dateiname");
-        EXPECT_EQ(ResString(15723), "/**");
-        EXPECT_EQ(ResString(15720), ".docindex");
+        EXPECT_EQ(ResString(STR_COL_NAME), "Dateiname");
+        EXPECT_EQ(ResString(STR_SUBDIR_MARKER), "/**");
+        EXPECT_EQ(ResString(STR_INDEX_NAME), ".docindex");
     }
     // A language without a catalogue shows English; a country variant finds its language.
     for (const Language& language : {Language{"fr"}, Language{"de_AT"}}) {
         ResModule module(language);
-        EXPECT_EQ(ResString(15700), language.code == "fr" ? "File name" : "Dateiname");
+        EXPECT_EQ(ResString(STR_COL_NAME), language.code == "fr" ? "File name" : "Dateiname");
     }
     EXPECT_EQ(GetAppData(SHL_DOCMGR), nullptr);
     ResModule english(Language::English);
-    EXPECT_EQ(ResString(15700), "File name");
+    EXPECT_EQ(ResString(STR_COL_NAME), "File name");
     EXPECT_EQ(ResString(9999), "");
 }
 
