@@ -3,7 +3,9 @@
 
 #include <algorithm>
 #include <array>
+#include <stdexcept>
 #include <type_traits>
+#include <utility>
 
 #include "docmgr/config/configkeys.h"
 #include "docmgr/tools/tokens.h"
@@ -113,6 +115,15 @@ constexpr GroupKey kKeys[] = {
 std::span<const GroupKey> Keys()
 {
     return kKeys;
+}
+
+const GroupKey& KeyNamed(std::string_view name)
+{
+    const auto found = std::find_if(std::begin(kKeys), std::end(kKeys),
+                                    [&](const GroupKey& key) { return key.name == name; });
+    if (found == std::end(kKeys))
+        throw std::logic_error("no group key " + std::string(name));
+    return *found;
 }
 
 std::span<const GroupKey> RunAt(size_t first)

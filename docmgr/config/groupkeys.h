@@ -4,6 +4,7 @@
 #include <functional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <variant>
 
 #include "docmgr/config/docgroupconfig.h"
@@ -44,6 +45,8 @@ struct GroupKey {
 
 // Every key, in the order a save writes them.
 std::span<const GroupKey> Keys();
+// The key of that name; it must be in the table.
+const GroupKey& KeyNamed(std::string_view name);
 // The keys from `first` on that share its layout when that is Row or Slot; `first` alone
 // otherwise.
 std::span<const GroupKey> RunAt(size_t first);
