@@ -15,14 +15,17 @@ namespace {
 
 using G = DocGroupConfig;
 
+// A field holds one element, or an array of them.
 template <class T>
 struct Elements {
     using Type = T;
+    static constexpr bool array = false;
     static constexpr unsigned count = 1;
 };
 template <class T, size_t N>
 struct Elements<std::array<T, N>> {
     using Type = T;
+    static constexpr bool array = true;
     static constexpr unsigned count = unsigned(N);
 };
 
@@ -35,7 +38,7 @@ template <auto member>
 auto& ElementAt(auto& group, unsigned element)
 {
     auto& field = group.*member;
-    if constexpr (Elements<FieldOf<member>>::count > 1)
+    if constexpr (Elements<FieldOf<member>>::array)
         return field[element];
     else
         return field;
@@ -52,7 +55,7 @@ Value Get(const G& group, unsigned element)
         return static_cast<long long>(ElementAt<member>(group, element));
 }
 
-// A number is cut to the field's width, as the file's own reading always did.
+// A number is cut to the width of its field.
 template <auto member>
 void Set(G& group, unsigned element, const Value& value)
 {

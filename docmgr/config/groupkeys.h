@@ -47,20 +47,20 @@ struct GroupKey {
 std::span<const GroupKey> Keys();
 // The key of that name; it must be in the table.
 const GroupKey& KeyNamed(std::string_view name);
-// The keys from `first` on that share its layout when that is Row or Slot; `first` alone
-// otherwise.
-std::span<const GroupKey> RunAt(size_t first);
 // The name of element `element` of `key` in the file.
 std::string KeyName(const GroupKey& key, unsigned element);
 
-// A value as the file holds it, and back; a missing key reads as empty text.
-std::string FileText(Kind kind, const Value& value);
-Value FromFileText(Kind kind, const std::string& text);
-
+// The keys from `first` on that share its layout when that is Row or Slot; `first` alone
+// otherwise.
+std::span<const GroupKey> RunAt(size_t first);
 // The most elements a key of `run` has: its number of rows or slots.
 unsigned ElementCount(std::span<const GroupKey> run);
 // Calls visit(key, element) for every value of a group in file order: key after key,
 // the filter rows row by row.
 void ForEachValue(const std::function<void(const GroupKey& key, unsigned element)>& visit);
+
+// A value as the file holds it, and back; a missing key reads as empty text.
+std::string FileText(Kind kind, const Value& value);
+Value FromFileText(Kind kind, const std::string& text);
 
 }  // namespace groupkeys
