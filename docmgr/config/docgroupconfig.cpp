@@ -1,4 +1,4 @@
-// Construction and copying of one group's settings.
+// Construction of one group's settings, and a new group's look.
 #include "docmgr/config/docgroupconfig.h"
 
 #include "docmgr/tools/datetime.h"
@@ -21,21 +21,12 @@ DocGroupConfig::DocGroupConfig()
 
 // A new group takes the look of its template, never its identity, text filters or
 // directories: those start empty.
-DocGroupConfig::DocGroupConfig(const DocGroupConfig& pattern)
-    : filterFiles(pattern.filterFiles),
-      filterSensitive(pattern.filterSensitive),
-      filterField(pattern.filterField),
-      filterCondition(pattern.filterCondition),
-      filterDate(pattern.filterDate),
-      filterTime(pattern.filterTime),
-      filterLink(pattern.filterLink),
-      sortColumnId(pattern.sortColumnId),
-      sortAscending(pattern.sortAscending),
-      columnId(pattern.columnId),
-      columnWidth(pattern.columnWidth),
-      frozenColumns(pattern.frozenColumns),
-      infoLabel(pattern.infoLabel)
+DocGroupConfig DocGroupConfig::LookOf(const DocGroupConfig& pattern)
 {
+    DocGroupConfig look = pattern;
+    look.groupName = look.section = {};
+    look.filterTitle = look.filterTopic = look.filterAuthor = look.filterKeywords = {};
+    look.filterValue = {};
+    look.paths = look.guis = {};
+    return look;
 }
-
-DocGroupConfig& DocGroupConfig::operator=(const DocGroupConfig& other) = default;

@@ -18,12 +18,11 @@ public:
     // Reads group `group` from the section named by its number; missing keys read as
     // empty text (so as 0, false and "" rather than the defaults above).
     DocGroupConfig(Config* config, uint16_t group);
-    // Deliberately partial: takes the look (pattern, case flag, filter rows without their
-    // values, links, sort, columns, info captions) but no name, section, text filters,
-    // filter values, paths or path flags. A new group starts from the working group so.
-    DocGroupConfig(const DocGroupConfig& pattern);
-    // Copies every field.
-    DocGroupConfig& operator=(const DocGroupConfig& other);
+    // A new group with the look of `pattern`: its file pattern, case flag, filter rows
+    // without their values, links, sort, columns and info captions, but no name, section,
+    // text filters, filter values, paths or path flags. A new group starts from the
+    // working group so. (Copying and assigning take every field.)
+    static DocGroupConfig LookOf(const DocGroupConfig& pattern);
 
     // The group as one line of text (see ImplDocConfig::Export).
     std::string Export() const;

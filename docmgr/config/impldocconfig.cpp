@@ -127,7 +127,7 @@ void ImplDocConfig::InsertGroup(uint16_t group)
     if (groups_.size() > WORKING_GROUP)
         return;  // every number below 65535 is taken; 65535 means the working group
     const size_t element = std::min(Element(group), groups_.size());
-    auto created = std::make_shared<DocGroupConfig>(*groups_[0]);  // partial copy
+    auto created = std::make_shared<DocGroupConfig>(DocGroupConfig::LookOf(*groups_[0]));
     groups_.insert(groups_.begin() + ptrdiff_t(element), std::move(created));
 }
 

@@ -1,6 +1,11 @@
+// The command line of `docmanager`, read with QCommandLineParser.
 #include "host/cli/commandline.h"
 
+#include <QCommandLineParser>
+#include <QStringList>
+#include <algorithm>
 #include <iostream>
+#include <map>
 #include <optional>
 
 #include "docmgr/records/docfields.h"
@@ -8,11 +13,63 @@
 
 namespace {
 
-// Options that take a value, as "--name VALUE" or "--name=VALUE".
-bool TakesValue(const std::string& name)
+// Arguments pass through Qt as Latin-1, one character per byte, so that a path that is
+// not UTF-8 comes back byte for byte.
+QString FromBytes(const std::string& bytes)
 {
-    return name == "--config" || name == "--group" || name == "--index-name"
-        || name == "--columns" || name == "--format";
+    return QString::fromLatin1(bytes.data(), qsizetype(bytes.size()));
+}
+
+std::string ToBytes(const QString& text)
+{
+    return text.toLatin1().toStdString();
+}
+
+const char* const kSwitches[] = {"list", "export-config", "print-paths"};  // and -h, --help
+const char* const kValueOptions[] = {"config", "group", "index-name", "columns", "format"};
+
+template <size_t N>
+bool IsOneOf(const QString& name, const char* const (&names)[N])
+{
+    return std::find(std::begin(names), std::end(names), name) != std::end(names);
+}
+
+bool TakesValue(const QString& name)
+{
+    return IsOneOf(name, kValueOptions);
+}
+
+void AddOptions(QCommandLineParser& parser)
+{
+    parser.addOption(QCommandLineOption(QStringList{"h", "help"}));
+    for (const char* name : kSwitches)
+        parser.addOption(QCommandLineOption(name));
+    for (const char* name : kValueOptions)
+        parser.addOption(QCommandLineOption(name, QString(), "value"));
+}
+
+// The first word that is not an option as this program spells them (the parser alone
+// would take --h and -hh for -h), and why: an unknown option, or a value given to an
+// option that takes none. -1 when every word is good.
+qsizetype FirstRefused(const QStringList& words, std::string& fault)
+{
+    for (qsizetype i = 0; i < words.size() && words[i] != "--"; ++i) {
+        const QString& word = words[i];
+        const QString name = word.mid(2).section('=', 0, 0);
+        if (!word.startsWith("--")) {
+            if (word.startsWith('-') && word != "-" && word != "-h")
+                fault = "unknown option " + ToBytes(word);
+        } else if (TakesValue(name)) {
+            i += word.contains('=') ? 0 : 1;  // its value is the next word
+        } else if (word.contains('=')) {
+            fault = "--" + ToBytes(name) + " takes no value";
+        } else if (name != "help" && !IsOneOf(name, kSwitches)) {
+            fault = "unknown option " + ToBytes(word);
+        }
+        if (!fault.empty())
+            return i;
+    }
+    return -1;
 }
 
 bool IsDigits(const std::string& s)
@@ -65,17 +122,6 @@ bool ValidIndexName(const std::string& name)
         && name.find('\0') == std::string::npos;
 }
 
-bool SetMode(CommandLine& out, RunMode mode, bool& modeGiven, std::string& error)
-{
-    if (modeGiven && out.mode != mode) {
-        error = "--list and --export-config cannot be combined";
-        return false;
-    }
-    out.mode = mode;
-    modeGiven = true;
-    return true;
-}
-
 // Options that belong to one mode only.
 bool CheckModeOptions(const CommandLine& out, bool formatGiven, std::string& error)
 {
@@ -95,91 +141,113 @@ bool CheckModeOptions(const CommandLine& out, bool formatGiven, std::string& err
     return error.empty();
 }
 
+// What the options have said so far.
+struct Reading {
+    CommandLine& out;
+    bool modeGiven = false;
+    bool formatGiven = false;
+};
+
+// One option with its value, as the user meant it: a later value replaces an earlier
+// one, and a bad value is an error.
+bool TakeOption(const QString& name, const std::string& value, Reading& reading, std::string& error)
+{
+    CommandLine& out = reading.out;
+    if (name == "list" || name == "export-config") {
+        const RunMode mode = name == "list" ? RunMode::List : RunMode::ExportConfig;
+        if (reading.modeGiven && out.mode != mode) {
+            error = "--list and --export-config cannot be combined";
+            return false;
+        }
+        out.mode = mode;
+        reading.modeGiven = true;
+    } else if (name == "print-paths") {
+        out.printPaths = true;
+    } else if (name == "config") {
+        if (value.empty()) {
+            error = "--config needs a file name";
+            return false;
+        }
+        out.configPath = value;
+    } else if (name == "group") {
+        out.groupName = value;
+        out.groupGiven = true;
+    } else if (name == "index-name") {
+        if (!ValidIndexName(value)) {
+            error = "--index-name needs a plain file name, not \"" + value + "\"";
+            return false;
+        }
+        out.indexName = value;
+    } else if (name == "columns") {
+        return ParseColumns(value, out.columns, error);
+    } else if (name == "format") {
+        const auto format = ParseFormat(value);
+        if (!format) {
+            error = "--format is one of text, tsv, json, csv, not \"" + value + "\"";
+            return false;
+        }
+        out.format = *format;
+        reading.formatGiven = true;
+    }
+    return true;
+}
+
+// The options in the order given; --help ends the reading there.
+bool TakeOptions(const QCommandLineParser& parser, Reading& reading, std::string& error)
+{
+    std::map<QString, qsizetype> used;  // values of each option taken so far
+    for (const QString& name : parser.optionNames()) {
+        if (name == "h" || name == "help") {
+            reading.out.mode = RunMode::Help;
+            return true;
+        }
+        QString value;
+        if (TakesValue(name)) {
+            const QStringList values = parser.values(name);
+            const qsizetype index = used[name]++;
+            // The parser stops at an option without its value, the last word.
+            if (index >= values.size()) {
+                error = "--" + ToBytes(name) + " needs a value";
+                return false;
+            }
+            value = values[index];
+        }
+        if (!TakeOption(name, ToBytes(value), reading, error))
+            return false;
+    }
+    return true;
+}
+
 }  // namespace
 
 bool ParseCommandLine(const std::vector<std::string>& args, CommandLine& out, std::string& error)
 {
     out = CommandLine{};
     error.clear();
-    bool modeGiven = false;
-    bool formatGiven = false;
-    bool optionsEnded = false;
-
-    for (size_t i = 0; i < args.size(); ++i) {
-        const std::string& arg = args[i];
-        if (optionsEnded || arg.empty() || arg[0] != '-' || arg == "-") {
-            out.startPaths.push_back(arg);
-            continue;
-        }
-        if (arg == "--") {
-            optionsEnded = true;
-            continue;
-        }
-        if (arg == "--help" || arg == "-h") {
-            out.mode = RunMode::Help;
-            return true;
-        }
-
-        std::string name = arg;
-        std::string value;
-        bool hasValue = false;
-        if (const size_t eq = arg.find('='); eq != std::string::npos && arg.rfind("--", 0) == 0) {
-            name = arg.substr(0, eq);
-            value = arg.substr(eq + 1);
-            hasValue = true;
-        }
-        if (TakesValue(name) && !hasValue) {
-            if (i + 1 >= args.size()) {
-                error = name + " needs a value";
-                return false;
-            }
-            value = args[++i];
-            hasValue = true;
-        } else if (!TakesValue(name) && hasValue) {
-            error = name + " takes no value";
-            return false;
-        }
-
-        if (name == "--list") {
-            if (!SetMode(out, RunMode::List, modeGiven, error))
-                return false;
-        } else if (name == "--export-config") {
-            if (!SetMode(out, RunMode::ExportConfig, modeGiven, error))
-                return false;
-        } else if (name == "--print-paths") {
-            out.printPaths = true;
-        } else if (name == "--config") {
-            if (value.empty()) {
-                error = "--config needs a file name";
-                return false;
-            }
-            out.configPath = value;
-        } else if (name == "--group") {
-            out.groupName = value;
-            out.groupGiven = true;
-        } else if (name == "--index-name") {
-            if (!ValidIndexName(value)) {
-                error = "--index-name needs a plain file name, not \"" + value + "\"";
-                return false;
-            }
-            out.indexName = value;
-        } else if (name == "--columns") {
-            if (!ParseColumns(value, out.columns, error))
-                return false;
-        } else if (name == "--format") {
-            const auto format = ParseFormat(value);
-            if (!format) {
-                error = "--format is one of text, tsv, json, csv, not \"" + value + "\"";
-                return false;
-            }
-            out.format = *format;
-            formatGiven = true;
-        } else {
-            error = "unknown option " + name;
-            return false;
-        }
+    const QString program = "docmanager";  // the parser skips the first word
+    QStringList words;
+    for (const std::string& arg : args)
+        words << FromBytes(arg);
+    QCommandLineParser parser;
+    AddOptions(parser);
+    // The words before a refused one are read first, as if the line ended there: --help
+    // or a bad value among them is what counts. The parser can then fail only for a value
+    // missing at the end, which TakeOptions tells in its place.
+    std::string fault;
+    const qsizetype refused = FirstRefused(words, fault);
+    parser.parse(QStringList(program) + words.mid(0, refused));
+    Reading reading{out};
+    if (!TakeOptions(parser, reading, error))
+        return false;
+    if (out.mode == RunMode::Help)
+        return true;
+    if (!fault.empty()) {
+        error = fault;
+        return false;
     }
-    return CheckModeOptions(out, formatGiven, error);
+    for (const QString& path : parser.positionalArguments())
+        out.startPaths.push_back(ToBytes(path));
+    return CheckModeOptions(out, reading.formatGiven, error);
 }
 
 std::string UsageText()

@@ -6,8 +6,8 @@
 #include <fstream>
 #include <random>
 
-#include "host/readers/samplewriter.h"
 #include "host/readers/ziparchive.h"
+#include "host/samples/samplewriter.h"
 
 namespace {
 

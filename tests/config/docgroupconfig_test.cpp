@@ -1,4 +1,4 @@
-// One group: reading missing keys, the partial copy and the export line.
+// One group: reading missing keys, a new group's look and the export line.
 #include <gtest/gtest.h>
 
 #include "docmgr/config/docgroupconfig.h"
@@ -53,7 +53,7 @@ TEST(GroupCopy, NewGroupTakesTheLookButNoIdentityFiltersOrPaths)
     source.groupName = source.section = source.paths = source.guis = "x";
     source.filterTitle = source.filterTopic = source.filterAuthor = source.filterKeywords = "x";
     source.filterValue = {"a", "b", "c"};
-    EXPECT_EQ(DocGroupConfig(source).Export(), look.Export());
+    EXPECT_EQ(DocGroupConfig::LookOf(source).Export(), look.Export());
 }
 
 TEST(GroupExport, DefaultGroupFromItsDocumentedPieces)

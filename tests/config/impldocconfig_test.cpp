@@ -94,8 +94,7 @@ TEST_F(ManagerConfigTest, GroupListOperations)
 
     docConfig.WorkingGroup().filterTitle = "draft";
     docConfig.WorkingGroup().sortColumnId = 4;
-    DocGroupConfig expected;
-    expected = docConfig.WorkingGroup();  // the copy constructor would take only the look
+    DocGroupConfig expected = docConfig.WorkingGroup();
     expected.groupName = "G1";
     expected.section = "S1";
     docConfig.SetGroupByExample(1);

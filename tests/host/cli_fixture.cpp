@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "host/readers/samplewriter.h"
+#include "host/samples/samplewriter.h"
 
 namespace clitest {
 

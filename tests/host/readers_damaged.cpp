@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "host/readers/docreader.h"
-#include "host/readers/samplewriter.h"
+#include "host/samples/samplewriter.h"
 #include "tests/host/readers_fixtures.h"
 #include "tests/support/tempdir.h"
 

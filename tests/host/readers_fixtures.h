@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "docmgr/records/docinfo.h"
-#include "host/readers/samplewriter.h"
+#include "host/samples/samplewriter.h"
 
 namespace readertest {
 

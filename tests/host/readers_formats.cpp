@@ -10,7 +10,7 @@
 #include "host/readers/filehead.h"
 #include "host/readers/oleuserorder.h"
 #include "host/readers/readahead.h"
-#include "host/readers/samplewriter.h"
+#include "host/samples/samplewriter.h"
 #include "tests/host/readers_fixtures.h"
 #include "tests/support/tempdir.h"
 

@@ -1,6 +1,5 @@
 // Choosing sections and groups, and the question whether changed settings are kept.
 
-#include "docmgr/config/configkeys.h"
 #include "tests/support/managerfixture.h"
 
 class SectionsTest : public ManagerTest {
@@ -63,7 +62,7 @@ TEST_F(SectionsTest, KeptChangesGoIntoTheCurrentGroupRefusedOnesAreDropped)
     EXPECT_EQ(Settings().Group(2).filterTitle, "*Plan*");
     Config saved(configPath);
     saved.SetGroup("2");
-    EXPECT_EQ(saved.ReadKey(configkeys::FilterTitle), "*Plan*");
+    EXPECT_EQ(saved.ReadKey("FILTERTITLE"), "*Plan*");
     EXPECT_EQ(Settings().WorkingGroup().groupName, "Alpha");
 
     // Refused: dropped, and the first group, not the current one, becomes the settings in force.

@@ -20,7 +20,7 @@ static std::string StoredWidth(const std::string& configPath, const char* sectio
 {
     Config file(configPath);
     file.SetGroup(section);
-    return file.ReadKey(configkeys::Numbered(configkeys::ColumnWidth, slot));
+    return file.ReadKey(configkeys::Numbered("COLUMNWIDTH", slot));
 }
 
 TEST_F(ManagerTest, ColumnsComeFromTheWorkingGroupsSlotsAndCellsAreAlignedByKind)

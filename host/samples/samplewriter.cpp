@@ -1,5 +1,5 @@
 // Sample documents: the format dispatch and the ODF text document.
-#include "host/readers/samplewriter.h"
+#include "host/samples/samplewriter.h"
 
 #include <fstream>
 

@@ -2,9 +2,9 @@
 #include "host/readers/metadates.h"
 #include "host/readers/namespaces.h"
 #include "host/readers/ooxmlprops.h"
-#include "host/readers/samplewriter.h"
 #include "host/readers/xmlutil.h"
 #include "host/readers/ziparchive.h"
+#include "host/samples/samplewriter.h"
 
 namespace {
 

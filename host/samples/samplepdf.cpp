@@ -3,7 +3,7 @@
 #include "host/readers/pdfinfo.h"
 #include "host/readers/pdfxmp.h"
 #include "host/readers/xmppacket.h"
-#include "host/readers/samplewriter.h"
+#include "host/samples/samplewriter.h"
 
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFWriter.hh>

@@ -3,7 +3,7 @@
 
 #include <QString>
 
-#include "host/readers/samplewriter.h"
+#include "host/samples/samplewriter.h"
 
 namespace {
 
