@@ -47,7 +47,7 @@ DocRenameDialog::DocRenameDialog(QWidget* parent, const std::string& document)
     d->newNameEdit->setMinimumWidth(d->newNameEdit->fontMetrics().averageCharWidth() * 40);
     // Typing replaces the name but keeps the extension, which is rarely meant to change.
     const qsizetype dot = name.lastIndexOf(u'.');
-    d->newNameEdit->setSelection(0, dot > 0 ? dot : name.size());
+    d->newNameEdit->setSelection(0, int(dot > 0 ? dot : name.size()));
     d->okButton->setDefault(true);
 
     auto* frameLayout = new QGridLayout(d->frame);

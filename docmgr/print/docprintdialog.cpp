@@ -18,8 +18,8 @@
 #include "docmgr/view/docbrowser.h"
 
 struct DocPrintDialog::Impl {
-    explicit Impl(DocBrowser& browser)
-        : browser(browser), printer(QPrinter::HighResolution), listPrinter(browser, printer)
+    explicit Impl(DocBrowser& list)
+        : browser(list), printer(QPrinter::HighResolution), listPrinter(list, printer)
     {
     }
 

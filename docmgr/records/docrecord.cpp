@@ -26,25 +26,25 @@ void BlankControlBytes(char* field, size_t width)
 
 }  // namespace
 
-DocRecord::DocRecord(const DocInfo& info)
+DocRecord::DocRecord(const DocInfo& doc)
 {
-    WriteString(name, sizeof name, fsutil::FileName(info.entry));
-    WriteString(title, sizeof title, info.title);
-    WriteString(topic, sizeof topic, info.topic);
-    hasInfo = info.HasInfo() ? 1 : 0;
-    WriteDate(createdDate, info.createdDate);
-    WriteTime(createdTime, info.createdTime);
-    WriteString(author, sizeof author, info.author);
-    WriteDate(modifiedDate, info.modifiedDate);
-    WriteTime(modifiedTime, info.modifiedTime);
-    WriteString(modifiedBy, sizeof modifiedBy, info.modifiedBy);
-    WriteDate(printedDate, info.printedDate);
-    WriteTime(printedTime, info.printedTime);
-    WriteString(printedBy, sizeof printedBy, info.printedBy);
-    WriteString(comment, sizeof comment, info.comment);
-    WriteString(keywords, sizeof keywords, info.keywords);
-    for (size_t i = 0; i < info.info.size(); ++i)
-        WriteString(this->info[i], sizeof this->info[i], info.info[i]);
+    WriteString(name, sizeof name, fsutil::FileName(doc.entry));
+    WriteString(title, sizeof title, doc.title);
+    WriteString(topic, sizeof topic, doc.topic);
+    hasInfo = doc.HasInfo() ? 1 : 0;
+    WriteDate(createdDate, doc.createdDate);
+    WriteTime(createdTime, doc.createdTime);
+    WriteString(author, sizeof author, doc.author);
+    WriteDate(modifiedDate, doc.modifiedDate);
+    WriteTime(modifiedTime, doc.modifiedTime);
+    WriteString(modifiedBy, sizeof modifiedBy, doc.modifiedBy);
+    WriteDate(printedDate, doc.printedDate);
+    WriteTime(printedTime, doc.printedTime);
+    WriteString(printedBy, sizeof printedBy, doc.printedBy);
+    WriteString(comment, sizeof comment, doc.comment);
+    WriteString(keywords, sizeof keywords, doc.keywords);
+    for (size_t i = 0; i < doc.info.size(); ++i)
+        WriteString(info[i], sizeof info[i], doc.info[i]);
 }
 
 // The struct has no padding (every member is a byte or a run of bytes), so its memory

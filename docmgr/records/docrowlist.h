@@ -65,8 +65,8 @@ private:
     enum class IndexOpening { Opened, Missing, Unstable, Failed };
     IndexOpening OpenIndex(DirPass& pass);
     void ReadIndex(DirPass& pass);
-    void ReadRecords(DirPass& pass, IndexBlocks& records, int64_t indexMtimeNs);
-    void MatchRecords(DirPass& pass, IndexBlocks& records, int64_t indexMtimeNs);
+    void ReadRecords(DirPass& pass, IndexBlocks& records);
+    void MatchRecords(DirPass& pass, IndexBlocks& records);
     void ReadChanged(DirPass& pass);
     void ProbeNew(DirPass& pass);
     void RewriteIndex(DirPass& pass);

@@ -96,14 +96,14 @@ void DocRowList::ProbeAll(DirPass& pass)
 // One walk over the records: an unchanged document's row is made from its record at
 // once; a changed one keeps its place in the rows and is read after the walk, with the
 // files the index has no record of, so that all those reads are known before the first.
-void DocRowList::ReadRecords(DirPass& pass, IndexBlocks& records, int64_t indexMtimeNs)
+void DocRowList::ReadRecords(DirPass& pass, IndexBlocks& records)
 {
-    MatchRecords(pass, records, indexMtimeNs);
+    MatchRecords(pass, records);
     ReadChanged(pass);
     ProbeNew(pass);
 }
 
-void DocRowList::MatchRecords(DirPass& pass, IndexBlocks& records, int64_t indexMtimeNs)
+void DocRowList::MatchRecords(DirPass& pass, IndexBlocks& records)
 {
     pass.byName.reserve(pass.files.size());
     for (size_t i = 0; i < pass.files.size(); ++i) {
@@ -123,7 +123,7 @@ void DocRowList::MatchRecords(DirPass& pass, IndexBlocks& records, int64_t index
         pass.consumed[file] = true;
         if (pass.isPrivate[file])
             pass.rewriteNeeded = true;  // its record must go
-        if (pass.isPrivate[file] || !pass.IsCurrent(item, indexMtimeNs)) {
+        if (pass.isPrivate[file] || !pass.IsCurrent(item)) {
             pass.changed.push_back({pass.working.size(), offset, file});
             pass.working.emplace_back();
             return;
@@ -268,7 +268,7 @@ void DocRowList::ReadIndex(DirPass& pass)
     if (headerRead == HEADER_SIZE)
         pass.stream.SetCharSet(ReadLE32(header + MAGIC_AND_VERSION));
     IndexBlocks records(pass.stream, HEADER_SIZE, pass.indexSize);
-    ReadRecords(pass, records, pass.indexMtimeNs);
+    ReadRecords(pass, records);
 }
 
 void DocRowList::ReadDir(const std::string& dir, bool withSubdirs, DirVisit& visit)

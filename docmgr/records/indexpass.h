@@ -86,7 +86,7 @@ struct DocRowList::DirPass {
     }
     bool InPlaceUpdates() const { return !rewriteNeeded && !reprobeAll && mayWrite; }
     // A record made now would be current until the document changes.
-    bool IsCurrent(const fsutil::DirItem& item, int64_t indexMtimeNs) const
+    bool IsCurrent(const fsutil::DirItem& item) const
     {
         return item.mtimeNs < indexMtimeNs && item.ctimeNs < indexMtimeNs;
     }

@@ -135,24 +135,24 @@ void Apply(pugi::xml_node rdf, const Change& change)
     const Property& property = change.property;
     bool done = change.value.empty();
     pugi::xml_node firstDescription;
-    for (pugi::xml_node description : rdf.children()) {
-        if (!xmlutil::Is(description, ns::rdf, "Description"))
+    for (pugi::xml_node block : rdf.children()) {
+        if (!xmlutil::Is(block, ns::rdf, "Description"))
             continue;
         if (!firstDescription)
-            firstDescription = description;
-        for (pugi::xml_attribute a = description.first_attribute(); a;) {
+            firstDescription = block;
+        for (pugi::xml_attribute a = block.first_attribute(); a;) {
             const pugi::xml_attribute next = a.next_attribute();
-            if (Matches(property, xmlutil::NamespaceOf(a, description), AttributeLocal(a))) {
+            if (Matches(property, xmlutil::NamespaceOf(a, block), AttributeLocal(a))) {
                 if (!done && property.shape == Shape::Text) {
                     a.set_value(change.value.c_str());
                     done = true;
                 } else {
-                    description.remove_attribute(a);
+                    block.remove_attribute(a);
                 }
             }
             a = next;
         }
-        for (pugi::xml_node element = description.first_child(); element;) {
+        for (pugi::xml_node element = block.first_child(); element;) {
             const pugi::xml_node next = element.next_sibling();
             if (element.type() == pugi::node_element
                 && Matches(property, xmlutil::NamespaceOf(element), xmlutil::LocalName(element))) {
@@ -160,7 +160,7 @@ void Apply(pugi::xml_node rdf, const Change& change)
                     FillElement(element, property, change.value);
                     done = true;
                 } else {
-                    description.remove_child(element);
+                    block.remove_child(element);
                 }
             }
             element = next;
@@ -187,16 +187,16 @@ bool Read(const std::string& packet, Fields& fields)
     const pugi::xml_node rdf = RdfElement(doc);
     if (!rdf)
         return false;
-    for (pugi::xml_node description : rdf.children()) {
-        if (!xmlutil::Is(description, ns::rdf, "Description"))
+    for (pugi::xml_node block : rdf.children()) {
+        if (!xmlutil::Is(block, ns::rdf, "Description"))
             continue;
         for (const Property* property : kRead) {
             std::string& field = FieldOf(fields, *property);
-            for (pugi::xml_attribute a : description.attributes()) {
-                if (field.empty() && Matches(*property, xmlutil::NamespaceOf(a, description), AttributeLocal(a)))
+            for (pugi::xml_attribute a : block.attributes()) {
+                if (field.empty() && Matches(*property, xmlutil::NamespaceOf(a, block), AttributeLocal(a)))
                     field = Trimmed(a.value());
             }
-            for (pugi::xml_node element : description.children()) {
+            for (pugi::xml_node element : block.children()) {
                 if (field.empty() && element.type() == pugi::node_element
                     && Matches(*property, xmlutil::NamespaceOf(element), xmlutil::LocalName(element)))
                     field = ValueOf(element);

@@ -15,7 +15,7 @@ namespace {
 class Picker {
 public:
     explicit Picker(uint32_t seed) : rng_(seed) {}
-    uint32_t Below(uint32_t n) { return n == 0 ? 0 : rng_() % n; }
+    uint32_t Below(uint32_t n) { return n == 0 ? 0 : uint32_t(rng_() % n); }
     template <typename T, size_t N>
     const T& From(const std::array<T, N>& items) { return items[Below(N)]; }
 

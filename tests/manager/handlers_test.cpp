@@ -32,7 +32,7 @@ TEST_F(HandlersTest, ConfirmedSettingsDialogsMarkTheSettingsAndCollect)
         host.reset();
         Start();
         Settings().WorkingGroup().sortColumnId = NO_COLUMN;
-        const int rows = Browser().GetRowCount();
+        const long rows = Browser().GetRowCount();
         dir.MakeFile(std::string("docs/") + row.name + ".odt", "x");
         Confirm(0);
         (host.get()->*row.handler)();

@@ -41,20 +41,20 @@ protected:
     void WriteConfig(const std::vector<GroupSpec>& groups, uint16_t actual = 1, bool singleView = false)
     {
         Config file(configPath);
-        ImplDocConfig config(&file, "*", [](const std::string&) {});
+        ImplDocConfig settings(&file, "*", [](const std::string&) {});
         for (size_t i = 0; i < groups.size(); ++i) {
             if (i > 0)
-                config.InsertGroup(uint16_t(i));
-            DocGroupConfig& group = config.Group(uint16_t(i));
+                settings.InsertGroup(uint16_t(i));
+            DocGroupConfig& group = settings.Group(uint16_t(i));
             group.groupName = groups[i].name;
             group.section = groups[i].section;
             group.paths = groups[i].paths;
             group.guis = groups[i].paths.empty() ? "" : groups[i].guis;
         }
-        config.actualGroup = actual;
-        config.singleView = singleView;
-        config.SaveConfig();
-        config.SaveGeneralSection();
+        settings.actualGroup = actual;
+        settings.singleView = singleView;
+        settings.SaveConfig();
+        settings.SaveGeneralSection();
         ASSERT_TRUE(file.Flush());
     }
 

@@ -46,7 +46,7 @@ public:
 // A fixed set of selected rows.
 class TestSelection : public DocSelection {
 public:
-    explicit TestSelection(std::set<long> rows = {}) : rows(std::move(rows)) {}
+    explicit TestSelection(std::set<long> chosen = {}) : rows(std::move(chosen)) {}
     long FirstSelected() const override { return rows.empty() ? -1 : *rows.begin(); }
     long NextSelected(long row) const override
     {
