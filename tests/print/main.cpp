@@ -1,1 +1,5 @@
-#include "tests/support/widgetmain.h"
+#include <QApplication>
+
+#include "tests/support/testmain.h"
+
+int main(int argc, char** argv) { return TestMain<QApplication>(argc, argv); }
