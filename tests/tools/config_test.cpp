@@ -19,16 +19,8 @@ struct ConfigFile : ::testing::Test {
 
 TEST_F(ConfigFile, CommentsUnknownKeysAndOrderSurviveASave)
 {
-    WriteFile(path,
-              "; made by hand\n"
-              "[GENERAL] ; text after the header\n"
-              "VIEWMODE=MULTI\n"
-              "# keep me\n"
-              "OWNKEY = own value\n"
-              "\n"
-              "[OTHER]\r\n"
-              "A=1=2\r\n"
-              "B=no line end");
+    WriteFile(path, "; made by hand\n[GENERAL] ; text after the header\nVIEWMODE=MULTI\n# keep me\nOWNKEY = own value\n"
+                    "\n[OTHER]\r\nA=1=2\r\nB=no line end");
     {
         Config config(path);
         EXPECT_TRUE(config.GetLoadError().empty());
@@ -41,17 +33,8 @@ TEST_F(ConfigFile, CommentsUnknownKeysAndOrderSurviveASave)
         ASSERT_TRUE(config.Flush());
     }
     // Lines not changed come back byte for byte; the new key takes the first line's end.
-    const std::string expected =
-        "; made by hand\n"
-        "[GENERAL] ; text after the header\n"
-        "VIEWMODE=SINGLE\n"
-        "# keep me\n"
-        "OWNKEY = own value\n"
-        "ACTUALGROUP=2\n"
-        "\n"
-        "[OTHER]\r\n"
-        "A=1=2\r\n"
-        "B=no line end";
+    const std::string expected = "; made by hand\n[GENERAL] ; text after the header\nVIEWMODE=SINGLE\n# keep me\n"
+                                 "OWNKEY = own value\nACTUALGROUP=2\n\n[OTHER]\r\nA=1=2\r\nB=no line end";
     EXPECT_EQ(ReadFile(path), expected);
 
     // Through a link the target is saved and the link stays.
@@ -67,25 +50,7 @@ TEST_F(ConfigFile, CommentsUnknownKeysAndOrderSurviveASave)
     EXPECT_EQ(ReadFile(path), expected + "\nC=3\n");
 }
 
-TEST_F(ConfigFile, WritesCreateSectionsAndDeleteRemovesThem)
-{
-    Config config(path);
-    config.SetGroup("0");
-    config.WriteKey("GROUPNAME", "two\nlines");
-    config.SetGroup("1");
-    config.WriteKey("GROUPNAME", "other");
-    config.DeleteGroup("1");
-    EXPECT_FALSE(config.HasGroup("1"));
-    config.SetGroup("0");
-    EXPECT_EQ(config.ReadKey("GROUPNAME"), "two lines");  // a line break becomes a blank
-    ASSERT_TRUE(config.Flush());
-    EXPECT_EQ(ReadFile(path), "[0]\nGROUPNAME=two lines\n");
-    // No temporary file is left beside the target.
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir.Path()),
-                            std::filesystem::directory_iterator{}), 1);
-}
-
-TEST_F(ConfigFile, MissingFileIsEmptyAndGarbageIsReadWithoutHarm)
+TEST_F(ConfigFile, MissingFileIsEmptyWritesMakeSectionsAndGarbageIsReadWithoutHarm)
 {
     {
         Config config(path);
@@ -94,9 +59,23 @@ TEST_F(ConfigFile, MissingFileIsEmptyAndGarbageIsReadWithoutHarm)
         EXPECT_EQ(config.ReadKey("VIEWMODE", "dflt"), "dflt");
     }
     EXPECT_FALSE(std::filesystem::exists(path));  // nothing written, nothing created
+    {
+        Config config(path);
+        config.SetGroup("0");
+        config.WriteKey("GROUPNAME", "two\nlines");
+        config.SetGroup("1");
+        config.WriteKey("GROUPNAME", "other");
+        config.DeleteGroup("1");
+        EXPECT_FALSE(config.HasGroup("1"));
+        config.SetGroup("0");
+        EXPECT_EQ(config.ReadKey("GROUPNAME"), "two lines");  // a line break becomes a blank
+        ASSERT_TRUE(config.Flush());
+    }
+    EXPECT_EQ(ReadFile(path), "[0]\nGROUPNAME=two lines\n");
+    // No temporary file is left beside the target.
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir.Path()), {}), 1);
 
-    std::string garbage("\0\xff[=]\n=\n[\n]]]\nKEY\n\x01=\x02\n", 23);
-    WriteFile(path, garbage);
+    WriteFile(path, std::string("\0\xff[=]\n=\n[\n]]]\nKEY\n\x01=\x02\n", 23));
     Config config(path);
     EXPECT_TRUE(config.GetLoadError().empty());
     config.SetGroup("");  // no header before it: "\0\xff[=]" is a key, not a section

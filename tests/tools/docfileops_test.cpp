@@ -2,10 +2,10 @@
 // kept below their base, and a move across devices.
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <unistd.h>
+
+#include <QTemporaryDir>
 
 #include <cerrno>
-#include <cstdlib>
 #include <filesystem>
 
 #include "docmgr/tools/docfileops.h"
@@ -36,16 +36,12 @@ TEST(FileOps, FolderNamesStayBelowTheBase)
 TEST(FileOps, MoveAcrossDevicesCopiesThenRemoves)
 {
     TempDir dir;
-    std::string other = "/dev/shm/docmgr-test-XXXXXX";
+    QTemporaryDir shm(QStringLiteral("/dev/shm/docmgr-test-XXXXXX"));
+    const std::string other = shm.path().toStdString();
     struct stat here {}, there {};
-    if (access("/dev/shm", W_OK) != 0 || !mkdtemp(other.data()))
-        GTEST_SKIP() << "no writable /dev/shm";
-    stat(dir.Path().c_str(), &here);
-    stat(other.c_str(), &there);
-    if (here.st_dev == there.st_dev) {
-        fs::remove_all(other);
-        GTEST_SKIP() << "/dev/shm is on the same device";
-    }
+    if (!shm.isValid() || stat(dir.Path().c_str(), &here) != 0 || stat(other.c_str(), &there) != 0
+        || here.st_dev == there.st_dev)
+        GTEST_SKIP() << "no writable /dev/shm on another device";
     const std::string contents(300000, 'z');
     ASSERT_EQ(docfileops::MoveInto(dir.MakeFile("a.odt", contents), other), 0);
     EXPECT_FALSE(dir.Exists("a.odt"));
@@ -56,5 +52,4 @@ TEST(FileOps, MoveAcrossDevicesCopiesThenRemoves)
     EXPECT_EQ(docfileops::MoveInto(other + "/a.odt", dir.Path()), EEXIST);
     EXPECT_EQ(testfs::ReadFile(other + "/a.odt"), contents);
     EXPECT_EQ(dir.Read("a.odt"), "here");
-    fs::remove_all(other);
 }

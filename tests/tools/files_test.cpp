@@ -1,5 +1,4 @@
-// Listing, the file operations that never overwrite, the index stream and the module's
-// texts.
+// Listing, the file operations that never overwrite, temporary files and the module's texts.
 #include <gtest/gtest.h>
 
 #include <QTemporaryDir>
@@ -9,7 +8,6 @@
 #include <unistd.h>
 #include <sys/stat.h>
 
-#include "docmgr/tools/filestream.h"
 #include "docmgr/tools/fsutil.h"
 #include "docmgr/tools/replacefile.h"
 #include "docmgr/tools/resmgr.h"
@@ -77,30 +75,6 @@ TEST_F(Files, CopyAndMoveNeverOverwriteNorLoseAFile)
     stat(At("moved").c_str(), &st);
     EXPECT_EQ(st.st_mode & 0777, 0640u);
     EXPECT_EQ(fsutil::List(dir, "*", fsutil::Kind::Files).size(), shm.isValid() ? 3u : 4u);
-}
-
-TEST_F(Files, StreamReadsWritesAtPositionsAndLocksExclusively)
-{
-    KxFileStream writer;
-    ASSERT_TRUE(writer.Open(At("index"), KxFileStream::Mode::ReadWriteCreate));
-    EXPECT_EQ(writer.Write("KIDX\0", 5), 5u);
-    writer.Seek(2);
-    EXPECT_EQ(writer.Write("zz", 2), 2u);
-    EXPECT_EQ(writer.Size(), 5u);
-    char buffer[8];
-    writer.Seek(0);
-    EXPECT_EQ(writer.Read(buffer, 8), 5u);  // a short read at the end
-    EXPECT_EQ(std::string(buffer, 5), std::string("KIzz\0", 5));
-
-    ASSERT_TRUE(writer.LockExclusive(0));
-    KxFileStream other;
-    ASSERT_TRUE(other.Open(At("index"), KxFileStream::Mode::ReadWrite));
-    EXPECT_FALSE(other.LockExclusive(30));  // held by the first stream, even in this process
-    writer.Close();
-    EXPECT_TRUE(other.LockExclusive(30));
-    EXPECT_TRUE(other.Truncate(0));
-    EXPECT_EQ(other.Size(), 0u);
-    EXPECT_EQ(GetSystemCharSet(), 106u);
 }
 
 TEST(Resources, ModuleSlotHoldsTheManagerWhileTheModuleLives)
