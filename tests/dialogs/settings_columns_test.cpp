@@ -14,7 +14,6 @@ protected:
             Working().columnWidth[i] = uint16_t(100 + i);
         Working().frozenColumns = 3;
     }
-    DocGroupConfig& Working() { return Settings().WorkingGroup(); }
 
     // Selects `row` and presses the up or down button.
     static void Move(DocColumnsDialog& dialog, int row, const char* button)

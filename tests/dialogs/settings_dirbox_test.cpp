@@ -52,7 +52,7 @@ protected:
     TempDir tree;  // apart from the manager's files
 };
 
-TEST_F(DirBoxTest, SiblingsAreSortedWithoutCaseAndHiddenOnesHiddenOnRequest)
+TEST_F(DirBoxTest, SiblingsAreSortedWithoutCaseHiddenOnesHiddenOnRequestAndPathsFoundWithoutCase)
 {
     DocDirBox box(nullptr, &Settings());
     EXPECT_EQ(box.item(0)->text().toStdString(), "/");
@@ -70,6 +70,14 @@ TEST_F(DirBoxTest, SiblingsAreSortedWithoutCaseAndHiddenOnesHiddenOnRequest)
     EXPECT_EQ(Subtree(box, pos), (std::vector<std::string>{Line(1, '-', ".hidden"), Line(1, '-', "A"),
                                                            Line(1, '-', "b"), Line(1, '-', "c")}));
     EXPECT_EQ(box.GetDir(9999), "");
+
+    // A path is opened down to without regard to case; a missing element stops at the last
+    // directory found.
+    box.SelectDir(tree.Path() + "/a/X");
+    EXPECT_EQ(box.item(box.GetSelectedPos())->text().toStdString(), Line(2, '-', "x"));
+    box.ReadDirs();
+    box.SelectDir(tree.PathOf("A/nothing/y"));
+    EXPECT_EQ(box.GetDir(box.GetSelectedPos()), tree.PathOf("A"));
 }
 
 TEST_F(DirBoxTest, ClosingRemovesTheWholeSubtreeAndVanishedDirectoriesOpenEmpty)
@@ -113,17 +121,6 @@ TEST_F(DirBoxTest, ExceptionPathsAndWhatIsBelowThemAreLeftOut)
     // Without a configuration only "." and ".." are left out.
     DocDirBox plain(nullptr, nullptr);
     EXPECT_EQ(Subtree(plain, OpenTemp(plain)).size(), 4u);
-}
-
-TEST_F(DirBoxTest, SelectDirOpensDownToAPathWithoutRegardToCase)
-{
-    DocDirBox box(nullptr, &Settings());
-    box.SelectDir(tree.Path() + "/a/X");
-    EXPECT_EQ(box.item(box.GetSelectedPos())->text().toStdString(), Line(2, '-', "x"));
-    // A missing element stops at the last directory found.
-    box.ReadDirs();
-    box.SelectDir(tree.PathOf("A/nothing/y"));
-    EXPECT_EQ(box.GetDir(box.GetSelectedPos()), tree.PathOf("A"));
 }
 
 TEST_F(DirBoxTest, KeysToggleEntriesButNeverTheRootAndTypingFindsAName)

@@ -32,7 +32,6 @@ TEST(PathEntries, HiddenEntriesGoAfterTheShownOnesWithTheFirstHiddenFlag)
 class PathsDialogTest : public ManagerTest {
 protected:
     void SetUp() override { StartWith({}); }
-    DocGroupConfig& Working() { return Settings().WorkingGroup(); }
     static QPushButton* Button(const DocPathsDialog& dialog, const char* name) { return In<QPushButton>(dialog, name); }
     static QListWidget* List(const DocPathsDialog& dialog) { return In<QListWidget>(dialog, "pathList"); }
     static QCheckBox* Include(const DocPathsDialog& dialog) { return In<QCheckBox>(dialog, "includeBox"); }

@@ -9,7 +9,6 @@
 class SortDialogTest : public ManagerTest {
 protected:
     void SetUp() override { StartWith({}); }
-    DocGroupConfig& Working() { return Settings().WorkingGroup(); }
 };
 
 TEST_F(SortDialogTest, PositionShowsTheNextColumnsTitleOkStoresItsOwnNumberEscapeNothing)

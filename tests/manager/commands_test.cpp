@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <cstring>
 
+#include "docmgr/records/docfields.h"
 #include "docmgr/view/doccommandmenu.h"
 #include "tests/support/managerfixture.h"
 
@@ -138,20 +139,14 @@ TEST_F(CommandsTest, DeleteAndF2InTheListRunTheirCommandsWhenEnabledAndKeepTheSe
 TEST_F(CommandsTest, ExportWritesTheListAsShownToCsv)
 {
     Start();
+    Working().columnId = {3, 0, 1};  // a place without a column is left out
+    Working().sortColumnId = COL_NAME;
+    Browser().InsertColumns();
+    Browser().SortFiles(false);
     OnNextModal([this](QDialog& dialog) {
         dynamic_cast<QFileDialog&>(dialog).selectFile(QString::fromStdString(dir.PathOf("list.csv")));
         QMetaObject::invokeMethod(&dialog, "accept");
     });
     host->Command(CMD_EXPORTLIST);
-    const std::string csv = dir.Read("list.csv");
-    // A header of the shown columns' titles in display order, then one record per row.
-    std::string header;
-    for (unsigned short p = 0; p < Browser().ColCount(); ++p) {
-        const unsigned short id = Browser().GetColumnId(p);
-        if (id >= 1 && id <= 20)
-            header += (header.empty() ? "" : ",") + Browser().GetColumnTitle(id);
-    }
-    EXPECT_EQ(csv.substr(0, csv.find("\r\n")), header);
-    EXPECT_EQ(std::count(csv.begin(), csv.end(), '\n'), 5);
-    EXPECT_NE(csv.find("\r\na.odt,"), std::string::npos) << csv;
+    EXPECT_EQ(dir.Read("list.csv"), "Title,File name\r\na.odt,a.odt\r\nb.odt,b.odt\r\nc.odt,c.odt\r\nd.odt,d.odt\r\n");
 }

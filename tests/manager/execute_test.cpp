@@ -49,7 +49,7 @@ TEST_F(ManagerTest, PathLineShowsTheActivePathsOrTheStartPaths)
     for (const auto& row : table) {
         host.reset();
         Start(true, row.startPaths);
-        Settings().WorkingGroup().guis = row.guis;
+        Working().guis = row.guis;
         host->CollectFiles();
         EXPECT_EQ(host->GetPathLine(), row.line) << "'" << row.startPaths << "', flags " << row.guis;
     }

@@ -19,7 +19,7 @@ protected:
 
 TEST_F(FilterDialogTest, ShowsTheGroupsFilterWithTheFittingEntries)
 {
-    DocGroupConfig& group = Settings().WorkingGroup();
+    DocGroupConfig& group = Working();
     group.filterTitle = "*Plan*";
     group.filterSensitive = true;
     group.filterField = {5, 6, 3};  // created date, created time, title
@@ -83,7 +83,7 @@ TEST_F(FilterDialogTest, OkWritesTheEditsAndKeepsWhatWasNotTouchedCancelNothing)
     EXPECT_EQ(group.filterDate, (decltype(group.filterDate){20010203u, 0, 0}));  // the unset dates nobody touched
     EXPECT_EQ(group.filterValue[2], "x");
     EXPECT_EQ(group.filterLink[0], 5);    // shown as "or", left as it was
-    EXPECT_EQ(Settings().WorkingGroup().filterAuthor, "");  // another group
+    EXPECT_EQ(Working().filterAuthor, "");  // another group
 
     DocFilterDialog cancelled(host.get(), &Settings(), 0);  // Cancel writes nothing
     In<QLineEdit>(cancelled, "authorEdit")->setText("changed");

@@ -31,7 +31,7 @@ TEST_F(HandlersTest, ConfirmedSettingsDialogsMarkTheSettingsAndCollect)
         SCOPED_TRACE(row.name);
         host.reset();
         Start();
-        Settings().WorkingGroup().sortColumnId = NO_COLUMN;
+        Working().sortColumnId = NO_COLUMN;
         const long rows = Browser().GetRowCount();
         dir.MakeFile(std::string("docs/") + row.name + ".odt", "x");
         Confirm(0);
@@ -48,13 +48,13 @@ TEST_F(HandlersTest, ConfirmedSettingsDialogsMarkTheSettingsAndCollect)
 TEST_F(HandlersTest, ConfirmedSortSortsAndColumnsRebuildTheColumns)
 {
     Select({"c.odt"});
-    Settings().WorkingGroup().sortColumnId = COL_NAME;
+    Working().sortColumnId = COL_NAME;
     Confirm();
     host->SortHdl();
     EXPECT_EQ(RowNames(), (std::vector<std::string>{"a.odt", "b.odt", "c.odt"}));
     EXPECT_EQ(Browser().GetSelectedRowCount(), 0);
 
-    Settings().WorkingGroup().columnId[0] = COL_AUTHOR;
+    Working().columnId[0] = COL_AUTHOR;
     Confirm(0);
     host->ColumnsHdl();
     EXPECT_EQ(Browser().GetColumnId(0), COL_NAME);

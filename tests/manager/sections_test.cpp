@@ -63,7 +63,7 @@ TEST_F(SectionsTest, KeptChangesGoIntoTheCurrentGroupRefusedOnesAreDropped)
     Config saved(configPath);
     saved.SetGroup("2");
     EXPECT_EQ(saved.ReadKey("FILTERTITLE"), "*Plan*");
-    EXPECT_EQ(Settings().WorkingGroup().groupName, "Alpha");
+    EXPECT_EQ(Working().groupName, "Alpha");
 
     // Refused: dropped, and the first group, not the current one, becomes the settings in force.
     Groups()->setCurrentRow(1);
@@ -72,5 +72,5 @@ TEST_F(SectionsTest, KeptChangesGoIntoTheCurrentGroupRefusedOnesAreDropped)
     host->QuerySave();
     EXPECT_EQ(Settings().Group(2).filterTitle, "*Plan*");
     EXPECT_EQ(Settings().actualGroup, 1);
-    EXPECT_EQ(Settings().WorkingGroup().filterTitle, "");
+    EXPECT_EQ(Working().filterTitle, "");
 }

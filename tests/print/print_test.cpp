@@ -52,7 +52,7 @@ protected:
             dir.MakeFile("docs/" + DocName(i), "x");
         WriteDefaultConfig();
         Start(false);
-        Settings().WorkingGroup().sortColumnId = COL_NAME;
+        Working().sortColumnId = COL_NAME;
         Browser().SortFiles(false);
         auto dialog = std::make_unique<DocPrintDialog>(host.get(), Browser());
         QPrinter* printer = dialog->GetPrinter();
@@ -102,7 +102,7 @@ TEST_F(PrintTest, ColumnsGoInIdOrderEachAsWideAsItsWidestText)
     host->known["doc01.odt"] = wide;
     std::filesystem::remove(docs + "/.docindex");  // so that the host is asked again
     host->CollectFiles();
-    Settings().WorkingGroup().columnId = {5, 3, 1, 2, 4, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20};
+    Working().columnId = {5, 3, 1, 2, 4, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20};
     Browser().InsertColumns();
     QSet<QString> titles;
     for (uint16_t id : {STR_COL_CREATED_DATE, STR_COL_TITLE, STR_COL_NAME, STR_COL_AUTHOR})

@@ -88,6 +88,7 @@ protected:
 
     DocBrowser& Browser() { return *host->GetBrowser(); }
     ImplDocConfig& Settings() { return *host->GetSettings(); }
+    DocGroupConfig& Working() { return Settings().WorkingGroup(); }
 
     // Selects exactly the rows whose file names are in `names`; how many it selected.
     int Select(const std::set<std::string>& names)

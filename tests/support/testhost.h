@@ -52,7 +52,6 @@ public:
     // File names that are not documents.
     std::map<std::string, bool> notDocuments;
     int createCalls = 0;
-    int changeCalls = 0;
     bool changeResult = false;
 
     std::unique_ptr<DocInfo> CreateDocInfo(const std::string& file) override
@@ -76,7 +75,6 @@ public:
 
     bool ChangeDocInfo(QWidget*, const std::string&) override
     {
-        ++changeCalls;
         return changeResult;
     }
 };

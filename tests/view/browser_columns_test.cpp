@@ -27,7 +27,7 @@ TEST_F(ManagerTest, ColumnsComeFromTheWorkingGroupsSlotsAndCellsAreAlignedByKind
 {
     StartWith({"a.odt"});
     DocBrowser& browser = Browser();
-    const DocGroupConfig& group = Settings().WorkingGroup();
+    const DocGroupConfig& group = Working();
     ASSERT_EQ(browser.ColCount(), 20);
     EXPECT_EQ(browser.GetColumnId(19), group.columnId[19]);
     EXPECT_EQ(browser.model()->headerData(ColumnOf(browser, COL_INFO0), Qt::Horizontal).toString(),
@@ -43,9 +43,9 @@ TEST_F(ManagerTest, ColumnsComeFromTheWorkingGroupsSlotsAndCellsAreAlignedByKind
               std::max(50, metrics.horizontalAdvance("Modified by") + 10));
 
     // A stored width is taken as it stands, 0 included; ids need not be in order.
-    Settings().WorkingGroup().columnWidth[0] = 0;
-    Settings().WorkingGroup().columnWidth[1] = 123;
-    std::swap(Settings().WorkingGroup().columnId[2], Settings().WorkingGroup().columnId[19]);
+    Working().columnWidth[0] = 0;
+    Working().columnWidth[1] = 123;
+    std::swap(Working().columnId[2], Working().columnId[19]);
     browser.InsertColumns();
     EXPECT_EQ(browser.columnWidth(0), 0);
     EXPECT_EQ(browser.columnWidth(1), 123);
@@ -69,7 +69,7 @@ TEST_F(ManagerTest, FrozenColumnsStayWhileTheListScrollsSidewaysAndSingleViewHas
     ASSERT_TRUE(QTest::qWaitForWindowExposed(host.get()));
     DocBrowser& browser = Browser();
     FrozenColumnsView* frozen = browser.GetFrozenView();
-    ASSERT_EQ(Settings().WorkingGroup().frozenColumns, 3);
+    ASSERT_EQ(Working().frozenColumns, 3);
     EXPECT_TRUE(frozen->isVisible());
     EXPECT_FALSE(frozen->isColumnHidden(2));
     EXPECT_TRUE(frozen->isColumnHidden(3));
@@ -95,7 +95,7 @@ TEST_F(ManagerTest, FrozenColumnsStayWhileTheListScrollsSidewaysAndSingleViewHas
     Child<QCheckBox>("singleViewBox")->click();
     EXPECT_EQ(browser.selectionMode(), QAbstractItemView::ExtendedSelection);
 
-    Settings().WorkingGroup().frozenColumns = 0;
+    Working().frozenColumns = 0;
     browser.InsertColumns();
     EXPECT_FALSE(frozen->isVisible());
 }

@@ -10,7 +10,7 @@
 TEST_F(ManagerTest, SelectedDocumentsAreWalkedInRowOrderAndStaySelectedThroughASort)
 {
     StartWith({"a.odt", "b.odt", "c.odt", "d.odt", "e.odt"});
-    Settings().WorkingGroup().sortColumnId = COL_NAME;
+    Working().sortColumnId = COL_NAME;
     Browser().SortFiles(false);
     EXPECT_EQ(host->GetFirstDoc(), nullptr);
 
@@ -21,7 +21,7 @@ TEST_F(ManagerTest, SelectedDocumentsAreWalkedInRowOrderAndStaySelectedThroughAS
         QItemSelection(Browser().model()->index(1, 0), Browser().model()->index(2, 0)),
         QItemSelectionModel::Select | QItemSelectionModel::Rows);
     EXPECT_EQ(host->SelectedDocs(), (std::vector<std::string>{docs + "/b.odt", docs + "/c.odt", docs + "/e.odt"}));
-    Settings().WorkingGroup().sortAscending = false;
+    Working().sortAscending = false;
     Browser().SortFiles(true);
     EXPECT_EQ(host->SelectedDocs(), (std::vector<std::string>{docs + "/e.odt", docs + "/c.odt", docs + "/b.odt"}));
     Browser().DeselectFirstSelected();
