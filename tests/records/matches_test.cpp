@@ -116,7 +116,7 @@ TEST_F(MatchesTest, TwoRowsTakeTheirLinkFromTheSortSettings)
     EXPECT_FALSE(Passes(Doc("A", 11)));
 }
 
-TEST_F(MatchesTest, ThreeRowsBindAndTighterThanOr)
+TEST_F(MatchesTest, ThreeRowsBindAndTighterThanOrAndConditionsAboveSixKeepTheResult)
 {
     Row(0, 3, 0, "A");
     Row(1, 2, 0, "1");
@@ -134,17 +134,13 @@ TEST_F(MatchesTest, ThreeRowsBindAndTighterThanOr)
         EXPECT_EQ(Passes(c.doc), c.passes)
             << c.link[0] << "," << c.link[1] << " " << c.doc.title << c.doc.size << c.doc.author;
     }
-}
 
-TEST_F(MatchesTest, ConditionAboveSixKeepsThePreviousResult)
-{
-    Row(0, 3, 9, "A");
-    EXPECT_FALSE(Passes(Doc("A"))) << "a first row has nothing to keep";
-
-    Row(0, 3, 0, "A");
+    // A condition above six keeps the previous result; a first row has none to keep.
     Row(1, 3, 7, "B");
     Row(2, 3, 8, "C");
     group.filterLink = {1, 1};
     EXPECT_TRUE(Passes(Doc("A")));
     EXPECT_FALSE(Passes(Doc("B")));
+    Row(0, 3, 9, "A");
+    EXPECT_FALSE(Passes(Doc("A")));
 }
