@@ -55,7 +55,7 @@ TEST_F(ManagerConfigTest, EmptyFileMakesAndSavesAFirstGroup)
     EXPECT_FALSE(saved.HasGroup("GENERAL"));
 }
 
-TEST_F(ManagerConfigTest, GeneralSectionRightsAndGroupRun)
+TEST_F(ManagerConfigTest, GeneralSectionRightsGroupRunAndTheStoredActualGroup)
 {
     WriteFile("[GENERAL]\nVIEWMODE=single\nACTUALGROUP=2\nACCESS_FILEPRINT=off\n"
               "ACCESS_FILECOPY=NO\nACCESS_FILEDELETE=OFF \n" +
@@ -70,19 +70,16 @@ TEST_F(ManagerConfigTest, GeneralSectionRightsAndGroupRun)
     EXPECT_EQ(docConfig.GroupCount(), 2u);  // "3" lies after a gap
     EXPECT_EQ(docConfig.actualGroup, 2u);
     EXPECT_EQ(docConfig.WorkingGroup().groupName, "G1");
-    EXPECT_EQ(docConfig.WorkingGroup().filterFiles, "*.1");
-}
 
-TEST_F(ManagerConfigTest, StoredActualGroup)
-{
+    // The stored actual group: 0 or none keeps the default group, one out of range takes the first.
     const struct { const char* stored; uint16_t actual; const char* workingFiles; } cases[] = {
         {"0", 0, "*.pdf"}, {"2", 2, "*.1"}, {"9", 1, "*.0"}, {"", 0, "*.pdf"}};
     for (const auto& c : cases) {
         WriteFile(std::string("[GENERAL]\nACTUALGROUP=") + c.stored + "\n" + GroupsText(3));
-        Config config(Path());
-        ImplDocConfig docConfig(&config, "*.pdf");
-        EXPECT_EQ(docConfig.actualGroup, c.actual) << c.stored;
-        EXPECT_EQ(docConfig.WorkingGroup().filterFiles, c.workingFiles) << c.stored;
+        Config stored(Path());
+        ImplDocConfig storedConfig(&stored, "*.pdf");
+        EXPECT_EQ(storedConfig.actualGroup, c.actual) << c.stored;
+        EXPECT_EQ(storedConfig.WorkingGroup().filterFiles, c.workingFiles) << c.stored;
     }
 }
 

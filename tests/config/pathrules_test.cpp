@@ -5,7 +5,7 @@
 #include "docmgr/config/pathrules.h"
 #include "docmgr/tools/resmgr.h"
 
-TEST(PathRules, SubdirectoryMarker)
+TEST(PathRules, SubdirectoryMarkerAndTheExceptionListThatRunsOnePastItsLastEntry)
 {
     ResModule module(Language::English);  // the marker is one of its texts
     EXPECT_TRUE(TestSub("/**"));
@@ -18,18 +18,13 @@ TEST(PathRules, SubdirectoryMarker)
         EXPECT_EQ(WoutSub(WithSub(p)), p);
         EXPECT_EQ(WoutSub(p), p);
     }
-}
 
-TEST(PathRules, ExceptionListRunsOnePastItsLastEntry)
-{
-    ResModule module(Language::English);
     ImplDocConfig docConfig(nullptr, "*");
     EXPECT_FALSE(docConfig.IsExceptionPath("/tmp"));
     docConfig.SetExceptionPaths("/srv/Archiv;/mnt/Übersicht");
     EXPECT_EQ(docConfig.GetExceptionPaths(), "/SRV/ARCHIV;/MNT/ÜBERSICHT");
     EXPECT_EQ(docConfig.GetExceptionCount(), 2u);
-    EXPECT_TRUE(docConfig.IsExceptionPath("/srv/archiv"));
-    EXPECT_TRUE(docConfig.IsExceptionPath("/mnt/übersicht"));
+    EXPECT_TRUE(docConfig.IsExceptionPath("/srv/archiv") && docConfig.IsExceptionPath("/mnt/übersicht"));
     EXPECT_FALSE(docConfig.IsExceptionPath("/srv/archiv/2020"));
     EXPECT_TRUE(docConfig.IsExceptionPath(""));
 }
