@@ -105,12 +105,9 @@ TEST_F(FileDialogTest, RenameRefusesTakenNamesAndSeparatorsAndAllowsACaseVariant
     const std::string report = dir.MakeFile("docs/report.odt", "mine");
     StartSelected({"report.odt"});
     const std::string failed = ResString(STR_RENAME_FAILED) + "report.odt" + ResString(STR_RENAME_FAILED_END);
-    const struct {
-        const char* newName;
-        unsigned count;
-        int error;           // the system's reason given, 0 for no message
-        const char* result;  // where the document is afterwards
-    } rows[] = {
+    // The new name, the renames done, the system's reason given (0: no message), and where
+    // the document is afterwards.
+    const struct { const char* newName; unsigned count; int error; const char* result; } rows[] = {
         {"report.odt", 0, 0, "docs/report.odt"},  // the same name changes nothing
         {"other.odt", 0, EEXIST, "docs/report.odt"}, {"sub/report.odt", 0, EINVAL, "docs/report.odt"},
         {"../report.odt", 0, EINVAL, "docs/report.odt"}, {"..", 0, EINVAL, "docs/report.odt"},

@@ -20,12 +20,10 @@ TEST(AppProperties, NotesAndReadOnlyFormats)
         ASSERT_TRUE(WriteSample(dir.PathOf(name), FullSample(), error)) << error;
     WriteOle(dir.PathOf("legacy.doc"), FullSample());
     WritePdf(dir.PathOf("locked.pdf"), "<< /Title (Secret) >>", "user-password");
-    const struct {
-        const char* name;
-        bool editable;
-        const char* note;  // part of the note; empty: no note shown
-    } cases[] = {{"text.odt", true, ""}, {"text.rtf", false, "read-only"}, {"legacy.doc", false, "read-only"},
-                 {"locked.pdf", true, "encrypted"}};
+    // `note`: a part of the note shown; empty: no note.
+    const struct { const char* name; bool editable; const char* note; } cases[] = {
+        {"text.odt", true, ""}, {"text.rtf", false, "read-only"}, {"legacy.doc", false, "read-only"},
+        {"locked.pdf", true, "encrypted"}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         DocPropertiesDialog dialog(nullptr, dir.PathOf(c.name), {});

@@ -2,7 +2,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <algorithm>
 #include <map>
 #include <filesystem>
 #include <sys/stat.h>
@@ -47,6 +46,11 @@ TEST_F(CliListTest, TsvTextAndJsonShowTheSameSortedRows)
         EXPECT_EQ(run.status, 0) << run.err;
         EXPECT_EQ(run.out, out) << format;
     }
+    // Other columns by --columns, an information field under the group's caption; options
+    // take their value either way: "--option value" or "--option=value".
+    const std::string lib = Lib();
+    EXPECT_EQ(List(config, {"--format=tsv", "--columns=1,20,16"}).out,
+              "File name\tDirectory\tProject\nb.docx\t" + lib + "\t\na.odt\t" + lib + "\t\nc.pdf\t" + lib + "\t\n");
 
     // JSON: raw values in list order; never printed, the printed stamp is the created one.
     const QJsonArray array = Rows(List(config, {"--format", "json"}));
@@ -135,21 +139,6 @@ TEST_F(CliListTest, StartPathsAreReadWhenTheGroupHasNoActivePath)
         EXPECT_NE(run.err.find(dir.PathOf("lib/sub/locked") + " cannot be read"), std::string::npos) << run.err;
     }
     chmod(dir.PathOf("lib/sub/locked").c_str(), 0755);
-}
-
-TEST_F(CliListTest, ColumnsOptionAndTheGroupsSlotsChooseTheColumns)
-{
-    WriteDoc("lib/a.odt", "Alpha", "Ann", 1);
-    const std::string config = WriteConfig(ConfigText({{.name = "Lib", .paths = Lib(), .columns = {7, 3}}}));
-    EXPECT_EQ(List(config, {"--format", "tsv"}).out, "Author\tTitle\nAnn\tAlpha\n");
-    // Options take their value either way: "--option value" or "--option=value".
-    EXPECT_EQ(RunDocmanager({"--list", "--config=" + QString::fromStdString(config), "--format=tsv", "--columns=1,20,16"},
-                            ConfigHome()).out, "File name\tDirectory\tProject\na.odt\t" + Lib() + "\t\n");
-    // Without column slots in the configuration: the 20 columns of a new group.
-    const std::string out = List(WriteConfig(ConfigText({{.name = "All", .paths = Lib()}})), {"--format", "tsv"}).out;
-    const std::string header = out.substr(0, out.find('\n'));
-    EXPECT_EQ(std::count(header.begin(), header.end(), '\t'), 19) << header;
-    EXPECT_TRUE(header.ends_with("\tDirectory")) << header;
 }
 
 TEST_F(CliListTest, AwkwardTextsKeepTheFormatsIntact)

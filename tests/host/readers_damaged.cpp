@@ -63,11 +63,8 @@ TEST(ReadersDamaged, DamagedFilesAreDocumentsWithoutInformationAndAReason)
     const size_t firstLine = moved.find('\n') + 1;
     dir.MakeFile("large-moved.pdf", moved.substr(0, firstLine) + "%" + std::string(1u << 20, 'x') + "\n" + moved.substr(firstLine));
     const std::string title = FullSample().title;
-    const struct {
-        const char* name;
-        ReadProblem problem;
-        std::string title;  // empty: no information at all
-    } cases[] = {
+    // An empty title: no information at all.
+    const struct { const char* name; ReadProblem problem; std::string title; } cases[] = {
         {"whole.odt", ReadProblem::None, title},          {"truncated.odt", ReadProblem::Damaged, ""},
         {"garbage.docx", ReadProblem::Damaged, ""},       {"text.xlsx", ReadProblem::NotZip, ""},
         {"nometa.odt", ReadProblem::NoInformation, ""},   {"malformed.odt", ReadProblem::Damaged, ""},

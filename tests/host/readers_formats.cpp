@@ -28,12 +28,7 @@ TEST(ReadersFormats, EachFormatGivesItsFields)
     WriteOle(dir.PathOf("full.doc"), full);
     // Never printed (a PDF has no printed stamp): the printed stamp is the created one,
     // by the author. Only ODF records who printed. User fields keep their recorded order.
-    const struct {
-        const char* name;
-        bool neverPrinted;
-        bool hasModifiedByAndComment;
-        const char* printedBy;
-    } cases[] = {
+    const struct { const char* name; bool neverPrinted, hasModifiedByAndComment; const char* printedBy; } cases[] = {
         {"full.odt", false, true, "Jörg Müller"}, {"full.fodt", false, true, "Jörg Müller"},
         {"full.docx", false, true, ""},           {"full.rtf", false, true, ""},
         {"full.doc", false, true, ""},            {"full.pdf", true, false, "Zoë Martin"},

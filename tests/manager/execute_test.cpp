@@ -36,11 +36,7 @@ TEST_F(ManagerTest, PathLineShowsTheActivePathsOrTheStartPaths)
     for (const char* file : {"docs/a.odt", "other/b.odt", "other/c.odt"})
         dir.MakeFile(file, "x");
     WriteConfig({{"Both", "Main", docs + ";" + other + ";" + dir.Path(), "01"}});
-    const struct {
-        std::string startPaths;
-        const char* guis;
-        std::string line;
-    } table[] = {
+    const struct { std::string startPaths; const char* guis; std::string line; } table[] = {
         {"", "01", "2 documents in " + other},  // flags shorter than the paths: the missing ones are off
         {"", "000", "0 documents in "},          // no active path: the start paths are read
         {docs, "", "1 documents in " + docs},

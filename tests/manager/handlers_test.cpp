@@ -17,11 +17,7 @@ protected:
 // and the list is collected again (the groups dialog, which saves itself, only collects).
 TEST_F(HandlersTest, ConfirmedSettingsDialogsMarkTheSettingsAndCollect)
 {
-    const struct {
-        const char* name;
-        void (TestHost::*handler)();
-        bool marks;
-    } table[] = {
+    const struct { const char* name; void (TestHost::*handler)(); bool marks; } table[] = {
         {"paths", &TestHost::PathsHdl, true},
         {"filter", &TestHost::FilterHdl, true},
         {"sort without column", &TestHost::SortHdl, true},

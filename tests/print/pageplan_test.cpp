@@ -7,12 +7,7 @@ using pageplan::PageRows;
 
 TEST(PagePlan, EachPageHoldsAllButTheHeaderLine)
 {
-    const struct {
-        unsigned page;
-        long lines;
-        long rows;
-        std::optional<PageRows> expected;
-    } table[] = {
+    const struct { unsigned page; long lines; long rows; std::optional<PageRows> expected; } table[] = {
         {1, 10, 0, PageRows{0, 0}},    // an empty list prints its header
         {2, 10, 0, std::nullopt},
         {1, 10, 5, PageRows{0, 5}},
@@ -34,11 +29,7 @@ TEST(PagePlan, EachPageHoldsAllButTheHeaderLine)
 TEST(PagePlan, AColumnFitsWhenItsWidestTextEndsOnThePage)
 {
     const std::map<uint16_t, uint16_t> widths{{1, 10}, {3, 5}, {7, 20}};
-    const struct {
-        long charWidth;
-        long pageWidth;
-        int fitting;
-    } table[] = {{1, 35, 3}, {1, 34, 2}, {1, 15, 2}, {2, 29, 1}, {2, 19, 0}, {1, 1000, 3}};
+    const struct { long charWidth, pageWidth; int fitting; } table[] = {{1, 35, 3}, {1, 34, 2}, {1, 15, 2}, {2, 29, 1}, {2, 19, 0}, {1, 1000, 3}};
     for (const auto& row : table)
         EXPECT_EQ(pageplan::FittingColumns(widths, row.charWidth, row.pageWidth), row.fitting)
             << row.charWidth << " x " << row.pageWidth;
