@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <iostream>
 #include <ctime>
+#include <filesystem>
 #include <thread>
 #include <sys/wait.h>
 
@@ -61,6 +62,8 @@ TEST_F(SharedFolderTest, AListingKilledAtAnyStepOfItsIndexWriteLeavesNoStaleReco
         EXPECT_EQ(Rows(List(config, {"--format", "tsv"}).out), expected);
     }
     EXPECT_TRUE(completed);
+    // The temporary files of the killed writes went with the writes after them.
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(Lib()), {}), 7);
     std::cout << "listings killed at " << kills << " steps of the index write\n";
 }
 
