@@ -1,5 +1,4 @@
-// Running the manager: results, the configuration it reads, its path line and what the
-// host gets back.
+// Running the manager: results, its path line and what the host gets back.
 #include "tests/support/managerfixture.h"
 
 TEST_F(ManagerTest, ExecuteEndsWithCloseOrOpenAndASecondRunCollectsAgainWithTheSameSettings)
@@ -7,11 +6,11 @@ TEST_F(ManagerTest, ExecuteEndsWithCloseOrOpenAndASecondRunCollectsAgainWithTheS
     WriteDefaultConfig();
     MakeDocs({"a.odt"});
     MakeHost();
-    RunInManager([this] {
+    QTimer::singleShot(0, host.get(), [this] {
         EXPECT_EQ(RowNames(), std::vector<std::string>{"a.odt"});
         Child<QPushButton>("closeButton")->click();
     });
-    EXPECT_EQ(host->result(), 0);
+    EXPECT_EQ(host->Execute(), 0);
 
     // The file changes on disk; the running manager does not read it again.
     WriteConfig({{"Elsewhere", "Other", dir.MakeDir("other"), "1"}});
@@ -49,20 +48,4 @@ TEST_F(ManagerTest, PathLineShowsTheActivePathsOrTheStartPaths)
         host->CollectFiles();
         EXPECT_EQ(host->GetPathLine(), row.line) << "'" << row.startPaths << "', flags " << row.guis;
     }
-}
-
-TEST_F(ManagerTest, WithoutAHostConfigurationDmgdumpCfgIsUsed)
-{
-    const std::string work = dir.MakeDir("work");
-    fsutil::CurrentDirGuard inWork(work);
-    ASSERT_TRUE(inWork.Entered());
-    AnswerBoxes(RET_YES);
-    {
-        TestHost byName(nullptr, "ignored.cfg", docs, true);
-        byName.Init();
-        EXPECT_EQ(byName.GetSelectedGroupName(), "Standard");
-        EXPECT_EQ(infos.size(), 1u);  // told that a first group was made
-    }
-    EXPECT_TRUE(fsutil::IsFile(work + "/dmgdump.cfg"));
-    EXPECT_FALSE(fsutil::Exists(work + "/ignored.cfg"));
 }

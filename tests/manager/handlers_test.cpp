@@ -41,7 +41,7 @@ TEST_F(HandlersTest, ConfirmedSettingsDialogsMarkTheSettingsAndCollect)
     }
 }
 
-TEST_F(HandlersTest, ConfirmedSortSortsAndColumnsRebuildTheColumns)
+TEST_F(HandlersTest, ConfirmedSortSortsColumnsRebuildTheColumnsCopyAndRenameCollectOnlyAfterAChange)
 {
     Select({"c.odt"});
     Working().sortColumnId = COL_NAME;
@@ -57,14 +57,12 @@ TEST_F(HandlersTest, ConfirmedSortSortsAndColumnsRebuildTheColumns)
     Confirm(1);
     host->ColumnsHdl();
     EXPECT_EQ(Browser().GetColumnId(0), COL_AUTHOR);
-}
 
-TEST_F(HandlersTest, CopyAndRenameCollectOnlyWhenTheyChangedFiles)
-{
+    // Copy and rename confirmed but nothing done: no collection.
     Select({"a.odt"});
     dir.MakeFile("docs/new.odt", "x");
     for (unsigned short command : {CMD_COPY, CMD_RENAME}) {
-        Confirm(1);  // confirmed, but nothing copied or renamed
+        Confirm(1);
         host->Command(command);
         EXPECT_EQ(Browser().GetRowCount(), 3) << command;
     }

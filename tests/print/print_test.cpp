@@ -112,7 +112,7 @@ TEST_F(PrintTest, ColumnsGoInIdOrderEachAsWideAsItsWidestText)
     EXPECT_EQ(widths, (std::map<uint16_t, uint16_t>{{1, 9}, {3, 14}, {5, widths.at(5)}, {7, 6}}));
 }
 
-TEST_F(PrintTest, NothingIsPrintedWithoutAJob)
+TEST_F(PrintTest, NothingIsPrintedWithoutAJobAndTheProgressCancels)
 {
     auto dialog = Open(3, 10);
     EXPECT_FALSE(dialog->PrintPage(1)) << "no job running";
@@ -128,6 +128,13 @@ TEST_F(PrintTest, NothingIsPrintedWithoutAJob)
     In<QPushButton>(*dialog, "okButton")->click();
     EXPECT_EQ(dialog->result(), 0);
     EXPECT_FALSE(std::filesystem::exists(pdf));
+
+    // The progress names the printer by its file; cancel ends it.
+    DocPrintingDlg progress(nullptr, dialog->GetPrinter());
+    EXPECT_EQ(In<QLabel>(progress, "printerLabel")->text(), "list.pdf");
+    progress.setResult(7);
+    In<QPushButton>(progress, "cancelButton")->click();
+    EXPECT_EQ(progress.result(), 0);
 }
 
 // The one real print: OK runs the whole job on a PDF printer and its progress dialog.
@@ -166,15 +173,4 @@ TEST_F(PrintTest, OkPrintsTheListPageByPageToAPdfPrinter)
     EXPECT_NEAR(first.captured(1).toDouble(), 56.7, 1.0);
     EXPECT_GT(first.captured(2).toDouble(), 42.0);
     EXPECT_LT(first.captured(2).toDouble(), 52.0);
-}
-
-TEST_F(PrintTest, TheProgressNamesThePrinterAndCancelEndsIt)
-{
-    QPrinter printer;
-    printer.setOutputFileName(QString::fromStdString(pdf));
-    DocPrintingDlg progress(nullptr, &printer);
-    EXPECT_EQ(In<QLabel>(progress, "printerLabel")->text(), "list.pdf");
-    progress.setResult(7);
-    In<QPushButton>(progress, "cancelButton")->click();
-    EXPECT_EQ(progress.result(), 0);
 }

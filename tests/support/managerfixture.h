@@ -102,17 +102,6 @@ protected:
         return int(selection.size());
     }
 
-    // Executes the manager (settings read, list collected), runs `body` once its loop is
-    // up, and closes it afterwards with 0.
-    void RunInManager(const std::function<void()>& body)
-    {
-        QTimer::singleShot(0, host.get(), [this, &body] {
-            body();
-            host->done(0);
-        });
-        host->Execute();
-    }
-
     std::vector<std::string> RowNames()
     {
         std::vector<std::string> names;

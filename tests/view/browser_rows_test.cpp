@@ -7,14 +7,24 @@
 #include "docmgr/view/doccommandmenu.h"
 #include "tests/support/managerfixture.h"
 
-TEST_F(ManagerTest, SelectedDocumentsAreWalkedInRowOrderAndStaySelectedThroughASort)
+TEST_F(ManagerTest, RowsAreSelectedByKeysWalkedInRowOrderKeptThroughASortAndShownAnewWhenEdited)
 {
     StartWith({"a.odt", "b.odt", "c.odt", "d.odt", "e.odt"});
     Working().sortColumnId = COL_NAME;
     Browser().SortFiles(false);
     EXPECT_EQ(host->GetFirstDoc(), nullptr);
+    // The first down arrow selects the first row, which the focus made current, unselected.
+    host->show();
+    QApplication::setActiveWindow(host.get());
+    Browser().setFocus(Qt::TabFocusReason);
+    Browser().ClearSelection();
+    QTest::keyClick(&Browser(), Qt::Key_Down);
+    EXPECT_EQ(Browser().GetFirstSelectedRow(), 0);
+    QTest::keyClick(&Browser(), Qt::Key_Down);
+    EXPECT_EQ(Browser().GetFirstSelectedRow(), 1);
 
     // Selected in reverse order, in two runs; sorting anew keeps the selection.
+    Browser().ClearSelection();
     Browser().selectionModel()->select(Browser().model()->index(4, 0),
                                        QItemSelectionModel::Select | QItemSelectionModel::Rows);
     Browser().selectionModel()->select(
@@ -26,6 +36,19 @@ TEST_F(ManagerTest, SelectedDocumentsAreWalkedInRowOrderAndStaySelectedThroughAS
     EXPECT_EQ(host->SelectedDocs(), (std::vector<std::string>{docs + "/e.odt", docs + "/c.odt", docs + "/b.odt"}));
     Browser().DeselectFirstSelected();
     EXPECT_EQ(*host->GetFirstDoc(), docs + "/c.odt");
+
+    // Information edited through the host is read again, unless the host says it changed nothing.
+    Select({"a.odt"});  // the last row
+    const int calls = host->createCalls;
+    host->known["a.odt"].title = "New title";
+    host->Command(CMD_DOCINFO);
+    EXPECT_EQ(host->createCalls, calls);
+    host->changeResult = true;
+    dir.MakeFile("docs/a.odt", "grown since");
+    host->Command(CMD_DOCINFO);
+    EXPECT_EQ(host->createCalls, calls + 1);
+    EXPECT_EQ(Browser().GetColumnText(4, COL_TITLE) + "|" + Browser().GetColumnText(4, COL_SIZE), "New title|11");
+    EXPECT_EQ(Browser().GetSelectedRowCount(), 1);
 }
 
 TEST_F(ManagerTest, DoubleClickOnARowOpensItWhenOpeningIsPossible)
@@ -48,36 +71,6 @@ TEST_F(ManagerTest, DoubleClickOnARowOpensItWhenOpeningIsPossible)
     ASSERT_NE(host->GetFirstDoc(), nullptr);
     EXPECT_EQ(fsutil::FileName(*host->GetFirstDoc()), RowNames()[1]);
     EXPECT_EQ(host->GetNextDoc(), nullptr);
-}
-
-TEST_F(ManagerTest, TheFirstDownArrowSelectsTheFirstRow)
-{
-    StartWith({"a.odt", "b.odt", "c.odt"});
-    host->show();
-    QApplication::setActiveWindow(host.get());
-    Browser().setFocus(Qt::TabFocusReason);  // the focus makes row 0 current, unselected
-    Browser().ClearSelection();
-    QTest::keyClick(&Browser(), Qt::Key_Down);
-    EXPECT_EQ(Browser().GetFirstSelectedRow(), 0);
-    QTest::keyClick(&Browser(), Qt::Key_Down);
-    EXPECT_EQ(Browser().GetFirstSelectedRow(), 1);
-}
-
-TEST_F(ManagerTest, EditedDocumentInformationIsShownAnew)
-{
-    StartWith({"a.odt"});
-    Select({"a.odt"});
-    const int calls = host->createCalls;
-    host->known["a.odt"].title = "New title";
-    host->Command(CMD_DOCINFO);  // not changed: not read again
-    EXPECT_EQ(host->createCalls, calls);
-    host->changeResult = true;
-    dir.MakeFile("docs/a.odt", "grown since");
-    host->Command(CMD_DOCINFO);
-    EXPECT_EQ(host->createCalls, calls + 1);
-    EXPECT_EQ(Browser().GetColumnText(0, COL_TITLE), "New title");
-    EXPECT_EQ(Browser().GetColumnText(0, COL_SIZE), "11");
-    EXPECT_EQ(Browser().GetSelectedRowCount(), 1);
 }
 
 TEST_F(ManagerTest, ALongCollectionShowsHowFarItHasGot)
