@@ -1,9 +1,11 @@
-// The whole configuration: general settings, rights, the group list and its operations.
+// The whole configuration: general settings, rights, the group list and its operations,
+// the subdirectory marker and the exception list.
 #include <gtest/gtest.h>
 
 #include <vector>
 
 #include "docmgr/config/impldocconfig.h"
+#include "docmgr/config/pathrules.h"
 #include "docmgr/tools/config.h"
 #include "tests/config/configfixture.h"
 #include "resources/resids.h"
@@ -117,4 +119,28 @@ TEST_F(ManagerConfigTest, GroupListOperations)
     EXPECT_EQ(docConfig.ElementCount(), 6u);
     EXPECT_EQ(docConfig.WorkingGroup().groupName, "");
     EXPECT_EQ(docConfig.Group(0).groupName, "G2");
+}
+
+TEST_F(ManagerConfigTest, SubdirectoryMarkerAndTheExceptionListThatRunsOnePastItsLastEntry)
+{
+    // The marker is one of the module's texts.
+    EXPECT_TRUE(TestSub("/**"));
+    EXPECT_EQ(WoutSub("/**"), "");
+    EXPECT_EQ(WithSub(""), "/**");
+    for (const std::string p : {"/home/a", "/home/a/", "/home/*", "C:\\Docs", "/x/**/y"}) {
+        EXPECT_FALSE(TestSub(p)) << p;
+        EXPECT_EQ(WithSub(p), p + "/**");
+        EXPECT_EQ(WithSub(WithSub(p)), WithSub(p));
+        EXPECT_EQ(WoutSub(WithSub(p)), p);
+        EXPECT_EQ(WoutSub(p), p);
+    }
+
+    ImplDocConfig docConfig(nullptr, "*");
+    EXPECT_FALSE(docConfig.IsExceptionPath("/tmp"));
+    docConfig.SetExceptionPaths("/srv/Archiv;/mnt/Übersicht");
+    EXPECT_EQ(docConfig.GetExceptionPaths(), "/SRV/ARCHIV;/MNT/ÜBERSICHT");
+    EXPECT_EQ(docConfig.GetExceptionCount(), 2u);
+    EXPECT_TRUE(docConfig.IsExceptionPath("/srv/archiv") && docConfig.IsExceptionPath("/mnt/übersicht"));
+    EXPECT_FALSE(docConfig.IsExceptionPath("/srv/archiv/2020"));
+    EXPECT_TRUE(docConfig.IsExceptionPath(""));
 }

@@ -45,12 +45,6 @@ protected:
         Type(NameEdit(), name);
         dialog->ChangeHdl();
     }
-    std::string StoredGroup(const char* key)
-    {
-        Config reread(configPath);
-        reread.SetGroup("GROUPS");
-        return reread.ReadKey(key);
-    }
     void OpenThree(int actual = 1) { Open({{standard, "General"}, {"Alpha", "Work"}, {"Beta", "Home"}}, actual); }
 
     std::unique_ptr<DocGroupsDialog> dialog;
@@ -140,7 +134,7 @@ TEST_F(GroupsDialogTest, DeletingSelectsTheNewLastAndEmptiesTheListAtTheEnd)
     EXPECT_EQ(Settings().GroupCount(), 0);
     EXPECT_FALSE(Button("okButton")->isEnabled() || In<QToolButton>(*dialog, "settingsButton")->isEnabled());
     EXPECT_TRUE(Sections().empty());
-    EXPECT_EQ(StoredGroup("0"), "");  // the removal was written at once
+    EXPECT_EQ(Stored("GROUPS", "0"), "");  // the removal was written at once
 }
 
 TEST_F(GroupsDialogTest, CancelSwitchesOnlyWhenTheMainGroupWasTouched)
@@ -151,7 +145,7 @@ TEST_F(GroupsDialogTest, CancelSwitchesOnlyWhenTheMainGroupWasTouched)
     Button("cancelButton")->click();
     EXPECT_EQ(dialog->result(), 0);
     EXPECT_EQ(Settings().actualGroup, 2);
-    EXPECT_EQ(StoredGroup("3"), stem + "1");
+    EXPECT_EQ(Stored("GROUPS", "3"), stem + "1");
 
     // Main group renamed: no longer in the list, so cancel takes the selection.
     OpenThree();

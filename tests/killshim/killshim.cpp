@@ -29,13 +29,15 @@ bool FdMatches(int fd)
     return Matches(path);
 }
 
-// Counts a call that touched a matching file, and ends the process on the N-th.
-void Counted(bool matched)
+// Counts a call that touched a matching file, and ends the process on the N-th; gives
+// back the call's result otherwise.
+ssize_t Counted(bool matched, ssize_t result)
 {
     static int calls = 0;
     const char* after = getenv("DOCMGR_KILL_AFTER");
     if (matched && after && ++calls == atoi(after))
         raise(SIGKILL);
+    return result;
 }
 
 template <typename Fn>
@@ -46,22 +48,19 @@ Fn Next(const char* name)
 
 }  // namespace
 
+// Each counts its call once the real one is done, so that the process dies with it done.
 extern "C" {
 
 ssize_t write(int fd, const void* buffer, size_t n)
 {
-    static const auto real = Next<ssize_t (*)(int, const void*, size_t)>("write");
-    const ssize_t result = real(fd, buffer, n);
-    Counted(FdMatches(fd));
-    return result;
+    static const auto real = Next<decltype(&write)>("write");
+    return Counted(FdMatches(fd), real(fd, buffer, n));
 }
 
 ssize_t pwrite(int fd, const void* buffer, size_t n, off_t offset)
 {
-    static const auto real = Next<ssize_t (*)(int, const void*, size_t, off_t)>("pwrite");
-    const ssize_t result = real(fd, buffer, n, offset);
-    Counted(FdMatches(fd));
-    return result;
+    static const auto real = Next<decltype(&pwrite)>("pwrite");
+    return Counted(FdMatches(fd), real(fd, buffer, n, offset));
 }
 
 ssize_t pwrite64(int fd, const void* buffer, size_t n, off_t offset)
@@ -71,42 +70,32 @@ ssize_t pwrite64(int fd, const void* buffer, size_t n, off_t offset)
 
 int ftruncate(int fd, off_t length)
 {
-    static const auto real = Next<int (*)(int, off_t)>("ftruncate");
-    const int result = real(fd, length);
-    Counted(FdMatches(fd));
-    return result;
+    static const auto real = Next<decltype(&ftruncate)>("ftruncate");
+    return int(Counted(FdMatches(fd), real(fd, length)));
 }
 
 int fsync(int fd)
 {
-    static const auto real = Next<int (*)(int)>("fsync");
-    const int result = real(fd);
-    Counted(FdMatches(fd));
-    return result;
+    static const auto real = Next<decltype(&fsync)>("fsync");
+    return int(Counted(FdMatches(fd), real(fd)));
 }
 
 int futimens(int fd, const struct timespec times[2])
 {
-    static const auto real = Next<int (*)(int, const struct timespec*)>("futimens");
-    const int result = real(fd, times);
-    Counted(FdMatches(fd));
-    return result;
+    static const auto real = Next<decltype(&futimens)>("futimens");
+    return int(Counted(FdMatches(fd), real(fd, times)));
 }
 
 int utimensat(int dirfd, const char* path, const struct timespec times[2], int flags)
 {
-    static const auto real = Next<int (*)(int, const char*, const struct timespec*, int)>("utimensat");
-    const int result = real(dirfd, path, times, flags);
-    Counted(Matches(path));
-    return result;
+    static const auto real = Next<decltype(&utimensat)>("utimensat");
+    return int(Counted(Matches(path), real(dirfd, path, times, flags)));
 }
 
 int rename(const char* from, const char* to)
 {
-    static const auto real = Next<int (*)(const char*, const char*)>("rename");
-    const int result = real(from, to);
-    Counted(Matches(to));
-    return result;
+    static const auto real = Next<decltype(&rename)>("rename");
+    return int(Counted(Matches(to), real(from, to)));
 }
 
 }  // extern "C"

@@ -60,9 +60,7 @@ TEST_F(SectionsTest, KeptChangesGoIntoTheCurrentGroupRefusedOnesAreDropped)
     EXPECT_EQ(queries[0], "The settings of the group \"Gamma\" have been changed. Keep the changes?");
     EXPECT_FALSE(host->IsChanged());
     EXPECT_EQ(Settings().Group(2).filterTitle, "*Plan*");
-    Config saved(configPath);
-    saved.SetGroup("2");
-    EXPECT_EQ(saved.ReadKey("FILTERTITLE"), "*Plan*");
+    EXPECT_EQ(Stored("2", "FILTERTITLE"), "*Plan*");
     EXPECT_EQ(Working().groupName, "Alpha");
 
     // Refused: dropped, and the first group, not the current one, becomes the settings in force.

@@ -102,6 +102,14 @@ protected:
         return int(selection.size());
     }
 
+    // The value of `key` in `section` of the configuration file as it is on disk now.
+    std::string Stored(const std::string& section, const std::string& key) const
+    {
+        Config file(configPath);
+        file.SetGroup(section);
+        return file.ReadKey(key);
+    }
+
     std::vector<std::string> RowNames()
     {
         std::vector<std::string> names;

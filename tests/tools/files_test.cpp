@@ -1,13 +1,16 @@
-// Listing, the file operations that never overwrite, temporary files and the module's texts.
+// Listing, the file operations that never overwrite, folder names kept below their base, a
+// move across devices, temporary files and the module's texts.
 #include <gtest/gtest.h>
 
 #include <QTemporaryDir>
 #include <cctype>
 #include <cerrno>
 #include <ctime>
+#include <filesystem>
 #include <unistd.h>
 #include <sys/stat.h>
 
+#include "docmgr/tools/docfileops.h"
 #include "docmgr/tools/fsutil.h"
 #include "docmgr/tools/replacefile.h"
 #include "docmgr/tools/resmgr.h"
@@ -75,6 +78,45 @@ TEST_F(Files, CopyAndMoveNeverOverwriteNorLoseAFile)
     stat(At("moved").c_str(), &st);
     EXPECT_EQ(st.st_mode & 0777, 0640u);
     EXPECT_EQ(fsutil::List(dir, "*", fsutil::Kind::Files).size(), shm.isValid() ? 3u : 4u);
+}
+
+TEST_F(Files, FolderNamesStayBelowTheBase)
+{
+    for (const char* name : {"a", "a/b", "a//b/", "./a", "a.b", "..a", "a..", "...", "a/..b"})
+        EXPECT_TRUE(docfileops::StaysBelow(name)) << name;
+    for (const char* name : {"", "..", "../x", "a/../../x", "a/..", "/tmp/x", "/"})
+        EXPECT_FALSE(docfileops::StaysBelow(name)) << name;
+
+    const std::string base = tmp.MakeDir("base");
+    EXPECT_EQ(docfileops::MakeFolder(base, "a/b"), 0);
+    EXPECT_TRUE(std::filesystem::is_directory(base + "/a/b"));
+    EXPECT_EQ(docfileops::FolderPath(base, "a//b/"), base + "/a/b");
+    EXPECT_EQ(docfileops::MakeFolder(base, "a/b"), 0) << "an existing folder is there to use";
+    EXPECT_EQ(docfileops::MakeFolder(base, "../x"), EINVAL);
+    tmp.MakeFile("base/plain", "keep");
+    EXPECT_NE(docfileops::MakeFolder(base, "plain"), 0);
+    EXPECT_NE(docfileops::MakeFolder(base, "plain/sub"), 0);
+    EXPECT_EQ(tmp.Read("base/plain"), "keep");
+}
+
+TEST_F(Files, MoveAcrossDevicesCopiesThenRemoves)
+{
+    QTemporaryDir shm(QStringLiteral("/dev/shm/docmgr-test-XXXXXX"));
+    const std::string other = shm.path().toStdString();
+    struct stat here {}, there {};
+    if (!shm.isValid() || stat(dir.c_str(), &here) != 0 || stat(other.c_str(), &there) != 0
+        || here.st_dev == there.st_dev)
+        GTEST_SKIP() << "no writable /dev/shm on another device";
+    const std::string contents(300000, 'z');
+    ASSERT_EQ(docfileops::MoveInto(tmp.MakeFile("a.odt", contents), other), 0);
+    EXPECT_FALSE(tmp.Exists("a.odt"));
+    EXPECT_EQ(testfs::ReadFile(other + "/a.odt"), contents);
+
+    // Back again onto an existing file: the copy fails, so nothing is removed.
+    tmp.MakeFile("a.odt", "here");
+    EXPECT_EQ(docfileops::MoveInto(other + "/a.odt", dir), EEXIST);
+    EXPECT_EQ(testfs::ReadFile(other + "/a.odt"), contents);
+    EXPECT_EQ(tmp.Read("a.odt"), "here");
 }
 
 TEST(Resources, ModuleSlotHoldsTheManagerWhileTheModuleLives)

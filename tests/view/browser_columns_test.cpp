@@ -5,23 +5,12 @@
 #include <filesystem>
 
 #include "docmgr/view/doccelldelegate.h"
-#include "docmgr/config/configkeys.h"
 #include "docmgr/records/docfields.h"
 #include "docmgr/view/doclistmodel.h"
 #include "docmgr/view/frozencolumns.h"
 #include "tests/support/managerfixture.h"
 
-static int ColumnOf(DocBrowser& browser, uint16_t id)
-{
-    return browser.GetModel()->ColumnOf(id);
-}
-
-static std::string StoredWidth(const std::string& configPath, const char* section, unsigned slot)
-{
-    Config file(configPath);
-    file.SetGroup(section);
-    return file.ReadKey(configkeys::Numbered("COLUMNWIDTH", slot));
-}
+static int ColumnOf(DocBrowser& browser, uint16_t id) { return browser.GetModel()->ColumnOf(id); }
 
 TEST_F(ManagerTest, ColumnsComeFromTheWorkingGroupsSlotsAndCellsAreAlignedByKind)
 {
@@ -112,7 +101,7 @@ TEST_F(ManagerTest, HeaderDoubleClickFitsTheColumnAndWidthsAreStored)
     // Empty list: 6 + 2.
     browser.FitColumn(COL_TITLE);
     EXPECT_EQ(browser.columnWidth(titleColumn), 8);
-    EXPECT_EQ(StoredWidth(configPath, "0", 2), "8");
+    EXPECT_EQ(Stored("0", "COLUMNWIDTH2"), "8");
 
     // The widest text with the cell's margins + 2, found through a double click on the title.
     MakeDocs({"a.odt", "b.odt"});
@@ -135,7 +124,7 @@ TEST_F(ManagerTest, HeaderDoubleClickFitsTheColumnAndWidthsAreStored)
 
     // A width the user drags is stored when the button is released.
     browser.setColumnWidth(ColumnOf(browser, COL_AUTHOR), 77);  // as a drag does, step by step
-    EXPECT_NE(StoredWidth(configPath, "0", 6), "77");
+    EXPECT_NE(Stored("0", "COLUMNWIDTH6"), "77");
     QTest::mouseRelease(browser.horizontalHeader()->viewport(), Qt::LeftButton);
-    EXPECT_EQ(StoredWidth(configPath, "0", 6), "77");
+    EXPECT_EQ(Stored("0", "COLUMNWIDTH6"), "77");
 }
