@@ -18,7 +18,7 @@ protected:
         WriteConfig(groups, uint16_t(actual + 1));
         Start(false);
         AnswerBoxes(RET_NO);
-        dialog = std::make_unique<DocGroupsDialog>(host.get(), &Settings(), host->GetSelectedGroupName());
+        dialog = std::make_unique<DocGroupsDialog>(host.get(), &Settings(), Impl().SelectedGroupName());
     }
     QListWidget* List() const { return In<QListWidget>(*dialog, "groupList"); }
     QLineEdit* NameEdit() const { return In<QLineEdit>(*dialog, "nameEdit"); }

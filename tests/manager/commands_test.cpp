@@ -67,11 +67,11 @@ TEST_F(CommandsTest, CommandsFollowTheSelectionTheOpenModeAndTheRights)
 TEST_F(CommandsTest, DeleteRemovesTheSelectedFilesAndRewritesThePathLine)
 {
     Start();
-    EXPECT_EQ(host->GetPathLine(), "4 documents in " + docs);
+    EXPECT_EQ(Impl().pathLineText, "4 documents in " + docs);
 
     Select({"c.odt"});
     AnswerBoxes(RET_NO);
-    host->Command(CMD_DELETE);
+    Impl().Command(CMD_DELETE);
     EXPECT_EQ(queries, std::vector<std::string>{"Do you really want to delete the document \"c.odt\"?"});
     EXPECT_EQ(AnsweredDocBox().defaultAnswer, RET_NO);  // Enter keeps the files
     EXPECT_TRUE(dir.Exists("docs/c.odt"));
@@ -81,7 +81,7 @@ TEST_F(CommandsTest, DeleteRemovesTheSelectedFilesAndRewritesThePathLine)
     std::filesystem::remove(docs + "/b.odt");
     queries.clear();
     AnswerBoxes(RET_YES);
-    host->Command(CMD_DELETE);
+    Impl().Command(CMD_DELETE);
     EXPECT_EQ(queries, std::vector<std::string>{"Do you really want to delete the 3 selected documents?"});
     EXPECT_FALSE(dir.Exists("docs/a.odt") || dir.Exists("docs/d.odt"));
     EXPECT_EQ(infos, std::vector<std::string>{"The file " + docs + "/b.odt could not be deleted."});
@@ -142,6 +142,6 @@ TEST_F(CommandsTest, ExportWritesTheListAsShownToCsv)
         dynamic_cast<QFileDialog&>(dialog).selectFile(QString::fromStdString(dir.PathOf("list.csv")));
         QMetaObject::invokeMethod(&dialog, "accept");
     });
-    host->Command(CMD_EXPORTLIST);
+    Impl().Command(CMD_EXPORTLIST);
     EXPECT_EQ(dir.Read("list.csv"), "Title,File name\r\na.odt,a.odt\r\nb.odt,b.odt\r\nc.odt,c.odt\r\nd.odt,d.odt\r\n");
 }

@@ -16,7 +16,7 @@ TEST_F(ManagerTest, ExecuteEndsWithCloseOrOpenAndASecondRunCollectsAgainWithTheS
     WriteConfig({{"Elsewhere", "Other", dir.MakeDir("other"), "1"}});
     dir.MakeFile("docs/b.odt", "x");
     QTimer::singleShot(0, host.get(), [this] {
-        EXPECT_EQ(host->GetSelectedGroupName(), "Docs");
+        EXPECT_EQ(Impl().SelectedGroupName(), "Docs");
         EXPECT_EQ(Browser().GetRowCount(), 2);
         Select({"a.odt"});
         Child<QCheckBox>("readOnlyBox")->setChecked(true);
@@ -45,7 +45,7 @@ TEST_F(ManagerTest, PathLineShowsTheActivePathsOrTheStartPaths)
         host.reset();
         Start(true, row.startPaths);
         Working().guis = row.guis;
-        host->CollectFiles();
-        EXPECT_EQ(host->GetPathLine(), row.line) << "'" << row.startPaths << "', flags " << row.guis;
+        Impl().CollectFiles();
+        EXPECT_EQ(Impl().pathLineText, row.line) << "'" << row.startPaths << "', flags " << row.guis;
     }
 }

@@ -17,11 +17,11 @@ protected:
 // and the list is collected again (the groups dialog, which saves itself, only collects).
 TEST_F(HandlersTest, ConfirmedSettingsDialogsMarkTheSettingsAndCollect)
 {
-    const struct { const char* name; void (TestHost::*handler)(); bool marks; } table[] = {
-        {"paths", &TestHost::PathsHdl, true},
-        {"filter", &TestHost::FilterHdl, true},
-        {"sort without column", &TestHost::SortHdl, true},
-        {"groups", &TestHost::GroupsHdl, false},
+    const struct { const char* name; void (DocManagerImpl::*handler)(); bool marks; } table[] = {
+        {"paths", &DocManagerImpl::PathsHdl, true},
+        {"filter", &DocManagerImpl::FilterHdl, true},
+        {"sort without column", &DocManagerImpl::SortHdl, true},
+        {"groups", &DocManagerImpl::GroupsHdl, false},
     };
     for (const auto& row : table) {
         SCOPED_TRACE(row.name);
@@ -31,12 +31,12 @@ TEST_F(HandlersTest, ConfirmedSettingsDialogsMarkTheSettingsAndCollect)
         const long rows = Browser().GetRowCount();
         dir.MakeFile(std::string("docs/") + row.name + ".odt", "x");
         Confirm(0);
-        (host.get()->*row.handler)();
-        EXPECT_FALSE(host->IsChanged());
+        (Impl().*row.handler)();
+        EXPECT_FALSE(Impl().changed);
         EXPECT_EQ(Browser().GetRowCount(), rows);
         Confirm(1);
-        (host.get()->*row.handler)();
-        EXPECT_EQ(host->IsChanged(), row.marks);
+        (Impl().*row.handler)();
+        EXPECT_EQ(Impl().changed, row.marks);
         EXPECT_EQ(Browser().GetRowCount(), rows + 1);
     }
 }
@@ -46,16 +46,16 @@ TEST_F(HandlersTest, ConfirmedSortSortsColumnsRebuildTheColumnsCopyAndRenameColl
     Select({"c.odt"});
     Working().sortColumnId = COL_NAME;
     Confirm();
-    host->SortHdl();
+    Impl().SortHdl();
     EXPECT_EQ(RowNames(), (std::vector<std::string>{"a.odt", "b.odt", "c.odt"}));
     EXPECT_EQ(Browser().GetSelectedRowCount(), 0);
 
     Working().columnId[0] = COL_AUTHOR;
     Confirm(0);
-    host->ColumnsHdl();
+    Impl().ColumnsHdl();
     EXPECT_EQ(Browser().GetColumnId(0), COL_NAME);
     Confirm(1);
-    host->ColumnsHdl();
+    Impl().ColumnsHdl();
     EXPECT_EQ(Browser().GetColumnId(0), COL_AUTHOR);
 
     // Copy and rename confirmed but nothing done: no collection.
@@ -63,7 +63,7 @@ TEST_F(HandlersTest, ConfirmedSortSortsColumnsRebuildTheColumnsCopyAndRenameColl
     dir.MakeFile("docs/new.odt", "x");
     for (unsigned short command : {CMD_COPY, CMD_RENAME}) {
         Confirm(1);
-        host->Command(command);
+        Impl().Command(command);
         EXPECT_EQ(Browser().GetRowCount(), 3) << command;
     }
 }

@@ -24,7 +24,7 @@ protected:
             dialog.findChild<QLineEdit*>("titleEdit")->setText(title);
             dialog.findChild<QPushButton*>("okButton")->click();
         });
-        host->FilterHdl();
+        Impl().FilterHdl();
     }
 };
 
@@ -34,14 +34,14 @@ TEST_F(SectionsTest, SectionsAppearOnceAndChoosingOneMakesItsFirstGroupCurrent)
     EXPECT_EQ(Texts(Sections()), (std::vector<std::string>{"Work", "Home"}));
     EXPECT_EQ(Sections()->currentItem()->text(), "Work");
     EXPECT_EQ(Texts(Groups()), (std::vector<std::string>{"Alpha", "Gamma"}));
-    EXPECT_EQ(host->GetSelectedGroupName(), "Gamma");
+    EXPECT_EQ(Impl().SelectedGroupName(), "Gamma");
     EXPECT_EQ(RowNames(), std::vector<std::string>{"c1.odt"});
 
     Sections()->setCurrentRow(1);  // "Home", as a click does
     EXPECT_EQ(Texts(Groups()), std::vector<std::string>{"Beta"});
     EXPECT_EQ(Settings().actualGroup, 2);
     EXPECT_EQ(RowNames(), std::vector<std::string>{"b1.odt"});
-    EXPECT_EQ(host->GetPathLine(), "1 documents in " + docs + "/b");
+    EXPECT_EQ(Impl().pathLineText, "1 documents in " + docs + "/b");
 
     Sections()->setCurrentRow(0);
     Groups()->setCurrentRow(0);  // "Alpha"
@@ -58,7 +58,7 @@ TEST_F(SectionsTest, KeptChangesGoIntoTheCurrentGroupRefusedOnesAreDropped)
     Groups()->setCurrentRow(0);  // away from Gamma: the question comes
     ASSERT_EQ(queries.size(), 1u);
     EXPECT_EQ(queries[0], "The settings of the group \"Gamma\" have been changed. Keep the changes?");
-    EXPECT_FALSE(host->IsChanged());
+    EXPECT_FALSE(Impl().changed);
     EXPECT_EQ(Settings().Group(2).filterTitle, "*Plan*");
     EXPECT_EQ(Stored("2", "FILTERTITLE"), "*Plan*");
     EXPECT_EQ(Working().groupName, "Alpha");
@@ -67,7 +67,7 @@ TEST_F(SectionsTest, KeptChangesGoIntoTheCurrentGroupRefusedOnesAreDropped)
     Groups()->setCurrentRow(1);
     AnswerBoxes(RET_NO);
     ChangeFilterTitle("*Other*");
-    host->QuerySave();
+    Impl().QuerySave();
     EXPECT_EQ(Settings().Group(2).filterTitle, "*Plan*");
     EXPECT_EQ(Settings().actualGroup, 1);
     EXPECT_EQ(Working().filterTitle, "");

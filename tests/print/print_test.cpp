@@ -103,7 +103,7 @@ TEST_F(PrintTest, ColumnsGoInIdOrderEachAsWideAsItsWidestText)
     wide.author = "Tester";
     host->known["doc01.odt"] = wide;
     std::filesystem::remove(docs + "/.docindex");  // so that the host is asked again
-    host->CollectFiles();
+    Impl().CollectFiles();
     Working().columnId = {5, 3, 1, 2, 4, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20};
     Browser().InsertColumns();
     QSet<QString> titles;
@@ -151,7 +151,7 @@ TEST_F(PrintTest, OkPrintsTheListPageByPageToAPdfPrinter)
     ASSERT_GT(lines, 2);
     for (long i = 0; i < lines; ++i)
         dir.MakeFile("docs/" + DocName(i), "x");
-    host->CollectFiles();
+    Impl().CollectFiles();
     Browser().SortFiles(false);
     auto* list = In<QListWidget>(*dialog, "columnList");
     for (int i = 0; i < list->count(); ++i)  // file name and title

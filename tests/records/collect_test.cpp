@@ -8,10 +8,7 @@ using Names = std::vector<std::string>;
 
 TEST_F(IndexTest, CollectTakesExistingDirectoriesInPathListOrder)
 {
-    Doc("one/a.odt");
-    Doc("two/b.odt");
-    Doc("two/sub/c.odt");
-    Doc("file.odt");
+    Docs({"one/a.odt", "two/b.odt", "two/sub/c.odt", "file.odt"});
     ASSERT_TRUE(rows.NeedsCollect());
 
     rows.CollectFiles(dir.PathOf("two") + "/**;" + dir.PathOf("missing") + ";;" +
@@ -56,9 +53,7 @@ TEST_F(IndexTest, CollectFiltersAndSortsByTheWorkingGroup)
 
 TEST_F(IndexTest, SelectedRowsAreWalkedAndRemovedRowsLeaveTheIndex)
 {
-    Doc("a.odt");
-    Doc("b.odt");
-    Doc("c.odt");
+    Docs({"a.odt", "b.odt", "c.odt"});
     config.WorkingGroup().sortColumnId = 1;
     rows.CollectFiles(dir.Path());
 
@@ -81,10 +76,7 @@ TEST_F(IndexTest, SubdirectoriesFollowTheirParentAndEachGetsAnIndexButLinksAndEx
 {
     TempDir elsewhere;
     elsewhere.MakeFile("outside.odt", "x", OLD);
-    Doc("a.odt");
-    Doc("sub/b.odt");
-    Doc("sub/deeper/c.odt");
-    Doc("skip/d.odt");
+    Docs({"a.odt", "sub/b.odt", "sub/deeper/c.odt", "skip/d.odt"});
     dir.MakeDir("empty");
     dir.MakeLink("sub/back", dir.Path());
     dir.MakeLink("sub/self", ".");

@@ -74,9 +74,7 @@ TEST_F(IndexTest, ManyRecordsMatchInAnyOrderAndVanishedOnesAreDropped)
 
 TEST_F(IndexTest, FullDiskLeavesThePreviousIndexOrNone)
 {
-    Doc("a.odt");
-    Doc("b.odt");
-    Doc("c.odt");
+    Docs({"a.odt", "b.odt", "c.odt"});
     const std::string original = Image({SampleRecord("a.odt")});
     signal(SIGXFSZ, SIG_IGN);
     const int status = InChild([&] {
@@ -105,10 +103,7 @@ TEST_F(IndexTest, FullDiskLeavesThePreviousIndexOrNone)
 
 TEST_F(IndexTest, FoldersAndIndexesThatCannotBeUsed)
 {
-    Doc("current.odt");
-    Doc("changed.odt");
-    Doc("new.odt");
-    Doc("closed/b.odt");
+    Docs({"current.odt", "changed.odt", "new.odt", "closed/b.odt"});
     chmod(dir.PathOf("closed").c_str(), 0);
     const std::string original = Image({SampleRecord("current.odt"), SampleRecord("changed.odt"),
                                         SampleRecord("gone.odt")});
@@ -156,8 +151,7 @@ TEST_F(IndexTest, DocumentReplacedDuringAListingIsReadAgainNextTime)
                                               Image({SampleRecord("z.odt")})};
     for (const std::string& index : indexes) {
         dir.Remove(INDEX);
-        Doc("a.odt");
-        Doc("z.odt");
+        Docs({"a.odt", "z.odt"});
         if (!index.empty())
             WriteIndex(index, OLD - 10);
         if (index == indexes[2])

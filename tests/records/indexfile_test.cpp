@@ -43,10 +43,7 @@ TEST_F(IndexTest, MissingIndexIsWrittenAndNonDocumentsAreNotAskedAgain)
 
 TEST_F(IndexTest, ChangedDocumentIsOverwrittenInPlace)
 {
-    Doc("a.odt");
-    Doc("b.odt");
-    Doc("c.odt");
-    Doc("x.odt");
+    Docs({"a.odt", "b.odt", "c.odt", "x.odt"});
     const std::string original = Image({SampleRecord("c.odt"), SampleRecord("b.odt"), SampleRecord("a.odt"),
                                         SampleRecord("x.odt")});
     WriteIndex(original, NEWER, 499);
@@ -120,8 +117,7 @@ TEST_F(IndexTest, DamagedForeignOrOversizedIndexes)
 
 TEST_F(IndexTest, TruncatedLastRecordIsLeftAndDuplicateOrVanishedRecordsCauseOneRewrite)
 {
-    Doc("a.odt");
-    Doc("b.odt");
+    Docs({"a.odt", "b.odt"});
     Record firstA = SampleRecord("a.odt");
     firstA.Text(indeximage::TITLE, 63, "first");
     const std::string truncated = Image({SampleRecord("a.odt")}) + SampleRecord("b.odt").Bytes().substr(0, 727);
@@ -143,8 +139,7 @@ TEST_F(IndexTest, TruncatedLastRecordIsLeftAndDuplicateOrVanishedRecordsCauseOne
 
 TEST_F(IndexTest, LockedIndexIsReadButNotWritten)
 {
-    Doc("a.odt");
-    Doc("b.odt");
+    Docs({"a.odt", "b.odt"});
     const std::string original = Image({SampleRecord("a.odt"), SampleRecord("gone.odt")});
     WriteIndex(original);
     dir.SetMTime("a.odt", NEWER + 1);

@@ -36,6 +36,11 @@ protected:
     {
         return dir.MakeFile(name, contents, OLD);
     }
+    void Docs(std::initializer_list<const char*> names)
+    {
+        for (const char* name : names)
+            Doc(name);
+    }
 
     void WriteIndex(const std::string& bytes, int64_t seconds = NEWER, long ns = 0)
     {

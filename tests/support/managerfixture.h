@@ -84,10 +84,11 @@ protected:
     }
 
     // Reads the settings and collects, as the first Execute does, without its modal loop.
-    void Start(bool openMode = true, const std::string& startPaths = {}) { MakeHost(openMode, startPaths).Init(); }
+    void Start(bool openMode = true, const std::string& startPaths = {}) { MakeHost(openMode, startPaths).Inside().Init(); }
 
-    DocBrowser& Browser() { return *host->GetBrowser(); }
-    ImplDocConfig& Settings() { return *host->GetSettings(); }
+    DocManagerImpl& Impl() { return host->Inside(); }
+    DocBrowser& Browser() { return *Impl().browser; }
+    ImplDocConfig& Settings() { return *Impl().settings; }
     DocGroupConfig& Working() { return Settings().WorkingGroup(); }
 
     // Selects exactly the rows whose file names are in `names`; how many it selected.

@@ -15,33 +15,16 @@ class TestHost : public DocManager {
 public:
     using DocManager::DocManager;
 
-    // The dialog's inside, through its private header.
+    // The dialog's inside, through its private header: its steps and handlers, for tests
+    // that drive it without a modal loop, and what it holds.
     DocManagerImpl& Inside() { return DocManagerImpl::Of(*this); }
     const DocManagerImpl& Inside() const { return DocManagerImpl::Of(*this); }
 
-    // The dialog's steps and handlers, for tests that drive it without a modal loop.
-    void Init() { Inside().Init(); }
-    void QuerySave() { Inside().QuerySave(); }
-    void CollectFiles() { Inside().CollectFiles(); }
-    void Command(unsigned short id) { Inside().Command(id); }
-    void GroupsHdl() { Inside().GroupsHdl(); }
-    void PathsHdl() { Inside().PathsHdl(); }
-    void FilterHdl() { Inside().FilterHdl(); }
-    void SortHdl() { Inside().SortHdl(); }
-    void ColumnsHdl() { Inside().ColumnsHdl(); }
-
-    // What the dialog holds.
-    DocBrowser* GetBrowser() const { return Inside().browser; }
-    ImplDocConfig* GetSettings() const { return Inside().settings.get(); }
-    DocSummaryWindow* GetSummaryWindow() const { return Inside().summary; }
-    const std::string& GetPathLine() const { return Inside().pathLineText; }
-    bool IsChanged() const { return Inside().changed; }
-    QString GetSelectedGroupName() const { return Inside().SelectedGroupName(); }
     // Paths of the selected rows in list order.
     std::vector<std::string> SelectedDocs() const
     {
         std::vector<std::string> docs;
-        for (const std::string* doc = GetBrowser()->GetFirstDoc(); doc; doc = GetBrowser()->GetNextDoc())
+        for (const std::string* doc = Inside().browser->GetFirstDoc(); doc; doc = Inside().browser->GetNextDoc())
             docs.push_back(*doc);
         return docs;
     }

@@ -107,7 +107,7 @@ TEST_F(ManagerTest, HeaderDoubleClickFitsTheColumnAndWidthsAreStored)
     MakeDocs({"a.odt", "b.odt"});
     host->known["a.odt"].title = "Short";
     host->known["b.odt"].title = "A somewhat longer title";
-    host->CollectFiles();
+    Impl().CollectFiles();
     QHeaderView* header = browser.horizontalHeader();
     const int x = header->sectionViewportPosition(titleColumn) + header->sectionSize(titleColumn) / 2;
     QTest::mouseDClick(header->viewport(), Qt::LeftButton, {}, QPoint(x, header->height() / 2));
@@ -118,7 +118,7 @@ TEST_F(ManagerTest, HeaderDoubleClickFitsTheColumnAndWidthsAreStored)
     // Wider than half the data area: half of it less one, + 2.
     host->known["b.odt"].title = std::string(400, 'W');
     std::filesystem::remove(docs + "/.docindex");  // so that the host is asked again
-    host->CollectFiles();
+    Impl().CollectFiles();
     browser.FitColumn(COL_TITLE);
     EXPECT_EQ(browser.columnWidth(titleColumn), browser.viewport()->width() / 2 - 1 + 2);
 

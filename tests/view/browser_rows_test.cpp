@@ -43,11 +43,11 @@ TEST_F(ManagerTest, RowsAreSelectedByKeysWalkedInRowOrderKeptThroughASortAndShow
     Select({"a.odt"});  // the last row
     const int calls = host->createCalls;
     host->known["a.odt"].title = "New title";
-    host->Command(CMD_DOCINFO);
+    Impl().Command(CMD_DOCINFO);
     EXPECT_EQ(host->createCalls, calls);
     host->changeResult = true;
     dir.MakeFile("docs/a.odt", "grown since");
-    host->Command(CMD_DOCINFO);
+    Impl().Command(CMD_DOCINFO);
     EXPECT_EQ(host->createCalls, calls + 1);
     EXPECT_EQ(Browser().GetColumnText(4, COL_TITLE) + "|" + Browser().GetColumnText(4, COL_SIZE), "New title|11");
     EXPECT_EQ(Browser().GetSelectedRowCount(), 1);
@@ -86,7 +86,7 @@ TEST_F(ManagerTest, ALongCollectionShowsHowFarItHasGot)
     EXPECT_TRUE(Browser().GetCollectProgress().WasShown());
     EXPECT_TRUE(Browser().GetCollectProgress().LastText().contains("folders"));
     EXPECT_EQ(host->findChild<QWidget*>("collectProgress"), nullptr);  // gone at the end
-    EXPECT_EQ(host->GetPathLine(), "3 documents in " + docs + "/**");
+    EXPECT_EQ(Impl().pathLineText, "3 documents in " + docs + "/**");
 }
 
 // Pixels inside the border that are not the white background.
@@ -109,7 +109,7 @@ TEST_F(ManagerTest, SummaryPaneShowsTheFirstSelectedDocumentOnly)
     host->resize(1000, 600);
     host->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(host.get()));
-    DocSummaryWindow* pane = host->GetSummaryWindow();
+    DocSummaryWindow* pane = Impl().summary;
     ASSERT_NE(pane, nullptr);
     EXPECT_GE(pane->height(), DocSummaryWindow::LINE_COUNT * pane->fontMetrics().height());
 
