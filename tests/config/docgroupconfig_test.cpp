@@ -30,7 +30,8 @@ TEST_F(GroupTest, MissingKeysReadAsEmptyNotAsDefaults)
     EXPECT_EQ(only.Export(), empty.Export());
 
     const DocGroupConfig lower(&config, 1), upper(&config, 2);
-    EXPECT_EQ(std::tuple(lower.filterField[0], lower.filterField[1], lower.filterCondition[2]), std::tuple(1, 65535, -7));
+    EXPECT_EQ(std::tuple(lower.filterField[0], lower.filterField[1], lower.filterCondition[2]),
+              std::tuple(1, 65535, -7));
     // Flags are case-sensitive; the condition key is only known with its double L.
     EXPECT_FALSE(lower.filterSensitive || lower.sortAscending);
     EXPECT_TRUE(upper.filterSensitive && upper.sortAscending);

@@ -203,7 +203,8 @@ TEST(PagePlan, EachPageHoldsAllButTheHeaderLine)
 TEST(PagePlan, AColumnFitsWhenItsWidestTextEndsOnThePage)
 {
     const std::map<uint16_t, uint16_t> widths{{1, 10}, {3, 5}, {7, 20}};
-    const struct { long charWidth, pageWidth; int fitting; } table[] = {{1, 35, 3}, {1, 34, 2}, {1, 15, 2}, {2, 29, 1}, {2, 19, 0}, {1, 1000, 3}};
+    const struct { long charWidth, pageWidth; int fitting; } table[] = {
+        {1, 35, 3}, {1, 34, 2}, {1, 15, 2}, {2, 29, 1}, {2, 19, 0}, {1, 1000, 3}};
     for (const auto& row : table)
         EXPECT_EQ(pageplan::FittingColumns(widths, row.charWidth, row.pageWidth), row.fitting)
             << row.charWidth << " x " << row.pageWidth;

@@ -110,5 +110,6 @@ TEST(DocSort, TextIsByteWiseAndCaseSensitiveNumbersGoByValue)
     EXPECT_EQ(Sorted(entries, 6, true, [&](DocInfo& row, size_t i) { row.createdTime = times[i]; }),
               (Entries{"1", "2", "0"}));
     const uint32_t sizes[] = {5, 0x80000000u, 7};
-    EXPECT_EQ(Sorted(entries, 2, false, [&](DocInfo& row, size_t i) { row.size = sizes[i]; }), (Entries{"1", "2", "0"}));
+    EXPECT_EQ(Sorted(entries, 2, false, [&](DocInfo& row, size_t i) { row.size = sizes[i]; }),
+              (Entries{"1", "2", "0"}));
 }

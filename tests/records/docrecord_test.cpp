@@ -91,7 +91,8 @@ TEST(DocRecord, LongTextIsCutWithoutSplittingACharacterAndCommentControlsReadAsB
 
     // Read back, control bytes of the comment (only) read as blanks.
     Record record("a.odt");
-    record.Text(COMMENT, 255, std::string("one\ntwo\tthree\x1F") + '\0' + "\x7F" + "end").Text(TITLE, 63, "keep\nbreak");
+    record.Text(COMMENT, 255, std::string("one\ntwo\tthree\x1F") + '\0' + "\x7F" + "end");
+    record.Text(TITLE, 63, "keep\nbreak");
     const DocInfo back = FromImage(record.Bytes());
     EXPECT_EQ(back.comment, std::string("one two three ") + '\0' + "\x7F" + "end");
     EXPECT_EQ(back.title, "keep\nbreak");

@@ -84,7 +84,7 @@ protected:
     }
 
     // Reads the settings and collects, as the first Execute does, without its modal loop.
-    void Start(bool openMode = true, const std::string& startPaths = {}) { MakeHost(openMode, startPaths).Inside().Init(); }
+    void Start(bool openMode = true, const std::string& starts = {}) { MakeHost(openMode, starts).Inside().Init(); }
 
     DocManagerImpl& Impl() { return host->Inside(); }
     DocBrowser& Browser() { return *Impl().browser; }

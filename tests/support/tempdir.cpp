@@ -63,11 +63,6 @@ TempDir::~TempDir()
     }
 }
 
-std::string TempDir::PathOf(const std::string& relative) const
-{
-    return relative.empty() ? path_ : path_ + "/" + relative;
-}
-
 std::string TempDir::MakeFile(const std::string& relative, const std::string& contents)
 {
     MakeDir(fs::path(relative).parent_path().string());
@@ -99,8 +94,6 @@ std::string TempDir::MakeLink(const std::string& relative, const std::string& ta
     return PathOf(relative);
 }
 
-std::string TempDir::Read(const std::string& relative) const { return testfs::ReadFile(PathOf(relative)); }
-
 bool TempDir::Exists(const std::string& relative) const
 {
     std::error_code error;
@@ -120,11 +113,6 @@ int64_t TempDir::MTimeNs(const std::string& relative) const
     if (lstat(PathOf(relative).c_str(), &st) != 0)
         return -1;
     return int64_t(st.st_mtim.tv_sec) * 1000000000 + st.st_mtim.tv_nsec;
-}
-
-void TempDir::SetMTime(const std::string& relative, int64_t seconds, long nanoseconds) const
-{
-    testfs::SetMTime(PathOf(relative), seconds, nanoseconds);
 }
 
 void TempDir::Remove(const std::string& relative) const
