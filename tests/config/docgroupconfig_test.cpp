@@ -38,7 +38,7 @@ TEST_F(GroupTest, MissingKeysReadAsEmptyNotAsDefaults)
     EXPECT_EQ(upper.filterCondition[0], 0);
 }
 
-TEST(GroupCopy, NewGroupTakesTheLookButNoIdentityFiltersOrPaths)
+TEST(GroupConfig, NewGroupTakesTheLookButNoIdentityFiltersOrPathsAndExportsItsDocumentedPieces)
 {
     DocGroupConfig source;
     source.filterFiles = "*.odt";
@@ -51,10 +51,8 @@ TEST(GroupCopy, NewGroupTakesTheLookButNoIdentityFiltersOrPaths)
     source.filterTitle = source.filterTopic = source.filterAuthor = source.filterKeywords = "x";
     source.filterValue = {"a", "b", "c"};
     EXPECT_EQ(DocGroupConfig::LookOf(source).Export(), look.Export());
-}
 
-TEST(GroupExport, DefaultGroupFromItsDocumentedPieces)
-{
+    // The export line of a default group, from its documented pieces.
     DocGroupConfig group;
     group.filterDate = {20240131, 20240131, 20240131};
     group.filterTime = {12345678, 12345678, 12345678};

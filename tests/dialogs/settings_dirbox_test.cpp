@@ -80,8 +80,22 @@ TEST_F(DirBoxTest, SiblingsAreSortedWithoutCaseHiddenOnesHiddenOnRequestAndPaths
     EXPECT_EQ(box.GetDir(box.GetSelectedPos()), tree.PathOf("A"));
 }
 
-TEST_F(DirBoxTest, ClosingRemovesTheWholeSubtreeAndVanishedDirectoriesOpenEmpty)
+TEST_F(DirBoxTest, ExceptionPathsAreLeftOutClosingRemovesTheWholeSubtreeVanishedDirectoriesOpenEmpty)
 {
+    // Exception paths and what is below them are left out.
+    Settings().SetExceptionPaths(textcase::ToUpper(tree.PathOf("b") + ";" + tree.PathOf("a/DEEP")));
+    DocDirBox excepting(nullptr, &Settings());
+    const int at = OpenTemp(excepting);
+    EXPECT_EQ(Subtree(excepting, at), (std::vector<std::string>{Line(1, '-', ".hidden"), Line(1, '-', "A"),
+                                                                Line(1, '-', "c")}));
+    excepting.ToggleDir(uint16_t(at + 2));
+    EXPECT_EQ(Subtree(excepting, at + 2), (std::vector<std::string>{Line(2, '-', "w"), Line(2, '-', "x")}));
+
+    // Without a configuration only "." and ".." are left out.
+    DocDirBox plain(nullptr, nullptr);
+    EXPECT_EQ(Subtree(plain, OpenTemp(plain)).size(), 4u);
+    Settings().SetExceptionPaths("");
+
     DocDirBox box(nullptr, &Settings());
     const int pos = OpenTemp(box);
     const int a = pos + 2;
@@ -106,21 +120,6 @@ TEST_F(DirBoxTest, ClosingRemovesTheWholeSubtreeAndVanishedDirectoriesOpenEmpty)
     box.ToggleDir(uint16_t(pos));
     EXPECT_EQ(box.count(), count - 4);
     EXPECT_TRUE(Subtree(box, pos).empty());
-}
-
-TEST_F(DirBoxTest, ExceptionPathsAndWhatIsBelowThemAreLeftOut)
-{
-    Settings().SetExceptionPaths(textcase::ToUpper(tree.PathOf("b") + ";" + tree.PathOf("a/DEEP")));
-    DocDirBox box(nullptr, &Settings());
-    const int pos = OpenTemp(box);
-    EXPECT_EQ(Subtree(box, pos), (std::vector<std::string>{Line(1, '-', ".hidden"), Line(1, '-', "A"),
-                                                           Line(1, '-', "c")}));
-    box.ToggleDir(uint16_t(pos + 2));
-    EXPECT_EQ(Subtree(box, pos + 2), (std::vector<std::string>{Line(2, '-', "w"), Line(2, '-', "x")}));
-
-    // Without a configuration only "." and ".." are left out.
-    DocDirBox plain(nullptr, nullptr);
-    EXPECT_EQ(Subtree(plain, OpenTemp(plain)).size(), 4u);
 }
 
 TEST_F(DirBoxTest, KeysToggleEntriesButNeverTheRootAndTypingFindsAName)

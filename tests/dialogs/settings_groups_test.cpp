@@ -103,7 +103,7 @@ TEST_F(GroupsDialogTest, RenamingDropsBlanksAndMovesTheGroupToTheEnd)
     EXPECT_EQ(Texts(List()).back(), "Delta");
 }
 
-TEST_F(GroupsDialogTest, SectionsFollowTheGroupsMovedBetweenThem)
+TEST_F(GroupsDialogTest, SectionsFollowTheGroupsMovedBetweenThemDeletingSelectsTheNewLast)
 {
     OpenThree(0);
     List()->setCurrentRow(2);
@@ -118,10 +118,8 @@ TEST_F(GroupsDialogTest, SectionsFollowTheGroupsMovedBetweenThem)
     dialog->ChangeHdl();
     EXPECT_EQ(Settings().Group(1).section, "General");
     EXPECT_EQ(Sections(), (std::vector<std::string>{"General", "OldPapers"}));
-}
 
-TEST_F(GroupsDialogTest, DeletingSelectsTheNewLastAndEmptiesTheListAtTheEnd)
-{
+    // Deleting selects the new last group and empties the list at the end.
     Open({{"Alpha", "Work"}, {"Beta", "Home"}}, 0);
     List()->setCurrentRow(1);
     Button("deleteButton")->click();

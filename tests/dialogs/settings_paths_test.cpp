@@ -31,7 +31,7 @@ protected:
     static QCheckBox* Include(const DocPathsDialog& dialog) { return In<QCheckBox>(dialog, "includeBox"); }
 };
 
-TEST_F(PathsDialogTest, IncludeBoxFollowsAndTogglesTheEntrysMarker)
+TEST_F(PathsDialogTest, IncludeBoxTogglesTheEntrysMarkerOkStoresTheListBeforeTheHiddenEntriesCancelNothing)
 {
     Working().paths = "/data;/docs/**";
     Working().guis = "11";
@@ -48,6 +48,21 @@ TEST_F(PathsDialogTest, IncludeBoxFollowsAndTogglesTheEntrysMarker)
     include->click();
     EXPECT_EQ(list->item(0)->text().toStdString(), "/data/**");
     Button(dialog, "okButton")->click();
+    EXPECT_EQ(Working().paths, "/data/**;/docs");
+
+    // Another group: its hidden entries are not listed; OK stores them after the listed ones.
+    Settings().Group(0).paths = "G1;G2;G3";
+    Settings().Group(0).guis = "101";
+    DocPathsDialog cancelled(nullptr, &Settings(), 0);
+    EXPECT_EQ(Texts(List(cancelled)), (std::vector<std::string>{"G1", "G3"}));
+    Button(cancelled, "removeAllButton")->click();
+    Button(cancelled, "cancelButton")->click();
+    EXPECT_EQ(Settings().Group(0).paths, "G1;G2;G3");
+    DocPathsDialog stored(nullptr, &Settings(), 0);
+    List(stored)->setCurrentRow(0);
+    Button(stored, "removeButton")->click();
+    Button(stored, "okButton")->click();
+    EXPECT_EQ(Settings().Group(0).paths + "|" + Settings().Group(0).guis, "G3;G2|10");
     EXPECT_EQ(Working().paths, "/data/**;/docs");
 }
 
@@ -75,25 +90,4 @@ TEST_F(PathsDialogTest, AddingTakesTheTreesDirectoryOnce)
     EXPECT_FALSE(add->isEnabled());
     tree->SelectDir(dir.Path());
     EXPECT_TRUE(add->isEnabled());
-}
-
-TEST_F(PathsDialogTest, OkStoresTheListBeforeTheHiddenEntriesCancelNothing)
-{
-    Working().paths = "W";
-    Settings().Group(0).paths = "G1;G2;G3";
-    Settings().Group(0).guis = "101";
-    {
-        DocPathsDialog dialog(nullptr, &Settings(), 0);
-        EXPECT_EQ(Texts(List(dialog)), (std::vector<std::string>{"G1", "G3"}));
-        Button(dialog, "removeAllButton")->click();
-        Button(dialog, "cancelButton")->click();
-    }
-    EXPECT_EQ(Settings().Group(0).paths, "G1;G2;G3");
-    DocPathsDialog dialog(nullptr, &Settings(), 0);
-    List(dialog)->setCurrentRow(0);
-    Button(dialog, "removeButton")->click();
-    Button(dialog, "okButton")->click();
-    EXPECT_EQ(Settings().Group(0).paths, "G3;G2");  // the listed entries before the hidden ones
-    EXPECT_EQ(Settings().Group(0).guis, "10");
-    EXPECT_EQ(Working().paths, "W");
 }

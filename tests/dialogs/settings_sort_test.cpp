@@ -11,7 +11,7 @@ protected:
     void SetUp() override { StartWith({}); }
 };
 
-TEST_F(SortDialogTest, PositionShowsTheNextColumnsTitleOkStoresItsOwnNumberEscapeNothing)
+TEST_F(SortDialogTest, PositionShowsTheNextColumnsTitleOkStoresItsOwnNumberEscapeNothingNoSortNoDirection)
 {
     Working().infoLabel[0] = "Budget";
     Working().sortColumnId = 5;
@@ -37,30 +37,28 @@ TEST_F(SortDialogTest, PositionShowsTheNextColumnsTitleOkStoresItsOwnNumberEscap
     QTest::keyClick(&again, Qt::Key_Escape);
     EXPECT_EQ(again.result(), 0);
     EXPECT_EQ(Working().sortColumnId, 3);
-}
 
-TEST_F(SortDialogTest, NoSortDisablesTheDirectionAndRemembersIt)
-{
+    // No sort disables the direction buttons and remembers the direction.
     Working().sortColumnId = NO_COLUMN;
     Working().sortAscending = false;
-    DocSortDialog dialog(nullptr, &Settings(), WORKING_GROUP);
-    auto* list = In<QListWidget>(dialog, "columnList");
-    auto* up = In<QRadioButton>(dialog, "ascendingButton");
-    auto* down = In<QRadioButton>(dialog, "descendingButton");
+    DocSortDialog noSort(nullptr, &Settings(), WORKING_GROUP);
+    auto* rows = In<QListWidget>(noSort, "columnList");
+    auto* up = In<QRadioButton>(noSort, "ascendingButton");
+    auto* down = In<QRadioButton>(noSort, "descendingButton");
     EXPECT_FALSE(up->isChecked() || down->isChecked() || up->isEnabled() || down->isEnabled());
     EXPECT_FALSE(DocSortDialog::RememberedAscending());
 
-    list->setCurrentRow(7);  // the group's own direction comes back
+    rows->setCurrentRow(7);  // the group's own direction comes back
     EXPECT_TRUE(down->isChecked() && down->isEnabled());
-    list->setCurrentRow(8);  // still a column: the user's choice stays
+    rows->setCurrentRow(8);  // still a column: the user's choice stays
     up->setChecked(true);
-    list->setCurrentRow(9);
+    rows->setCurrentRow(9);
     EXPECT_TRUE(up->isChecked());
 
-    list->setCurrentRow(0);
+    rows->setCurrentRow(0);
     EXPECT_TRUE(DocSortDialog::RememberedAscending());
     EXPECT_FALSE(up->isEnabled());
-    In<QPushButton>(dialog, "okButton")->click();
+    In<QPushButton>(noSort, "okButton")->click();
     EXPECT_EQ(Working().sortColumnId, NO_COLUMN);
     EXPECT_FALSE(Working().sortAscending);  // neither button is checked
 }

@@ -64,7 +64,7 @@ TEST_F(CommandsTest, CommandsFollowTheSelectionTheOpenModeAndTheRights)
     }
 }
 
-TEST_F(CommandsTest, DeleteRemovesTheSelectedFilesAndRewritesThePathLine)
+TEST_F(CommandsTest, DeleteRemovesTheSelectedFilesAndRewritesThePathLineTheKeysRunDeleteAndRename)
 {
     Start();
     EXPECT_EQ(Impl().pathLineText, "4 documents in " + docs);
@@ -90,30 +90,16 @@ TEST_F(CommandsTest, DeleteRemovesTheSelectedFilesAndRewritesThePathLine)
     EXPECT_EQ(Browser().GetSelectedRowCount(), 0);
     EXPECT_EQ(Child<QLabel>("pathLine")->text(), "22");
     EXPECT_FALSE(Child<QPushButton>("openButton")->isEnabled());
-}
 
-TEST_F(CommandsTest, PrintDocumentsEndsTheDialogForTheHost)
-{
-    MakeHost();
-    QTimer::singleShot(0, host.get(), [this] {
-        Select({"c.odt"});
-        Child<QToolButton>("commandsButton")->menu()->actions().at(CMD_PRINTDOCS - CMD_DELETE)->trigger();
-    });
-    EXPECT_EQ(host->Execute(), RET_PRINTDOCS);
-    ASSERT_NE(host->GetFirstDoc(), nullptr);
-    EXPECT_EQ(*host->GetFirstDoc(), docs + "/c.odt");
-}
-
-TEST_F(CommandsTest, DeleteAndF2InTheListRunTheirCommandsWhenEnabledAndKeepTheSelection)
-{
-    Start();
+    // Delete and F2 in the list run their commands when enabled and keep the selection.
     host->show();
     QApplication::setActiveWindow(host.get());
     Browser().setFocus();
     AnswerBoxes(RET_NO);
+    queries.clear();
 
     QTest::keyClick(&Browser(), Qt::Key_Delete);  // nothing selected: delete is off
-    Select({"a.odt"});
+    Select({"c.odt"});
     QTest::keyClick(&Browser(), Qt::Key_Delete);
     EXPECT_EQ(queries.size(), 1u);
 
@@ -129,6 +115,18 @@ TEST_F(CommandsTest, DeleteAndF2InTheListRunTheirCommandsWhenEnabledAndKeepTheSe
     QTest::keyClick(&Browser(), Qt::Key_F2);
     QApplication::processEvents();
     EXPECT_TRUE(dir.Exists("docs/renamed.odt"));
+}
+
+TEST_F(CommandsTest, PrintDocumentsEndsTheDialogForTheHost)
+{
+    MakeHost();
+    QTimer::singleShot(0, host.get(), [this] {
+        Select({"c.odt"});
+        Child<QToolButton>("commandsButton")->menu()->actions().at(CMD_PRINTDOCS - CMD_DELETE)->trigger();
+    });
+    EXPECT_EQ(host->Execute(), RET_PRINTDOCS);
+    ASSERT_NE(host->GetFirstDoc(), nullptr);
+    EXPECT_EQ(*host->GetFirstDoc(), docs + "/c.odt");
 }
 
 TEST_F(CommandsTest, ExportWritesTheListAsShownToCsv)

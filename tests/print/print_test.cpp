@@ -179,7 +179,7 @@ TEST_F(PrintTest, OkPrintsTheListPageByPageToAPdfPrinter)
 
 using pageplan::PageRows;
 
-TEST(PagePlan, EachPageHoldsAllButTheHeaderLine)
+TEST(PagePlan, EachPageHoldsAllButTheHeaderLineAndAColumnFitsWhenItsWidestTextEndsOnThePage)
 {
     const struct { unsigned page; long lines; long rows; std::optional<PageRows> expected; } table[] = {
         {1, 10, 0, PageRows{0, 0}},    // an empty list prints its header
@@ -198,14 +198,11 @@ TEST(PagePlan, EachPageHoldsAllButTheHeaderLine)
     for (const auto& row : table)
         EXPECT_EQ(pageplan::RowsOnPage(row.page, row.lines, row.rows), row.expected)
             << "page " << row.page << ", " << row.lines << " lines, " << row.rows << " rows";
-}
 
-TEST(PagePlan, AColumnFitsWhenItsWidestTextEndsOnThePage)
-{
     const std::map<uint16_t, uint16_t> widths{{1, 10}, {3, 5}, {7, 20}};
-    const struct { long charWidth, pageWidth; int fitting; } table[] = {
+    const struct { long charWidth, pageWidth; int fitting; } fits[] = {
         {1, 35, 3}, {1, 34, 2}, {1, 15, 2}, {2, 29, 1}, {2, 19, 0}, {1, 1000, 3}};
-    for (const auto& row : table)
+    for (const auto& row : fits)
         EXPECT_EQ(pageplan::FittingColumns(widths, row.charWidth, row.pageWidth), row.fitting)
             << row.charWidth << " x " << row.pageWidth;
     EXPECT_EQ(pageplan::FittingColumns({}, 1, 10), 0);

@@ -36,9 +36,8 @@ TEST_F(ManagerTest, ColumnsComeFromTheWorkingGroupsSlotsAndCellsAreAlignedByKind
     Working().columnWidth[1] = 123;
     std::swap(Working().columnId[2], Working().columnId[19]);
     browser.InsertColumns();
-    EXPECT_EQ(browser.columnWidth(0), 0);
-    EXPECT_EQ(browser.columnWidth(1), 123);
-    EXPECT_EQ(browser.columnWidth(2), 20 * x);  // the directory's
+    EXPECT_EQ(std::tuple(browser.columnWidth(0), browser.columnWidth(1), browser.columnWidth(2)),
+              std::tuple(0, 123, 20 * x));  // the last is the directory's
 
     // The texts are the records' field strings; the view adds their alignment.
     auto cell = [&](uint16_t id, int role = Qt::DisplayRole) {
@@ -50,46 +49,7 @@ TEST_F(ManagerTest, ColumnsComeFromTheWorkingGroupsSlotsAndCellsAreAlignedByKind
     EXPECT_EQ(browser.GetColumnText(1, COL_TITLE), "");  // no such row
 }
 
-TEST_F(ManagerTest, FrozenColumnsStayWhileTheListScrollsSidewaysAndSingleViewHasNone)
-{
-    StartWith({"a.odt", "b.odt"});
-    host->resize(700, 500);
-    host->show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(host.get()));
-    DocBrowser& browser = Browser();
-    FrozenColumnsView* frozen = browser.GetFrozenView();
-    ASSERT_EQ(Working().frozenColumns, 3);
-    EXPECT_TRUE(frozen->isVisible());
-    EXPECT_FALSE(frozen->isColumnHidden(2));
-    EXPECT_TRUE(frozen->isColumnHidden(3));
-    EXPECT_EQ(frozen->width(), browser.columnWidth(0) + browser.columnWidth(1) + browser.columnWidth(2));
-
-    const QPoint before = frozen->pos();
-    browser.horizontalScrollBar()->setValue(browser.horizontalScrollBar()->maximum());
-    ASSERT_GT(browser.horizontalScrollBar()->value(), 0);
-    EXPECT_EQ(frozen->pos(), before);
-    EXPECT_EQ(frozen->columnViewportPosition(0), 0);
-
-    // Selecting through the overlay selects in the list.
-    Select({"a.odt", "b.odt"});
-    EXPECT_TRUE(frozen->selectionModel()->isRowSelected(1, {}));
-
-    // Single view: one name column as wide as the list, one row selected, nothing frozen.
-    Child<QCheckBox>("singleViewBox")->click();
-    ASSERT_EQ(browser.ColCount(), 1);
-    EXPECT_EQ(browser.GetColumnId(0), COL_NAME);
-    EXPECT_EQ(browser.columnWidth(0), browser.viewport()->width());
-    EXPECT_EQ(browser.GetSelectedRowCount(), 1);  // the first of the two stays
-    EXPECT_FALSE(frozen->isVisible());
-    Child<QCheckBox>("singleViewBox")->click();
-    EXPECT_EQ(browser.selectionMode(), QAbstractItemView::ExtendedSelection);
-
-    Working().frozenColumns = 0;
-    browser.InsertColumns();
-    EXPECT_FALSE(frozen->isVisible());
-}
-
-TEST_F(ManagerTest, HeaderDoubleClickFitsTheColumnAndWidthsAreStored)
+TEST_F(ManagerTest, HeaderDoubleClickFitsTheColumnWidthsAreStoredFrozenColumnsStayWhenScrolling)
 {
     StartWith({});
     host->resize(800, 500);
@@ -127,4 +87,35 @@ TEST_F(ManagerTest, HeaderDoubleClickFitsTheColumnAndWidthsAreStored)
     EXPECT_NE(Stored("0", "COLUMNWIDTH6"), "77");
     QTest::mouseRelease(browser.horizontalHeader()->viewport(), Qt::LeftButton);
     EXPECT_EQ(Stored("0", "COLUMNWIDTH6"), "77");
+
+    // Frozen columns stay while the list scrolls sideways; single view has none.
+    FrozenColumnsView* frozen = browser.GetFrozenView();
+    ASSERT_EQ(Working().frozenColumns, 3);
+    EXPECT_TRUE(frozen->isVisible());
+    EXPECT_TRUE(!frozen->isColumnHidden(2) && frozen->isColumnHidden(3));
+    EXPECT_EQ(frozen->width(), browser.columnWidth(0) + browser.columnWidth(1) + browser.columnWidth(2));
+
+    const QPoint before = frozen->pos();
+    browser.horizontalScrollBar()->setValue(browser.horizontalScrollBar()->maximum());
+    ASSERT_GT(browser.horizontalScrollBar()->value(), 0);
+    EXPECT_EQ(frozen->pos(), before);
+    EXPECT_EQ(frozen->columnViewportPosition(0), 0);
+
+    // Selecting through the overlay selects in the list.
+    Select({"a.odt", "b.odt"});
+    EXPECT_TRUE(frozen->selectionModel()->isRowSelected(1, {}));
+
+    // Single view: one name column as wide as the list, one row selected, nothing frozen.
+    Child<QCheckBox>("singleViewBox")->click();
+    ASSERT_EQ(browser.ColCount(), 1);
+    EXPECT_EQ(browser.GetColumnId(0), COL_NAME);
+    EXPECT_EQ(browser.columnWidth(0), browser.viewport()->width());
+    EXPECT_EQ(browser.GetSelectedRowCount(), 1);  // the first of the two stays
+    EXPECT_FALSE(frozen->isVisible());
+    Child<QCheckBox>("singleViewBox")->click();
+    EXPECT_EQ(browser.selectionMode(), QAbstractItemView::ExtendedSelection);
+
+    Working().frozenColumns = 0;
+    browser.InsertColumns();
+    EXPECT_FALSE(frozen->isVisible());
 }
