@@ -52,7 +52,7 @@ protected:
     const std::string stem = ResString(STR_NEW_GROUP_STEM);
 };
 
-TEST_F(GroupsDialogTest, OpensOnTheActualGroupAndProtectsTheFirstGroup)
+TEST_F(GroupsDialogTest, OpensOnTheActualGroupProtectsTheFirstRenamingDropsBlanksAndMovesTheGroupToTheEnd)
 {
     Open({{standard, "General"}, {stem + "1", "Work"}, {stem + "2", "Work"}}, 1);
     EXPECT_EQ(Texts(List()), (std::vector<std::string>{standard, stem + "1", stem + "2"}));
@@ -73,10 +73,8 @@ TEST_F(GroupsDialogTest, OpensOnTheActualGroupAndProtectsTheFirstGroup)
     EXPECT_FALSE(SectionBox()->isHidden());
     Button("moreButton")->click();
     EXPECT_TRUE(Button("newButton")->isHidden());
-}
 
-TEST_F(GroupsDialogTest, RenamingDropsBlanksAndMovesTheGroupToTheEnd)
-{
+    // Renaming drops blanks and moves the group to the end.
     Open({{standard, "General"}, {"Alpha", "Work"}, {"Beta", "Work"}, {"Gamma", "Home"}}, 1);
     Rename(1, " New  Alpha ");
     EXPECT_EQ(NameEdit()->text(), "NewAlpha");
@@ -135,7 +133,7 @@ TEST_F(GroupsDialogTest, SectionsFollowTheGroupsMovedBetweenThemDeletingSelectsT
     EXPECT_EQ(Stored("GROUPS", "0"), "");  // the removal was written at once
 }
 
-TEST_F(GroupsDialogTest, CancelSwitchesOnlyWhenTheMainGroupWasTouched)
+TEST_F(GroupsDialogTest, CancelSwitchesOnlyWhenTheMainGroupWasTouchedTheMenuWorksOnTheSelectionNewAndOk)
 {
     // Untouched main group: changes are saved, the actual group stays.
     OpenThree();
@@ -161,10 +159,8 @@ TEST_F(GroupsDialogTest, CancelSwitchesOnlyWhenTheMainGroupWasTouched)
     List()->setCurrentRow(2);
     Button("cancelButton")->click();
     EXPECT_EQ(dialog->result(), 0);
-}
 
-TEST_F(GroupsDialogTest, SettingsMenuWorksOnTheSelectedGroupNewTakesTheSettingsInForceOkTheSelection)
-{
+    // The settings menu works on the selected group; new takes the settings in force, OK the selection.
     OpenThree();
     // The sort dialog on Beta, confirmed: Beta changes, the main group is untouched.
     List()->setCurrentRow(2);
@@ -195,3 +191,4 @@ TEST_F(GroupsDialogTest, SettingsMenuWorksOnTheSelectedGroupNewTakesTheSettingsI
     EXPECT_EQ(Settings().actualGroup, 3);
     EXPECT_EQ(Working().groupName, "Beta");
 }
+

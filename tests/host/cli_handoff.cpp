@@ -12,7 +12,7 @@
 
 namespace {
 
-TEST(HostHandoff, ReadOnlyCopiesKeepTheOriginalsAndTheirNames)
+TEST(HostHandoff, ReadOnlyCopiesKeepTheOriginalsAndPrintingUsesLpElseLpr)
 {
     TempDir dir;
     const std::string a = dir.MakeFile("one/report.odt", "first");
@@ -29,11 +29,8 @@ TEST(HostHandoff, ReadOnlyCopiesKeepTheOriginalsAndTheirNames)
     EXPECT_NE(std::filesystem::status(a).permissions() & std::filesystem::perms::owner_write, std::filesystem::perms::none);
     // The copies outlive the program on purpose; the test tidies them away.
     std::filesystem::remove_all(copies[0].substr(0, copies[0].rfind('/')));
-}
 
-TEST(HostHandoff, PrintingUsesLpElseLprAndSaysWhenThereIsNone)
-{
-    TempDir dir;
+    // Printing uses lp, else lpr, and says when there is none.
     const std::string bin = dir.MakeDir("bin"), log = dir.PathOf("printed.txt");
     const auto makeCommand = [&](const std::string& name, int status) {
         chmod(dir.MakeFile("bin/" + name, "#!/bin/sh\necho " + name + " \"$@\" >> " + log + "\nexit "
@@ -41,7 +38,6 @@ TEST(HostHandoff, PrintingUsesLpElseLprAndSaysWhenThereIsNone)
     };
     const std::string savedPath = std::getenv("PATH") ? std::getenv("PATH") : "";
     setenv("PATH", bin.c_str(), 1);
-    std::string error;
 
     EXPECT_EQ(FindPrintCommand(), "");
     EXPECT_EQ(PrintDocuments({"/docs/a.pdf"}, error), 1);

@@ -85,7 +85,7 @@ TEST(ReadersFormats, LargeDocumentsGiveTheirFields)
     }
 }
 
-TEST(ReadersFormats, ContentDecidesWhetherAFileIsADocument)
+TEST(ReadersFormats, ContentDecidesWhetherAFileIsADocumentAndOoxmlPartsAreFoundThroughTheRelationships)
 {
     TempDir dir;
     std::string error;
@@ -103,11 +103,7 @@ TEST(ReadersFormats, ContentDecidesWhetherAFileIsADocument)
     dir.MakeDir("folder.odt");
     for (const char* name : {"notes.txt", "empty", "archive.zip", "folder.odt", "missing.pdf"})
         EXPECT_EQ(ReadDocInfo(dir.PathOf(name)), nullptr) << name;
-}
 
-TEST(ReadersFormats, OoxmlPartsAreFoundThroughTheRelationships)
-{
-    TempDir dir;
     const std::string rels =
         "<Relationships xmlns=\"http://schemas.openxmlformats.org/package/2006/relationships\">"
         "<Relationship Id=\"a\" Type=\"http://schemas.openxmlformats.org/package/2006/relationships/"
@@ -140,7 +136,7 @@ TEST(ReadersFormats, OoxmlPartsAreFoundThroughTheRelationships)
     }
 }
 
-TEST(ReadersFormats, RtfEscapesCodePagesAndGroups)
+TEST(ReadersFormats, RtfEscapesCodePagesAndGroupsAndLegacyUserPropertiesComeInFileOrder)
 {
     TempDir dir;
     const std::vector<std::pair<std::string, std::string>> cases = {
@@ -160,10 +156,7 @@ TEST(ReadersFormats, RtfEscapesCodePagesAndGroups)
         ASSERT_NE(info, nullptr);
         EXPECT_EQ(info->title, title);
     }
-}
 
-TEST(ReadersFormats, LegacyUserPropertiesComeInFileOrder)
-{
     auto u32 = [](uint32_t v) { return std::string{char(v), char(v >> 8), char(v >> 16), char(v >> 24)}; };
     // One user-defined section listing property 3 before property 2, and its dictionary.
     const std::string dictionary = u32(2) + u32(3) + u32(5) + std::string("Zulu", 5) + u32(2) + u32(6)

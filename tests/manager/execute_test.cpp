@@ -1,7 +1,7 @@
 // Running the manager: results, its path line and what the host gets back.
 #include "tests/support/managerfixture.h"
 
-TEST_F(ManagerTest, ExecuteEndsWithCloseOrOpenAndASecondRunCollectsAgainWithTheSameSettings)
+TEST_F(ManagerTest, ExecuteEndsWithCloseOrOpenASecondRunKeepsTheSettingsAndThePathLineShowsWhatIsListed)
 {
     WriteDefaultConfig();
     MakeDocs({"a.odt"});
@@ -27,18 +27,16 @@ TEST_F(ManagerTest, ExecuteEndsWithCloseOrOpenAndASecondRunCollectsAgainWithTheS
     EXPECT_EQ(host->SelectedDocs(), std::vector<std::string>{docs + "/a.odt"});
     EXPECT_EQ(host->GetConfig().rfind("@DocManager[2.1]", 0), 0u);
     EXPECT_TRUE(host->IsAvailable());
-}
 
-TEST_F(ManagerTest, PathLineShowsTheActivePathsOrTheStartPaths)
-{
-    const std::string other = dir.MakeDir("other");
-    for (const char* file : {"docs/a.odt", "other/b.odt", "other/c.odt"})
+    // The path line shows the active paths or the start paths.
+    const std::string other = dir.PathOf("other");
+    for (const char* file : {"other/b.odt", "other/c.odt"})
         dir.MakeFile(file, "x");
     WriteConfig({{"Both", "Main", docs + ";" + other + ";" + dir.Path(), "01"}});
     const struct { std::string startPaths; const char* guis; std::string line; } table[] = {
         {"", "01", "2 documents in " + other},  // flags shorter than the paths: the missing ones are off
         {"", "000", "0 documents in "},          // no active path: the start paths are read
-        {docs, "", "1 documents in " + docs},
+        {docs, "", "2 documents in " + docs},
         {"/**", "", "0 documents in "},          // the bare subdirectory marker means no start path
     };
     for (const auto& row : table) {
@@ -49,3 +47,4 @@ TEST_F(ManagerTest, PathLineShowsTheActivePathsOrTheStartPaths)
         EXPECT_EQ(Impl().pathLineText, row.line) << "'" << row.startPaths << "', flags " << row.guis;
     }
 }
+

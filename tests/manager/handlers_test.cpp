@@ -41,7 +41,7 @@ TEST_F(HandlersTest, ConfirmedSettingsDialogsMarkTheSettingsAndCollect)
     }
 }
 
-TEST_F(HandlersTest, ConfirmedSortSortsColumnsRebuildTheColumnsCopyAndRenameCollectOnlyAfterAChange)
+TEST_F(HandlersTest, ConfirmedSortAndColumnsRebuildCopyAndRenameCollectOnlyAfterAChangeRightClickOpensTheMenu)
 {
     Select({"c.odt"});
     Working().sortColumnId = COL_NAME;
@@ -66,10 +66,8 @@ TEST_F(HandlersTest, ConfirmedSortSortsColumnsRebuildTheColumnsCopyAndRenameColl
         Impl().Command(command);
         EXPECT_EQ(Browser().GetRowCount(), 3) << command;
     }
-}
 
-TEST_F(HandlersTest, RightClickOpensTheContextMenuOnlyOnASelection)
-{
+    // A right click opens the context menu only on a selection.
     host->resize(700, 500);
     host->show();
     // The name of the menu a right click on `viewport` opens; empty for none.
@@ -86,9 +84,11 @@ TEST_F(HandlersTest, RightClickOpensTheContextMenuOnlyOnASelection)
         QApplication::processEvents();
         return seen;
     };
+    Browser().ClearSelection();
     EXPECT_EQ(rightClick(Browser().viewport()), "");
     Select({"a.odt"});
     EXPECT_EQ(rightClick(Browser().viewport()), "commandMenu");
     ASSERT_TRUE(Browser().GetFrozenView()->isVisible());  // over the frozen columns the same menu opens
     EXPECT_EQ(rightClick(Browser().GetFrozenView()->viewport()), "commandMenu");
 }
+

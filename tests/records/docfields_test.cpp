@@ -8,7 +8,7 @@
 #include "docmgr/records/docsort.h"
 #include "docmgr/tools/intl.h"
 
-TEST(DocFields, EachColumnReadsItsOwnField)
+TEST(DocFields, EachColumnReadsItsOwnFieldAndCellTextsShowDashesForRepeatedStamps)
 {
     using K = FieldKind;
     DocInfo info;
@@ -35,38 +35,36 @@ TEST(DocFields, EachColumnReadsItsOwnField)
             field = &TimeField(info, c.id);
         EXPECT_EQ(field, c.field) << c.id;
     }
-}
 
-TEST(DocFields, CellTextsShowDashesForRepeatedStamps)
-{
-    DocInfo info;
-    info.entry = "/home/user/docs/report.odt";
-    info.createdDate = info.modifiedDate = info.printedDate = Date(2, 1, 2020);
-    info.createdTime = info.printedTime = Time(10, 0, 0);
-    info.modifiedTime = Time(11, 30, 0);
-    info.printedBy = "Printer";
-    info.info[3] = "three";
+    // Cell texts show dashes for repeated stamps.
+    DocInfo cell;
+    cell.entry = "/home/user/docs/report.odt";
+    cell.createdDate = cell.modifiedDate = cell.printedDate = Date(2, 1, 2020);
+    cell.createdTime = cell.printedTime = Time(10, 0, 0);
+    cell.modifiedTime = Time(11, 30, 0);
+    cell.printedBy = "Printer";
+    cell.info[3] = "three";
     const struct { uint16_t id; std::string text; } cells[] = {
         {COL_NAME, "report.odt"}, {COL_SIZE, "0"}, {COL_DIRECTORY, "/home/user/docs"},
         {COL_INFO3, "three"}, {0, ""}, {21, ""},
         // Modified on the creation day: the date is judged alone, the time separately.
-        {COL_MODIFIED_DATE, "---"}, {COL_MODIFIED_TIME, intl::FormatTime(info.modifiedTime)},
+        {COL_MODIFIED_DATE, "---"}, {COL_MODIFIED_TIME, intl::FormatTime(cell.modifiedTime)},
         // Never printed: all three printed columns.
         {COL_PRINTED_DATE, "---"}, {COL_PRINTED_TIME, "---"}, {COL_PRINTED_BY, "---"}};
     for (const auto& c : cells)
-        EXPECT_EQ(GetFieldString(info, c.id), c.text) << c.id;
+        EXPECT_EQ(GetFieldString(cell, c.id), c.text) << c.id;
 
     // Printed on the creation day at another time: the printed columns show values.
-    info.printedTime = Time(10, 0, 1);
-    info.size = 4000000000u;
-    EXPECT_EQ(GetFieldString(info, COL_PRINTED_DATE), intl::FormatDate(info.createdDate));
-    EXPECT_EQ(GetFieldString(info, COL_PRINTED_BY), "Printer");
-    EXPECT_EQ(GetFieldString(info, COL_SIZE), "4000000000");
+    cell.printedTime = Time(10, 0, 1);
+    cell.size = 4000000000u;
+    EXPECT_EQ(GetFieldString(cell, COL_PRINTED_DATE), intl::FormatDate(cell.createdDate));
+    EXPECT_EQ(GetFieldString(cell, COL_PRINTED_BY), "Printer");
+    EXPECT_EQ(GetFieldString(cell, COL_SIZE), "4000000000");
     // The unset date after a trip through the index shows no text, nor does its time.
-    info.createdDate = Date(20480000);
-    EXPECT_EQ(GetFieldString(info, COL_CREATED_DATE), "");
-    EXPECT_EQ(GetFieldString(info, COL_CREATED_TIME), "");
-    EXPECT_NE(GetFieldString(info, COL_MODIFIED_DATE), "---");
+    cell.createdDate = Date(20480000);
+    EXPECT_EQ(GetFieldString(cell, COL_CREATED_DATE), "");
+    EXPECT_EQ(GetFieldString(cell, COL_CREATED_TIME), "");
+    EXPECT_NE(GetFieldString(cell, COL_MODIFIED_DATE), "---");
 }
 
 using Entries = std::vector<std::string>;

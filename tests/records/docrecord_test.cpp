@@ -24,7 +24,7 @@ DocInfo FromImage(const std::string& bytes)
 
 }  // namespace
 
-TEST(DocRecord, ImageMatchesTheLayoutAndReadsBack)
+TEST(DocRecord, ImageMatchesTheLayoutReadsBackCutsLongTextWithoutSplittingACharacter)
 {
     DocInfo info;
     info.entry = "/some/dir/report.odt";
@@ -65,18 +65,16 @@ TEST(DocRecord, ImageMatchesTheLayoutAndReadsBack)
     empty.size = NO_DOC_INFO;
     EXPECT_EQ(Image(empty), Record("", false).Bytes());
     EXPECT_EQ(FromImage(Image(empty)).modifiedDate.GetDate(), 20480000u);
-}
 
-TEST(DocRecord, LongTextIsCutWithoutSplittingACharacterAndCommentControlsReadAsBlanks)
-{
-    DocInfo info;
-    info.entry = "/d/" + std::string(40, 'n');
-    info.title = std::string(70, 'T');
-    info.topic = std::string(62, 'x') + "\xC3\xA9";              // ends inside the é
-    info.info[0] = std::string(17, 'y') + "\xF0\x9F\x93\x84z";   // inside a 4-byte character
-    info.info[1] = std::string(17, 'w') + "\xC3\xA9more";        // é ends at the width
-    info.comment = std::string(300, '\x80');                     // no UTF-8: cut at the width
-    const std::string image = Image(info);
+    // Long text is cut without splitting a character.
+    DocInfo cut;
+    cut.entry = "/d/" + std::string(40, 'n');
+    cut.title = std::string(70, 'T');
+    cut.topic = std::string(62, 'x') + "\xC3\xA9";              // ends inside the é
+    cut.info[0] = std::string(17, 'y') + "\xF0\x9F\x93\x84z";   // inside a 4-byte character
+    cut.info[1] = std::string(17, 'w') + "\xC3\xA9more";        // é ends at the width
+    cut.comment = std::string(300, '\x80');                     // no UTF-8: cut at the width
+    const std::string image = Image(cut);
 
     EXPECT_EQ(image.substr(NAME, 32), std::string(32, 'n'));
     EXPECT_EQ(image.substr(TITLE, 63), std::string(63, 'T'));
@@ -93,7 +91,8 @@ TEST(DocRecord, LongTextIsCutWithoutSplittingACharacterAndCommentControlsReadAsB
     Record record("a.odt");
     record.Text(COMMENT, 255, std::string("one\ntwo\tthree\x1F") + '\0' + "\x7F" + "end");
     record.Text(TITLE, 63, "keep\nbreak");
-    const DocInfo back = FromImage(record.Bytes());
-    EXPECT_EQ(back.comment, std::string("one two three ") + '\0' + "\x7F" + "end");
-    EXPECT_EQ(back.title, "keep\nbreak");
+    const DocInfo cleaned = FromImage(record.Bytes());
+    EXPECT_EQ(cleaned.comment, std::string("one two three ") + '\0' + "\x7F" + "end");
+    EXPECT_EQ(cleaned.title, "keep\nbreak");
 }
+

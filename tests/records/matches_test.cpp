@@ -38,7 +38,7 @@ DocInfo Doc(const std::string& title, uint32_t size = 10, const std::string& aut
 
 }  // namespace
 
-TEST_F(MatchesTest, TextFiltersCaseAndWhatPutsAFilterInForce)
+TEST_F(MatchesTest, TextFiltersCaseWhatPutsAFilterInForceAndTheConditionKinds)
 {
     ASSERT_EQ(group.filterField[0], NO_COLUMN);
     group.filterSensitive = true;
@@ -64,17 +64,15 @@ TEST_F(MatchesTest, TextFiltersCaseAndWhatPutsAFilterInForce)
         doc.keywords = c.docKeywords;
         EXPECT_EQ(Passes(doc), c.passes) << c.title << c.keywords << " / " << c.docTitle << c.docKeywords;
     }
-}
 
-TEST_F(MatchesTest, ConditionKinds)
-{
+    group.filterKeywords.clear();  // the condition kinds alone
     DocInfo stamped = Doc("x");
     stamped.modifiedDate = Date(24, 12, 2021);
     stamped.createdTime = Time(12, 0, 0);
     stamped.printedTime = Time(-int32_t(Time(1, 0, 0).GetTime()));
     DocInfo never = Doc("x");  // never modified: date 0
     const struct { const char* what; uint16_t field; int condition; std::string value;
-                   uint32_t date; int32_t time; DocInfo doc; bool passes; } cases[] = {
+                   uint32_t date; int32_t time; DocInfo doc; bool passes; } kinds[] = {
         {"size, the star is lost: equality", 2, 6, "1*", 0, 0, Doc("x", 1), true},
         {"size, the star is lost", 2, 6, "1*", 0, 0, Doc("x", 10), false},
         {"date 0 is less than any date", 8, 4, {}, 19990101, 0, never, true},
@@ -90,7 +88,7 @@ TEST_F(MatchesTest, ConditionKinds)
         {"date by the locale's text", 8, 6, intl::FormatDate(stamped.modifiedDate), 0, 0, stamped, true},
         {"time by the locale's text", 6, 6, intl::FormatTime(Time(12, 0, 0)), 0, 0, stamped, true},
     };
-    for (const auto& c : cases) {
+    for (const auto& c : kinds) {
         Row(0, c.field, c.condition, c.value, c.date, c.time);
         EXPECT_EQ(Passes(c.doc), c.passes) << c.what;
     }

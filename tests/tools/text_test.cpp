@@ -6,7 +6,7 @@
 #include "docmgr/tools/stamppattern.h"
 #include "docmgr/tools/wildcard.h"
 
-TEST(Wildcard, WholeTextsStarsQuestionMarksAndAlternatives)
+TEST(Text, WildcardsMatchWholeTextsAndStampPatternsWriteWhatTheLocaleWrites)
 {
     // "?" is one character, also when it takes several bytes; stars against long texts
     // stay fast and correct.
@@ -24,10 +24,7 @@ TEST(Wildcard, WholeTextsStarsQuestionMarksAndAlternatives)
     EXPECT_TRUE(wildcard::MatchListNoCase("straße*", "STRASSE 1", ';'));  // ß upper-cases to SS
     EXPECT_TRUE(wildcard::MatchList("alpha,beta", "beta", ','));
     EXPECT_TRUE(wildcard::MatchList(";x", "", ';'));  // an empty alternative matches empty text
-}
 
-TEST(StampPattern, WritesWhatTheLocaleWrites)
-{
     const char* const locales[] = {"C", "de_DE", "en_US", "ru_RU", "fi_FI", "ja_JP", "ar_EG"};
     const char* const datePatterns[] = {"d MMM yyyy", "dd.MM.yy", "M/d/yy", "dddd, d. MMMM yyyy",
                                         "'day' d 'of' MMM, ''yy", "yyyy-MM-dd ddd"};
@@ -52,3 +49,4 @@ TEST(StampPattern, WritesWhatTheLocaleWrites)
         }
     }
 }
+
