@@ -74,31 +74,7 @@ TEST_F(FileDialogTest, MoveLeavesADocumentWhoseTargetExistsAndSaysSo)
     EXPECT_EQ(AnsweredDocBox().detail.toStdString(), std::strerror(EEXIST));
 }
 
-TEST_F(FileDialogTest, TheFolderDialogNeedsANameAndRefusesOneLeavingItsBase)
-{
-    AnswerBoxes(RET_YES);
-    DocFolderDialog dialog(nullptr, dst);
-    EXPECT_EQ(dialog.windowTitle().toStdString(), ResText(ResKind::Dialog, DLG_NEW_FOLDER) + " [" + dst + "]");
-    EXPECT_FALSE(In<QPushButton>(dialog, "okButton")->isEnabled());
-    In<QLineEdit>(dialog, "nameEdit")->setText("x");
-    EXPECT_TRUE(In<QPushButton>(dialog, "okButton")->isEnabled());
-
-    dir.MakeFile("dst/notes", "keep");
-    dir.MakeDir("outside");  // exists, yet the copy dialog must not be led there
-    for (const std::string& refused : {std::string("../outside"), dir.PathOf("outside"), std::string("notes")}) {
-        SCOPED_TRACE(refused);
-        infos.clear();
-        DocFolderDialog folder(nullptr, dst);
-        In<QLineEdit>(folder, "nameEdit")->setText(QString::fromStdString(refused));
-        In<QPushButton>(folder, "okButton")->click();
-        EXPECT_EQ(infos, std::vector<std::string>{ResString(STR_FOLDER_FAILED) + dst + refused +
-                                                  ResString(STR_FOLDER_FAILED_END)});
-        EXPECT_TRUE(folder.GetFolder().empty());
-    }
-    EXPECT_EQ(dir.Read("dst/notes"), "keep");
-}
-
-TEST_F(FileDialogTest, RenameRefusesTakenNamesAndSeparatorsAndAllowsACaseVariant)
+TEST_F(FileDialogTest, RenameRefusesTakenNamesAndSeparatorsTheFolderDialogRefusesANameLeavingItsBase)
 {
     dir.MakeFile("docs/other.odt", "theirs");
     dir.MakeDir("docs/sub");
@@ -131,7 +107,28 @@ TEST_F(FileDialogTest, RenameRefusesTakenNamesAndSeparatorsAndAllowsACaseVariant
     EXPECT_EQ(dir.Read("docs/other.odt"), "theirs");
     EXPECT_FALSE(dir.Exists("docs/sub/report.odt") || dir.Exists("report.odt"));
 
-    DocRenameDialog dialog(host.get(), report);
-    In<QLineEdit>(dialog, "newNameEdit")->clear();
+    DocRenameDialog cleared(host.get(), report);
+    In<QLineEdit>(cleared, "newNameEdit")->clear();
+    EXPECT_FALSE(In<QPushButton>(cleared, "okButton")->isEnabled());
+
+    // The folder dialog needs a name and refuses one leaving its base.
+    DocFolderDialog dialog(nullptr, dst);
+    EXPECT_EQ(dialog.windowTitle().toStdString(), ResText(ResKind::Dialog, DLG_NEW_FOLDER) + " [" + dst + "]");
     EXPECT_FALSE(In<QPushButton>(dialog, "okButton")->isEnabled());
+    In<QLineEdit>(dialog, "nameEdit")->setText("x");
+    EXPECT_TRUE(In<QPushButton>(dialog, "okButton")->isEnabled());
+
+    dir.MakeFile("dst/notes", "keep");
+    dir.MakeDir("outside");  // exists, yet the copy dialog must not be led there
+    for (const std::string& refused : {std::string("../outside"), dir.PathOf("outside"), std::string("notes")}) {
+        SCOPED_TRACE(refused);
+        infos.clear();
+        DocFolderDialog folder(nullptr, dst);
+        In<QLineEdit>(folder, "nameEdit")->setText(QString::fromStdString(refused));
+        In<QPushButton>(folder, "okButton")->click();
+        EXPECT_EQ(infos, std::vector<std::string>{ResString(STR_FOLDER_FAILED) + dst + refused +
+                                                  ResString(STR_FOLDER_FAILED_END)});
+        EXPECT_TRUE(folder.GetFolder().empty());
+    }
+    EXPECT_EQ(dir.Read("dst/notes"), "keep");
 }

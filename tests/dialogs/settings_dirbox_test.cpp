@@ -52,7 +52,7 @@ protected:
     TempDir tree;  // apart from the manager's files
 };
 
-TEST_F(DirBoxTest, SiblingsAreSortedWithoutCaseHiddenOnesHiddenOnRequestAndPathsFoundWithoutCase)
+TEST_F(DirBoxTest, SiblingsAreSortedWithoutCaseHiddenOnRequestPathsFoundWithoutCaseKeysToggleEntries)
 {
     DocDirBox box(nullptr, &Settings());
     EXPECT_EQ(box.item(0)->text().toStdString(), "/");
@@ -78,6 +78,33 @@ TEST_F(DirBoxTest, SiblingsAreSortedWithoutCaseHiddenOnesHiddenOnRequestAndPaths
     box.ReadDirs();
     box.SelectDir(tree.PathOf("A/nothing/y"));
     EXPECT_EQ(box.GetDir(box.GetSelectedPos()), tree.PathOf("A"));
+
+    // Keys toggle entries but never the root, and typing finds a name.
+    DocDirBox keys(nullptr, &Settings());
+    const int rootChildren = keys.count() - 1;
+    keys.setCurrentRow(0);
+    QTest::keyClick(&keys, Qt::Key_Left);
+    keys.DoubleClick();
+    EXPECT_EQ(keys.count() - 1, rootChildren);
+
+    const int at = OpenTemp(keys);
+    keys.setCurrentRow(at + 2);
+    for (const auto& [key, open] : {std::pair{Qt::Key_Return, 3u}, {Qt::Key_Return, 0u}, {Qt::Key_Right, 3u}, {Qt::Key_Left, 0u}}) {
+        QTest::keyClick(&keys, key);
+        EXPECT_EQ(Subtree(keys, at + 2).size(), open) << key;
+    }
+    QTest::keyClick(&keys, Qt::Key_Left);  // closed: goes to the parent
+    EXPECT_EQ(keys.GetSelectedPos(), at);
+
+    // Typed letters match the names, not the indented lines.
+    keys.setCurrentRow(at + 2);
+    QTest::keyClick(&keys, Qt::Key_Right);
+    keys.setCurrentRow(at);
+    QTest::keyClicks(&keys, "DE");
+    EXPECT_EQ(keys.GetDir(keys.GetSelectedPos()), tree.PathOf("A/deep"));
+    QTest::qWait(QApplication::keyboardInputInterval() + 50);
+    QTest::keyClicks(&keys, "w");
+    EXPECT_EQ(keys.GetDir(keys.GetSelectedPos()), tree.PathOf("A/w"));
 }
 
 TEST_F(DirBoxTest, ExceptionPathsAreLeftOutClosingRemovesTheWholeSubtreeVanishedDirectoriesOpenEmpty)
@@ -122,31 +149,3 @@ TEST_F(DirBoxTest, ExceptionPathsAreLeftOutClosingRemovesTheWholeSubtreeVanished
     EXPECT_TRUE(Subtree(box, pos).empty());
 }
 
-TEST_F(DirBoxTest, KeysToggleEntriesButNeverTheRootAndTypingFindsAName)
-{
-    DocDirBox box(nullptr, &Settings());
-    const int rootChildren = box.count() - 1;
-    box.setCurrentRow(0);
-    QTest::keyClick(&box, Qt::Key_Left);
-    box.DoubleClick();
-    EXPECT_EQ(box.count() - 1, rootChildren);
-
-    const int pos = OpenTemp(box);
-    box.setCurrentRow(pos + 2);
-    for (const auto& [key, open] : {std::pair{Qt::Key_Return, 3u}, {Qt::Key_Return, 0u}, {Qt::Key_Right, 3u}, {Qt::Key_Left, 0u}}) {
-        QTest::keyClick(&box, key);
-        EXPECT_EQ(Subtree(box, pos + 2).size(), open) << key;
-    }
-    QTest::keyClick(&box, Qt::Key_Left);  // closed: goes to the parent
-    EXPECT_EQ(box.GetSelectedPos(), pos);
-
-    // Typed letters match the names, not the indented lines.
-    box.setCurrentRow(pos + 2);
-    QTest::keyClick(&box, Qt::Key_Right);
-    box.setCurrentRow(pos);
-    QTest::keyClicks(&box, "DE");
-    EXPECT_EQ(box.GetDir(box.GetSelectedPos()), tree.PathOf("A/deep"));
-    QTest::qWait(QApplication::keyboardInputInterval() + 50);
-    QTest::keyClicks(&box, "w");
-    EXPECT_EQ(box.GetDir(box.GetSelectedPos()), tree.PathOf("A/w"));
-}

@@ -25,7 +25,7 @@ void ExpectEmptyDocument(const std::string& path)
 
 }  // namespace
 
-TEST(ReadersDamaged, DamagedFilesAreDocumentsWithoutInformationAndAReasonAndAZipBombStopsAtTheCap)
+TEST(ReadersDamaged, DamagedFilesAreDocumentsWithoutInformationAZipBombStopsAtTheCapPdfTextsAreDecoded)
 {
     TempDir dir;
     std::string error;
@@ -97,11 +97,7 @@ TEST(ReadersDamaged, DamagedFilesAreDocumentsWithoutInformationAndAReasonAndAZip
     WriteOdfMeta(dir.PathOf("bomb.odt"), "<dc:title>Bomb</dc:title>" + std::string(40u << 20, ' '));
     ASSERT_LT(dir.Size("bomb.odt"), 1u << 20);
     ExpectEmptyDocument(dir.PathOf("bomb.odt"));
-}
 
-TEST(ReadersDamaged, PdfTextEncodingsAndDates)
-{
-    TempDir dir;
     // PDFDocEncoding, UTF-16BE with byte order mark, a date without zone, a broken date.
     WritePdf(dir.PathOf("enc.pdf"),
              "<< /Title (Caf\\351) /Subject <FEFF005A006F00EB> /Keywords (a, b) /CreationDate (D:20010203040506) "
@@ -115,3 +111,4 @@ TEST(ReadersDamaged, PdfTextEncodingsAndDates)
     // Without a recorded order, the non-standard entries come by name.
     EXPECT_EQ(info->info, (std::array<std::string, 4>{"first", "[ (x) 1 ]", "7", "last"}));
 }
+
