@@ -85,7 +85,7 @@ TEST_F(ManagerConfigTest, GeneralSectionRightsGroupRunAndTheStoredActualGroup)
     }
 }
 
-TEST_F(ManagerConfigTest, GroupListOperations)
+TEST_F(ManagerConfigTest, GroupListOperationsTheSubdirectoryMarkerAndTheExceptionList)
 {
     WriteFile(GroupsText(3));
     Config config(Path());
@@ -119,10 +119,7 @@ TEST_F(ManagerConfigTest, GroupListOperations)
     EXPECT_EQ(docConfig.ElementCount(), 6u);
     EXPECT_EQ(docConfig.WorkingGroup().groupName, "");
     EXPECT_EQ(docConfig.Group(0).groupName, "G2");
-}
 
-TEST_F(ManagerConfigTest, SubdirectoryMarkerAndTheExceptionListThatRunsOnePastItsLastEntry)
-{
     // The marker is one of the module's texts.
     EXPECT_TRUE(TestSub("/**"));
     EXPECT_EQ(WoutSub("/**"), "");
@@ -135,12 +132,13 @@ TEST_F(ManagerConfigTest, SubdirectoryMarkerAndTheExceptionListThatRunsOnePastIt
         EXPECT_EQ(WoutSub(p), p);
     }
 
-    ImplDocConfig docConfig(nullptr, "*");
-    EXPECT_FALSE(docConfig.IsExceptionPath("/tmp"));
-    docConfig.SetExceptionPaths("/srv/Archiv;/mnt/Übersicht");
-    EXPECT_EQ(docConfig.GetExceptionPaths(), "/SRV/ARCHIV;/MNT/ÜBERSICHT");
-    EXPECT_EQ(docConfig.GetExceptionCount(), 2u);
-    EXPECT_TRUE(docConfig.IsExceptionPath("/srv/archiv") && docConfig.IsExceptionPath("/mnt/übersicht"));
-    EXPECT_FALSE(docConfig.IsExceptionPath("/srv/archiv/2020"));
-    EXPECT_TRUE(docConfig.IsExceptionPath(""));
+    ImplDocConfig bare(nullptr, "*");
+    EXPECT_FALSE(bare.IsExceptionPath("/tmp"));
+    bare.SetExceptionPaths("/srv/Archiv;/mnt/Übersicht");
+    EXPECT_EQ(bare.GetExceptionPaths(), "/SRV/ARCHIV;/MNT/ÜBERSICHT");
+    EXPECT_EQ(bare.GetExceptionCount(), 2u);
+    EXPECT_TRUE(bare.IsExceptionPath("/srv/archiv") && bare.IsExceptionPath("/mnt/übersicht"));
+    EXPECT_FALSE(bare.IsExceptionPath("/srv/archiv/2020"));
+    EXPECT_TRUE(bare.IsExceptionPath(""));
 }
+

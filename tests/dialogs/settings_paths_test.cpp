@@ -31,7 +31,7 @@ protected:
     static QCheckBox* Include(const DocPathsDialog& dialog) { return In<QCheckBox>(dialog, "includeBox"); }
 };
 
-TEST_F(PathsDialogTest, IncludeBoxTogglesTheEntrysMarkerOkStoresTheListBeforeTheHiddenEntriesCancelNothing)
+TEST_F(PathsDialogTest, IncludeBoxTogglesTheMarkerOkStoresTheListBeforeTheHiddenEntriesAddingTakesADirectoryOnce)
 {
     Working().paths = "/data;/docs/**";
     Working().guis = "11";
@@ -64,25 +64,23 @@ TEST_F(PathsDialogTest, IncludeBoxTogglesTheEntrysMarkerOkStoresTheListBeforeThe
     Button(stored, "okButton")->click();
     EXPECT_EQ(Settings().Group(0).paths + "|" + Settings().Group(0).guis, "G3;G2|10");
     EXPECT_EQ(Working().paths, "/data/**;/docs");
-}
 
-TEST_F(PathsDialogTest, AddingTakesTheTreesDirectoryOnce)
-{
+    // Adding takes the tree's directory once.
     dir.MakeDir("one");
     dir.MakeDir("two");
     Working().paths = WithSub(dir.PathOf("two"));
     Working().guis = "1";
-    DocPathsDialog dialog(nullptr, &Settings(), WORKING_GROUP);
-    DocDirBox* tree = dialog.GetDirBox();
-    QPushButton* add = Button(dialog, "addButton");
+    DocPathsDialog adding(nullptr, &Settings(), WORKING_GROUP);
+    DocDirBox* tree = adding.GetDirBox();
+    QPushButton* add = Button(adding, "addButton");
 
     tree->SelectDir(dir.PathOf("one"));
     EXPECT_TRUE(add->isEnabled());
-    dialog.show();
+    adding.show();
     QTest::keyClick(tree, Qt::Key_Return);  // opens the entry; the dialog stays
-    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_TRUE(adding.isVisible());
     add->click();
-    EXPECT_EQ(Texts(List(dialog)), (std::vector<std::string>{WithSub(dir.PathOf("two")), dir.PathOf("one")}));
+    EXPECT_EQ(Texts(List(adding)), (std::vector<std::string>{WithSub(dir.PathOf("two")), dir.PathOf("one")}));
     EXPECT_FALSE(add->isEnabled());
 
     // A listed directory, with or without its marker, cannot be added again.
@@ -91,3 +89,4 @@ TEST_F(PathsDialogTest, AddingTakesTheTreesDirectoryOnce)
     tree->SelectDir(dir.Path());
     EXPECT_TRUE(add->isEnabled());
 }
+

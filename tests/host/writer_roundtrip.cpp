@@ -115,7 +115,7 @@ TEST(WriterRoundTrip, EachFormatReadsBackWhatWasWritten)
     }
 }
 
-TEST(WriterRoundTrip, UserFieldsGoFirstAndReplaceTheirNamesakes)
+TEST(WriterRoundTrip, UserFieldsGoFirstAndReplaceTheirNamesakesPdfXmpFillsWhatInfoLacksAndFollowsIt)
 {
     TempDir dir;
     const std::string path = dir.PathOf("fields.odt");
@@ -149,6 +149,42 @@ TEST(WriterRoundTrip, UserFieldsGoFirstAndReplaceTheirNamesakes)
     ZipArchive zip;
     ASSERT_TRUE(zip.Open(docx, ZipArchive::Mode::Read));
     EXPECT_FALSE(zip.Has("docProps/custom.xml"));
+
+    // The XMP packet of a PDF fills what the Info dictionary lacks, and follows it when written.
+    const std::string packet =
+        "<?xpacket begin=\"\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?><x:xmpmeta xmlns:x=\"adobe:ns:meta/\">"
+        "<rdf:RDF xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\">"
+        "<rdf:Description rdf:about=\"\" xmlns:d=\"http://purl.org/dc/elements/1.1/\" "
+        "xmlns:pdf=\"http://ns.adobe.com/pdf/1.3/\" pdf:Keywords=\"old keys\">"
+        "<d:title><rdf:Alt><rdf:li xml:lang=\"de\">Titel</rdf:li><rdf:li xml:lang=\"x-default\">XMP title</rdf:li>"
+        "</rdf:Alt></d:title><d:creator><rdf:Seq><rdf:li>Ann</rdf:li><rdf:li>Bob</rdf:li></rdf:Seq></d:creator>"
+        "<d:description><rdf:Alt><rdf:li xml:lang=\"en\">Topic</rdf:li></rdf:Alt></d:description>"
+        "<d:format>application/pdf</d:format></rdf:Description>"
+        "<rdf:Description rdf:about=\"\" xmlns:xmp=\"http://ns.adobe.com/xap/1.0/\" "
+        "xmp:CreateDate=\"2021-03-04T05:06:07\"><xmp:ModifyDate>2022-01-02T03:04:05</xmp:ModifyDate>"
+        "<xmp:CreatorTool>Some Tool</xmp:CreatorTool></rdf:Description></rdf:RDF></x:xmpmeta><?xpacket end=\"w\"?>";
+    WritePdf(dir.PathOf("xmp.pdf"), "<< /Producer (x) >>", nullptr, nullptr, packet);
+    const auto xmp = ReadDocInfo(dir.PathOf("xmp.pdf"));
+    ASSERT_NE(xmp, nullptr);
+    EXPECT_EQ(xmp->title + "|" + xmp->author + "|" + xmp->topic + "|" + xmp->keywords, "XMP title|Ann, Bob|Topic|old keys");
+    EXPECT_EQ(std::tuple(xmp->createdDate, xmp->createdTime, xmp->modifiedDate), std::tuple(Date(4, 3, 2021), Time(5, 6, 7), Date(2, 1, 2022)));
+
+    // Written, the packet takes the new texts and keeps everything else.
+    ASSERT_NE(WriteAndRead(dir.PathOf("xmp.pdf"), EditedMeta()), nullptr);
+    QPDF pdf;
+    pdf.processFile(dir.PathOf("xmp.pdf").c_str());
+    const std::shared_ptr<Buffer> data = pdf.getRoot().getKey("/Metadata").getStreamData();
+    const std::string written(reinterpret_cast<const char*>(data->getBuffer()), data->getSize());
+    xmp::Fields fields;
+    ASSERT_TRUE(xmp::Read(written, fields)) << written;
+    const DocMeta edited = EditedMeta();
+    EXPECT_EQ(fields.title + "|" + fields.description + "|" + fields.keywords + "|" + fields.subject,
+              edited.title + "|" + edited.topic + "|" + edited.keywords + "|" + edited.keywords);
+    for (const char* kept : {"<d:format>application/pdf</d:format>", "<xmp:CreatorTool>Some Tool</xmp:CreatorTool>",
+                             "<?xpacket end=\"w\"?>"})
+        EXPECT_NE(written.find(kept), std::string::npos) << kept;
+    EXPECT_EQ(written.find("XMP title"), std::string::npos);
+    EXPECT_EQ(written.find("old keys"), std::string::npos);
 }
 
 TEST(WriterRoundTrip, RefusalsLeaveTheOriginalUntouched)
@@ -189,45 +225,6 @@ TEST(WriterRoundTrip, RefusalsLeaveTheOriginalUntouched)
         }
     }
     EXPECT_EQ(StrayFiles(dir, names), std::vector<std::string>{});
-}
-
-TEST(WriterRoundTrip, PdfXmpFillsWhatTheInfoDictionaryLacksAndFollowsIt)
-{
-    TempDir dir;
-    const std::string packet =
-        "<?xpacket begin=\"\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?><x:xmpmeta xmlns:x=\"adobe:ns:meta/\">"
-        "<rdf:RDF xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\">"
-        "<rdf:Description rdf:about=\"\" xmlns:d=\"http://purl.org/dc/elements/1.1/\" "
-        "xmlns:pdf=\"http://ns.adobe.com/pdf/1.3/\" pdf:Keywords=\"old keys\">"
-        "<d:title><rdf:Alt><rdf:li xml:lang=\"de\">Titel</rdf:li><rdf:li xml:lang=\"x-default\">XMP title</rdf:li>"
-        "</rdf:Alt></d:title><d:creator><rdf:Seq><rdf:li>Ann</rdf:li><rdf:li>Bob</rdf:li></rdf:Seq></d:creator>"
-        "<d:description><rdf:Alt><rdf:li xml:lang=\"en\">Topic</rdf:li></rdf:Alt></d:description>"
-        "<d:format>application/pdf</d:format></rdf:Description>"
-        "<rdf:Description rdf:about=\"\" xmlns:xmp=\"http://ns.adobe.com/xap/1.0/\" "
-        "xmp:CreateDate=\"2021-03-04T05:06:07\"><xmp:ModifyDate>2022-01-02T03:04:05</xmp:ModifyDate>"
-        "<xmp:CreatorTool>Some Tool</xmp:CreatorTool></rdf:Description></rdf:RDF></x:xmpmeta><?xpacket end=\"w\"?>";
-    WritePdf(dir.PathOf("xmp.pdf"), "<< /Producer (x) >>", nullptr, nullptr, packet);
-    const auto xmp = ReadDocInfo(dir.PathOf("xmp.pdf"));
-    ASSERT_NE(xmp, nullptr);
-    EXPECT_EQ(xmp->title + "|" + xmp->author + "|" + xmp->topic + "|" + xmp->keywords, "XMP title|Ann, Bob|Topic|old keys");
-    EXPECT_EQ(std::tuple(xmp->createdDate, xmp->createdTime, xmp->modifiedDate), std::tuple(Date(4, 3, 2021), Time(5, 6, 7), Date(2, 1, 2022)));
-
-    // Written, the packet takes the new texts and keeps everything else.
-    ASSERT_NE(WriteAndRead(dir.PathOf("xmp.pdf"), EditedMeta()), nullptr);
-    QPDF pdf;
-    pdf.processFile(dir.PathOf("xmp.pdf").c_str());
-    const std::shared_ptr<Buffer> data = pdf.getRoot().getKey("/Metadata").getStreamData();
-    const std::string written(reinterpret_cast<const char*>(data->getBuffer()), data->getSize());
-    xmp::Fields fields;
-    ASSERT_TRUE(xmp::Read(written, fields)) << written;
-    const DocMeta meta = EditedMeta();
-    EXPECT_EQ(fields.title + "|" + fields.description + "|" + fields.keywords + "|" + fields.subject,
-              meta.title + "|" + meta.topic + "|" + meta.keywords + "|" + meta.keywords);
-    for (const char* kept : {"<d:format>application/pdf</d:format>", "<xmp:CreatorTool>Some Tool</xmp:CreatorTool>",
-                             "<?xpacket end=\"w\"?>"})
-        EXPECT_NE(written.find(kept), std::string::npos) << kept;
-    EXPECT_EQ(written.find("XMP title"), std::string::npos);
-    EXPECT_EQ(written.find("old keys"), std::string::npos);
 }
 
 TEST(WriterRoundTrip, TheSampleToolWritesDocumentsThatReadBack)

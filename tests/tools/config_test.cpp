@@ -50,7 +50,7 @@ TEST_F(ConfigFile, CommentsUnknownKeysAndOrderSurviveASave)
     EXPECT_EQ(ReadFile(path), expected + "\nC=3\n");
 }
 
-TEST_F(ConfigFile, MissingFileIsEmptyWritesMakeSectionsAndGarbageIsReadWithoutHarm)
+TEST_F(ConfigFile, MissingFileIsEmptyWritesMakeSectionsGarbageIsReadWithoutHarmAFailedSaveKeepsWhatWasThere)
 {
     {
         Config config(path);
@@ -80,10 +80,7 @@ TEST_F(ConfigFile, MissingFileIsEmptyWritesMakeSectionsAndGarbageIsReadWithoutHa
     EXPECT_TRUE(config.GetLoadError().empty());
     config.SetGroup("");  // no header before it: "\0\xff[=]" is a key, not a section
     EXPECT_EQ(config.ReadKey("\x01"), "\x02");
-}
 
-TEST_F(ConfigFile, FailedSaveKeepsWhatWasThere)
-{
     // A directory where the file should be cannot be read nor replaced; a missing or
     // read-only folder takes no new file (root writes into a read-only one anyway).
     std::filesystem::create_directory(dir.PathOf("folder.cfg"));
@@ -106,3 +103,4 @@ TEST_F(ConfigFile, FailedSaveKeepsWhatWasThere)
     EXPECT_TRUE(std::filesystem::is_directory(dir.PathOf("folder.cfg")));
     EXPECT_EQ(dir.Read("readonly/docmgr.cfg"), "[A]\nK=old\n");
 }
+

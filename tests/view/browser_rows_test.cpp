@@ -53,10 +53,20 @@ TEST_F(ManagerTest, RowsAreSelectedByKeysWalkedInRowOrderKeptThroughASortAndShow
     EXPECT_EQ(Browser().GetSelectedRowCount(), 1);
 }
 
-TEST_F(ManagerTest, DoubleClickOnARowOpensItWhenOpeningIsPossible)
+TEST_F(ManagerTest, ALongCollectionShowsHowFarItHasGotADoubleClickOnARowOpensIt)
 {
-    WriteDefaultConfig();
-    MakeDocs({"a.odt", "b.odt"});
+    WriteConfig({{"Docs", "Main", docs + "/**", "1"}});
+    MakeDocs({"one/a.odt", "two/b.odt", "two/deeper/c.odt"});
+    CollectProgress::SetDelay(0);  // every collection counts as long
+    Start();
+    CollectProgress::SetDelay(500);
+    EXPECT_EQ(Browser().GetRowCount(), 3);
+    EXPECT_TRUE(Browser().GetCollectProgress().WasShown());
+    EXPECT_TRUE(Browser().GetCollectProgress().LastText().contains("folders"));
+    EXPECT_EQ(host->findChild<QWidget*>("collectProgress"), nullptr);  // gone at the end
+    EXPECT_EQ(Impl().pathLineText, "3 documents in " + docs + "/**");
+
+    // A double click on a row opens it when opening is possible.
     MakeHost();
     QTimer::singleShot(0, host.get(), [this] {
         QTableView& browser = Browser();
@@ -73,20 +83,6 @@ TEST_F(ManagerTest, DoubleClickOnARowOpensItWhenOpeningIsPossible)
     ASSERT_NE(host->GetFirstDoc(), nullptr);
     EXPECT_EQ(fsutil::FileName(*host->GetFirstDoc()), RowNames()[1]);
     EXPECT_EQ(host->GetNextDoc(), nullptr);
-}
-
-TEST_F(ManagerTest, ALongCollectionShowsHowFarItHasGot)
-{
-    WriteConfig({{"Docs", "Main", docs + "/**", "1"}});
-    MakeDocs({"one/a.odt", "two/b.odt", "two/deeper/c.odt"});
-    CollectProgress::SetDelay(0);  // every collection counts as long
-    Start();
-    CollectProgress::SetDelay(500);
-    EXPECT_EQ(Browser().GetRowCount(), 3);
-    EXPECT_TRUE(Browser().GetCollectProgress().WasShown());
-    EXPECT_TRUE(Browser().GetCollectProgress().LastText().contains("folders"));
-    EXPECT_EQ(host->findChild<QWidget*>("collectProgress"), nullptr);  // gone at the end
-    EXPECT_EQ(Impl().pathLineText, "3 documents in " + docs + "/**");
 }
 
 // Pixels inside the border that are not the white background.
