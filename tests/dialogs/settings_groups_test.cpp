@@ -52,7 +52,7 @@ protected:
     const std::string stem = ResString(STR_NEW_GROUP_STEM);
 };
 
-TEST_F(GroupsDialogTest, OpensOnTheActualGroupProtectsTheFirstRenamingDropsBlanksAndMovesTheGroupToTheEnd)
+TEST_F(GroupsDialogTest, OpensOnTheActualGroupRenamesMovesBetweenSectionsAndDeletes)
 {
     Open({{standard, "General"}, {stem + "1", "Work"}, {stem + "2", "Work"}}, 1);
     EXPECT_EQ(Texts(List()), (std::vector<std::string>{standard, stem + "1", stem + "2"}));
@@ -99,10 +99,8 @@ TEST_F(GroupsDialogTest, OpensOnTheActualGroupProtectsTheFirstRenamingDropsBlank
     QTest::keyClick(NameEdit(), Qt::Key_Return);
     EXPECT_TRUE(dialog->isVisible());
     EXPECT_EQ(Texts(List()).back(), "Delta");
-}
 
-TEST_F(GroupsDialogTest, SectionsFollowTheGroupsMovedBetweenThemDeletingSelectsTheNewLast)
-{
+    // Sections follow the groups moved between them.
     OpenThree(0);
     List()->setCurrentRow(2);
     Type(SectionBox()->lineEdit(), "Old Papers");

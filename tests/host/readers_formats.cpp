@@ -18,7 +18,7 @@ using namespace readertest;
 
 using Infos = std::array<std::string, 4>;
 
-TEST(ReadersFormats, EachFormatGivesItsFields)
+TEST(ReadersFormats, EachFormatGivesItsFieldsAlsoFromALargeDocument)
 {
     TempDir dir;
     const SampleDoc full = FullSample();
@@ -60,13 +60,9 @@ TEST(ReadersFormats, EachFormatGivesItsFields)
         }
         EXPECT_EQ(infos, expected);
     }
-}
 
-// Past the size read whole, the readers take the file from its path, and the heads of
-// flat ODF and RTF past their own limits are cut after the information.
-TEST(ReadersFormats, LargeDocumentsGiveTheirFields)
-{
-    TempDir dir;
+    // Past the size read whole, the readers take the file from its path, and the heads of
+    // flat ODF and RTF past their own limits are cut after the information.
     SampleDoc doc = FullSample();
     std::mt19937 random(7);
     doc.body.resize(16u << 20);

@@ -115,7 +115,7 @@ TEST_F(IndexTest, DamagedForeignOrOversizedIndexes)
     }
 }
 
-TEST_F(IndexTest, TruncatedLastRecordIsLeftAndDuplicateOrVanishedRecordsCauseOneRewrite)
+TEST_F(IndexTest, TruncatedLastRecordIsLeftDuplicateOrVanishedRecordsCauseOneRewriteALockedIndexIsOnlyRead)
 {
     Docs({"a.odt", "b.odt"});
     Record firstA = SampleRecord("a.odt");
@@ -135,11 +135,8 @@ TEST_F(IndexTest, TruncatedLastRecordIsLeftAndDuplicateOrVanishedRecordsCauseOne
         EXPECT_EQ(Index(), c.after);
     }
     EXPECT_EQ(rows.Row(0).title, "first");
-}
 
-TEST_F(IndexTest, LockedIndexIsReadButNotWritten)
-{
-    Docs({"a.odt", "b.odt"});
+    // A locked index is read but not written.
     const std::string original = Image({SampleRecord("a.odt"), SampleRecord("gone.odt")});
     WriteIndex(original);
     dir.SetMTime("a.odt", NEWER + 1);
@@ -162,3 +159,4 @@ TEST_F(IndexTest, LockedIndexIsReadButNotWritten)
     ReadDir();
     EXPECT_EQ(Index().size(), indeximage::RecordOffset(2));
 }
+
