@@ -7,7 +7,6 @@
 #include <ctime>
 #include <filesystem>
 #include <thread>
-#include <sys/wait.h>
 
 #include "tests/host/cli_fixture.h"
 

@@ -30,11 +30,8 @@ DocMeta EditedMeta()
 std::unique_ptr<DocInfo> WriteAndRead(const std::string& path, const DocMeta& meta)
 {
     std::string error;
-    EXPECT_TRUE(WriteDocMeta(path, meta, error)) << error;
-    EXPECT_EQ(error, "");
-    auto info = ReadDocInfo(path);
-    EXPECT_NE(info, nullptr);
-    return info;
+    EXPECT_TRUE(WriteDocMeta(path, meta, error) && error.empty()) << error;
+    return ReadDocInfo(path);
 }
 
 std::string Entry(const std::string& path, const std::string& name)
