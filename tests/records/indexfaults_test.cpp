@@ -46,7 +46,7 @@ DocInfo Named(const std::string& name)
 
 }  // namespace
 
-TEST_F(IndexTest, ManyRecordsMatchInAnyOrderAndVanishedOnesAreDropped)
+TEST_F(IndexTest, ManyRecordsMatchInAnyOrderVanishedOnesAndATemporaryFileLeftBehindAreDropped)
 {
     constexpr int COUNT = 2000;
     std::vector<Record> records;
@@ -61,6 +61,7 @@ TEST_F(IndexTest, ManyRecordsMatchInAnyOrderAndVanishedOnesAreDropped)
             records.push_back(SampleRecord("gone" + std::to_string(i) + ".odt"));
     }
     WriteIndex(Image(records));
+    dir.MakeFile(".docindex.tmp-1073741000-0-77", "what a killed rewrite left");
     ReadDir();
     ASSERT_EQ(rows.GetRowCount(), COUNT);
     EXPECT_EQ(source.TotalCalls(), 0);
@@ -70,6 +71,7 @@ TEST_F(IndexTest, ManyRecordsMatchInAnyOrderAndVanishedOnesAreDropped)
         ASSERT_EQ(row->comment + "|" + row->info[3], name + "|" + name);
     }
     EXPECT_EQ(dir.Size(INDEX), indeximage::RecordOffset(COUNT)) << "vanished records dropped";
+    EXPECT_FALSE(dir.Exists(".docindex.tmp-1073741000-0-77")) << "no document, and gone with the rewrite";
 }
 
 TEST_F(IndexTest, FullDiskLeavesThePreviousIndexOrNone)
