@@ -84,7 +84,7 @@ TEST_F(CliConfigTest, AMissingOrEmptyConfigurationGetsItsFirstGroupOneThatCannot
         testfs::ReadFile(WriteConfig("%PDF-1.4\r\n1 0 obj\r\n<< /Kids [3 0 R] >>\r\nendobj\r\n%%EOF\r\n", "paper.pdf"));
     for (const std::string name : {"a-directory.cfg", "paper.pdf"})
         for (const char* mode : {"--list", "--export-config"}) {
-            const RunResult run = RunDocmanager({mode, "--config", QString::fromStdString(dir.PathOf(name))}, ConfigHome());
+            run = RunDocmanager({mode, "--config", QString::fromStdString(dir.PathOf(name))}, ConfigHome());
             EXPECT_EQ(run.status, 1) << run.err;
             EXPECT_EQ(run.out, "");
             EXPECT_NE(run.err.find(name), std::string::npos) << run.err;

@@ -93,12 +93,12 @@ TEST_F(ConfigFile, MissingFileIsEmptyWritesMakeSectionsGarbageIsReadWithoutHarmA
     for (const auto& c : cases) {
         if (root && c.file == cases[2].file)
             continue;
-        Config config(c.file);
-        EXPECT_EQ(config.GetLoadError().empty(), c.loads) << c.file;
-        config.SetGroup("A");
-        config.WriteKey("K", "new");
-        EXPECT_FALSE(config.Flush()) << c.file;
-        EXPECT_FALSE(config.GetSaveError().empty()) << c.file;
+        Config failing(c.file);
+        EXPECT_EQ(failing.GetLoadError().empty(), c.loads) << c.file;
+        failing.SetGroup("A");
+        failing.WriteKey("K", "new");
+        EXPECT_FALSE(failing.Flush()) << c.file;
+        EXPECT_FALSE(failing.GetSaveError().empty()) << c.file;
     }
     EXPECT_TRUE(std::filesystem::is_directory(dir.PathOf("folder.cfg")));
     EXPECT_EQ(dir.Read("readonly/docmgr.cfg"), "[A]\nK=old\n");
