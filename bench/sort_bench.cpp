@@ -22,9 +22,9 @@ namespace {
 using Rows = std::vector<std::unique_ptr<DocInfo>>;
 constexpr size_t ROW_COUNT = 100000;
 
-const char* const WORDS[] = {"Annual", "report", "Budget", "minutes", "Quarterly", "review",
-                             "Project", "plan", "Meeting", "notes", "Invoice", "draft",
-                             "Übersicht", "Angebot", "contract", "Summary", "letter", "memo"};
+const char* const WORDS[] = {"Annual",    "report",  "Budget",   "minutes", "Quarterly", "review",
+                             "Project",   "plan",    "Meeting",  "notes",   "Invoice",   "draft",
+                             "Übersicht", "Angebot", "contract", "Summary", "letter",    "memo"};
 
 std::string Words(std::mt19937& rng, int count)
 {
@@ -107,9 +107,9 @@ size_t StringHeap(const std::string& s)
 size_t RowHeapBytes(const DocInfo& info)
 {
     size_t bytes = sizeof(DocInfo) + sizeof(std::unique_ptr<DocInfo>);
-    for (const std::string* s : {&info.entry, &info.title, &info.topic, &info.author,
-                                 &info.modifiedBy, &info.printedBy, &info.comment, &info.keywords,
-                                 &info.info[0], &info.info[1], &info.info[2], &info.info[3]})
+    for (const std::string* s :
+         {&info.entry, &info.title, &info.topic, &info.author, &info.modifiedBy, &info.printedBy, &info.comment,
+          &info.keywords, &info.info[0], &info.info[1], &info.info[2], &info.info[3]})
         bytes += StringHeap(*s);
     return bytes;
 }
@@ -134,8 +134,8 @@ void ReportRowMemory()
         counted += RowHeapBytes(*row);
     std::printf("memory per row: sizeof(DocInfo) %zu bytes, counted %.0f bytes, "
                 "resident growth %.0f bytes (%zu rows)\n",
-                sizeof(DocInfo), double(counted) / double(ROW_COUNT),
-                double(after - before) / double(ROW_COUNT), ROW_COUNT);
+                sizeof(DocInfo), double(counted) / double(ROW_COUNT), double(after - before) / double(ROW_COUNT),
+                ROW_COUNT);
 }
 
 }  // namespace

@@ -30,11 +30,17 @@ constexpr ResEntry kTexts[] = {
     {S, STR_COUNT_LINE, 0, QT_TRANSLATE_NOOP3("DocMgr", " documents in ", "string 15718")},
     {S, STR_NEW_GROUP_STEM, 0, QT_TRANSLATE_NOOP3("DocMgr", "Group", "string 15719")},
     {S, STR_INDEX_NAME, 0, QT_TRANSLATE_NOOP3("DocMgr", ".docindex", "string 15720")},
-    {S, STR_NEW_CONFIG, 0, QT_TRANSLATE_NOOP3("DocMgr", "No document manager settings were found. A first group named \"Standard\" has been "
-     "created; choose its directories with the Paths button.", "string 15721")},
-    {S, STR_DEF_EXTENSIONS, 0, QT_TRANSLATE_NOOP3("DocMgr", "*.odt;*.ott;*.ods;*.ots;*.odp;*.otp;*.odg;*.otg;*.docx;*.docm;*.dotx;*.dotm;"
-     "*.xlsx;*.xlsm;*.xltx;*.xltm;*.pptx;*.pptm;*.potx;*.potm;*.pdf;"
-     "*.fodt;*.fods;*.fodp;*.fodg;*.doc;*.dot;*.xls;*.xlt;*.ppt;*.pot;*.rtf", "string 15722")},
+    {S, STR_NEW_CONFIG, 0,
+     QT_TRANSLATE_NOOP3("DocMgr",
+                        "No document manager settings were found. A first group named \"Standard\" has been "
+                        "created; choose its directories with the Paths button.",
+                        "string 15721")},
+    {S, STR_DEF_EXTENSIONS, 0,
+     QT_TRANSLATE_NOOP3("DocMgr",
+                        "*.odt;*.ott;*.ods;*.ots;*.odp;*.otp;*.odg;*.otg;*.docx;*.docm;*.dotx;*.dotm;"
+                        "*.xlsx;*.xlsm;*.xltx;*.xltm;*.pptx;*.pptm;*.potx;*.potm;*.pdf;"
+                        "*.fodt;*.fods;*.fodp;*.fodg;*.doc;*.dot;*.xls;*.xlt;*.ppt;*.pot;*.rtf",
+                        "string 15722")},
     {S, STR_SUBDIR_MARKER, 0, QT_TRANSLATE_NOOP3("DocMgr", "/**", "string 15723")},
     // Messages: text before and after a file or folder name.
     {S, STR_DELETE_FAILED, 0, QT_TRANSLATE_NOOP3("DocMgr", "The file ", "string 15724")},
@@ -52,7 +58,8 @@ constexpr ResEntry kTexts[] = {
     {S, STR_BY, 0, QT_TRANSLATE_NOOP3("DocMgr", "by", "string 15735")},
     // Save question around the group name.
     {S, STR_SAVE_QUESTION, 0, QT_TRANSLATE_NOOP3("DocMgr", "The settings of the group \"", "string 15736")},
-    {S, STR_SAVE_QUESTION_END, 0, QT_TRANSLATE_NOOP3("DocMgr", "\" have been changed. Keep the changes?", "string 15737")},
+    {S, STR_SAVE_QUESTION_END, 0,
+     QT_TRANSLATE_NOOP3("DocMgr", "\" have been changed. Keep the changes?", "string 15737")},
     // Open button in open mode and otherwise.
     {S, STR_OPEN, 0, QT_TRANSLATE_NOOP3("DocMgr", "&Open", "string 15738")},
     {S, STR_SELECT, 0, QT_TRANSLATE_NOOP3("DocMgr", "&Select", "string 15739")},
@@ -66,4 +73,7 @@ constexpr ResEntry kTexts[] = {
 };
 }  // namespace
 
-std::span<const ResEntry> CoreTexts() { return kTexts; }
+std::span<const ResEntry> CoreTexts()
+{
+    return kTexts;
+}

@@ -31,8 +31,12 @@ constexpr ResEntry kTexts[] = {
     {D, DLG_FILTER, FILTER_LINK_OR, QT_TRANSLATE_NOOP3("DocMgr", "or", "dialog 15702.32")},
     {D, DLG_FILTER, FILTER_OK, QT_TRANSLATE_NOOP3("DocMgr", "OK", "dialog 15702.40")},
     {D, DLG_FILTER, FILTER_CANCEL, QT_TRANSLATE_NOOP3("DocMgr", "Cancel", "dialog 15702.41")},
-    {D, DLG_FILTER, FILTER_WILDCARD_HINT, QT_TRANSLATE_NOOP3("DocMgr", "Wildcards: * any text, ? one character", "dialog 15702.42")},
+    {D, DLG_FILTER, FILTER_WILDCARD_HINT,
+     QT_TRANSLATE_NOOP3("DocMgr", "Wildcards: * any text, ? one character", "dialog 15702.42")},
 };
 }  // namespace
 
-std::span<const ResEntry> FilterTexts() { return kTexts; }
+std::span<const ResEntry> FilterTexts()
+{
+    return kTexts;
+}

@@ -24,7 +24,8 @@ constexpr ResEntry kTexts[] = {
     {D, DLG_MANAGER, MANAGER_READ_ONLY, QT_TRANSLATE_NOOP3("DocMgr", "&Read-only", "dialog 15700.94")},
     {D, DLG_MANAGER, MANAGER_SINGLE_VIEW, QT_TRANSLATE_NOOP3("DocMgr", "Single &view", "dialog 15700.95")},
     // Progress of a long collection.
-    {D, DLG_MANAGER, MANAGER_PROGRESS, QT_TRANSLATE_NOOP3("DocMgr", "Reading documents: %1 folders, %2 documents so far", "dialog 15700.40")},
+    {D, DLG_MANAGER, MANAGER_PROGRESS,
+     QT_TRANSLATE_NOOP3("DocMgr", "Reading documents: %1 folders, %2 documents so far", "dialog 15700.40")},
     {D, DLG_MANAGER, MANAGER_PROGRESS_TITLE, QT_TRANSLATE_NOOP3("DocMgr", "Document Manager", "dialog 15700.41")},
     // Menu 15700: the file commands.
     {M, MENU_COMMANDS, CMD_DELETE, QT_TRANSLATE_NOOP3("DocMgr", "&Delete", "menu 15700.20")},
@@ -35,10 +36,16 @@ constexpr ResEntry kTexts[] = {
     {M, MENU_COMMANDS, CMD_PRINTLIST, QT_TRANSLATE_NOOP3("DocMgr", "Print &List...", "menu 15700.25")},
     {M, MENU_COMMANDS, CMD_EXPORTLIST, QT_TRANSLATE_NOOP3("DocMgr", "&Export List...", "menu 15700.26")},
     // Query boxes: delete question; save question (its message is composed at run time).
-    {Q, QUERY_DELETE, 0, QT_TRANSLATE_NOOP3("DocMgr", "Do you really want to delete the %1 selected documents?", "query 15700")},
-    {Q, QUERY_DELETE_ONE, 0, QT_TRANSLATE_NOOP3("DocMgr", "Do you really want to delete the document \"%1\"?", "query 15702")},
-    {Q, QUERY_SAVE, 0, QT_TRANSLATE_NOOP3("DocMgr", "The settings have been changed. Keep the changes?", "query 15701")},
+    {Q, QUERY_DELETE, 0,
+     QT_TRANSLATE_NOOP3("DocMgr", "Do you really want to delete the %1 selected documents?", "query 15700")},
+    {Q, QUERY_DELETE_ONE, 0,
+     QT_TRANSLATE_NOOP3("DocMgr", "Do you really want to delete the document \"%1\"?", "query 15702")},
+    {Q, QUERY_SAVE, 0,
+     QT_TRANSLATE_NOOP3("DocMgr", "The settings have been changed. Keep the changes?", "query 15701")},
 };
 }  // namespace
 
-std::span<const ResEntry> MainTexts() { return kTexts; }
+std::span<const ResEntry> MainTexts()
+{
+    return kTexts;
+}

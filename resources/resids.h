@@ -53,7 +53,7 @@ enum ManagerControl : uint16_t {
     MANAGER_COLUMNS = 17,
     MANAGER_PATH_LINE = 20,
     MANAGER_COMMANDS = 34,
-    MANAGER_PROGRESS = 40,        // "%1 folders, %2 documents" of a long collection
+    MANAGER_PROGRESS = 40,  // "%1 folders, %2 documents" of a long collection
     MANAGER_PROGRESS_TITLE = 41,
     MANAGER_SECTION_LABEL = 90,
     MANAGER_SECTION_LIST = 91,
@@ -214,9 +214,9 @@ enum SettingsString : uint16_t {
     STR_COUNT_LINE = 15718,       // between the document count and the paths
     STR_NEW_GROUP_STEM = 15719,   // new groups are named with it and a number
     STR_INDEX_NAME = 15720,
-    STR_NEW_CONFIG = 15721,       // told when a first group had to be made
+    STR_NEW_CONFIG = 15721,  // told when a first group had to be made
     STR_DEF_EXTENSIONS = 15722,
-    STR_SUBDIR_MARKER = 15723,    // "/**"; as the only start path it means none
+    STR_SUBDIR_MARKER = 15723,  // "/**"; as the only start path it means none
 };
 
 // Failure messages of the file commands: the text before and after a file or folder name.
@@ -239,8 +239,8 @@ enum WindowString : uint16_t {
     STR_BY = 15735,  // and in front of a name
     STR_SAVE_QUESTION = 15736,
     STR_SAVE_QUESTION_END = 15737,  // before and after the group's name
-    STR_OPEN = 15738,    // open button in open mode
-    STR_SELECT = 15739,  // and otherwise
+    STR_OPEN = 15738,               // open button in open mode
+    STR_SELECT = 15739,             // and otherwise
     STR_PRINT_JOB = 15743,
     STR_EXPORT_FAILED = 15744,
     STR_EXPORT_FAILED_END = 15745,  // before and after the file name

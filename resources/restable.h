@@ -10,8 +10,8 @@ enum class ResKind : uint8_t { String, Dialog, Menu, QueryBox, InfoBox };
 
 struct ResEntry {
     ResKind kind;
-    uint16_t id;      // resource id (dialog, menu, box or string)
-    uint16_t local;   // control or item id inside a dialog or menu; 0 for the resource itself
+    uint16_t id;     // resource id (dialog, menu, box or string)
+    uint16_t local;  // control or item id inside a dialog or menu; 0 for the resource itself
     struct {
         const char* source;  // the English text
         const char* key;     // kind and id: what tells equal source texts apart

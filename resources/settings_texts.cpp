@@ -13,7 +13,8 @@ constexpr ResEntry kTexts[] = {
     {D, DLG_PATHS, PATHS_CHOSEN_LABEL, QT_TRANSLATE_NOOP3("DocMgr", "&Chosen directories:", "dialog 15701.20")},
     {D, DLG_PATHS, PATHS_TREE_LABEL, QT_TRANSLATE_NOOP3("DocMgr", "All &directories:", "dialog 15701.22")},
     {D, DLG_PATHS, PATHS_REMOVE, QT_TRANSLATE_NOOP3("DocMgr", "&Remove", "dialog 15701.26")},
-    {D, DLG_PATHS, PATHS_INCLUDE_TEXT, QT_TRANSLATE_NOOP3("DocMgr", "&Include subdirectories", "dialog 15701.226")},  // check box 26
+    {D, DLG_PATHS, PATHS_INCLUDE_TEXT,
+     QT_TRANSLATE_NOOP3("DocMgr", "&Include subdirectories", "dialog 15701.226")},  // check box 26
     {D, DLG_PATHS, PATHS_FRAME, QT_TRANSLATE_NOOP3("DocMgr", "Where the group's documents are", "dialog 15701.27")},
     {D, DLG_PATHS, PATHS_ADD, QT_TRANSLATE_NOOP3("DocMgr", "&Add >>", "dialog 15701.32")},
     {D, DLG_PATHS, PATHS_REMOVE_ALL, QT_TRANSLATE_NOOP3("DocMgr", "Remove a&ll", "dialog 15701.33")},
@@ -30,7 +31,9 @@ constexpr ResEntry kTexts[] = {
     // Columns dialog.
     {D, DLG_COLUMNS, CTL_TITLE, QT_TRANSLATE_NOOP3("DocMgr", "Columns", "dialog 15704.0")},
     {D, DLG_COLUMNS, COLUMNS_FRAME, QT_TRANSLATE_NOOP3("DocMgr", "Column order", "dialog 15704.81")},
-    {D, DLG_COLUMNS, COLUMNS_FROZEN_HINT, QT_TRANSLATE_NOOP3("DocMgr", "Columns above the line stay in place when the list scrolls sideways.", "dialog 15704.82")},
+    {D, DLG_COLUMNS, COLUMNS_FROZEN_HINT,
+     QT_TRANSLATE_NOOP3("DocMgr", "Columns above the line stay in place when the list scrolls sideways.",
+                        "dialog 15704.82")},
     {D, DLG_COLUMNS, COLUMNS_UP, QT_TRANSLATE_NOOP3("DocMgr", "Move up (Ctrl+Up)", "dialog 15704.30")},
     {D, DLG_COLUMNS, COLUMNS_DOWN, QT_TRANSLATE_NOOP3("DocMgr", "Move down (Ctrl+Down)", "dialog 15704.31")},
     {D, DLG_COLUMNS, CTL_OK, QT_TRANSLATE_NOOP3("DocMgr", "OK", "dialog 15704.18")},
@@ -57,4 +60,7 @@ constexpr ResEntry kTexts[] = {
 };
 }  // namespace
 
-std::span<const ResEntry> SettingsTexts() { return kTexts; }
+std::span<const ResEntry> SettingsTexts()
+{
+    return kTexts;
+}

@@ -5,6 +5,6 @@
 
 bool HoldsDocConfig(const Config& config)
 {
-    return config.IsBlank() || config.HasGroup(configkeys::General) ||
-           config.HasGroup(configkeys::Groups) || config.HasGroup("0");
+    return config.IsBlank() || config.HasGroup(configkeys::General) || config.HasGroup(configkeys::Groups) ||
+           config.HasGroup("0");
 }

@@ -11,32 +11,34 @@ using groupkeys::GroupKey;
 using groupkeys::Kind;
 using groupkeys::Layout;
 
-const char* Flag(bool value) { return value ? "T" : "F"; }
+const char* Flag(bool value)
+{
+    return value ? "T" : "F";
+}
 
-std::string Bracketed(const std::string& text) { return "[" + text + "]"; }
+std::string Bracketed(const std::string& text)
+{
+    return "[" + text + "]";
+}
 
 std::string ExportText(const GroupKey& key, const DocGroupConfig& group, unsigned element)
 {
     const groupkeys::Value value = key.get(group, element);
     switch (key.kind) {
-    case Kind::Text:
-        return std::get<std::string>(value);
+    case Kind::Text: return std::get<std::string>(value);
     case Kind::Flag:
-    case Kind::Order:
-        return Flag(std::get<bool>(value));
+    case Kind::Order: return Flag(std::get<bool>(value));
     case Kind::ColumnId:
         // A column id travels as one letter: ids 1..20 give "B".."U".
         return std::string(1, char(uint8_t((std::get<long long>(value) & 0xFF) + 65)));
     case Kind::Number:
-    case Kind::Signed:
-        break;
+    case Kind::Signed: break;
     }
     return std::to_string(std::get<long long>(value));
 }
 
 // Element `element` of every key of `run` that has one, each followed by `separator`.
-std::string Parts(std::span<const GroupKey> run, const DocGroupConfig& group, unsigned element,
-                  const char* separator)
+std::string Parts(std::span<const GroupKey> run, const DocGroupConfig& group, unsigned element, const char* separator)
 {
     std::string out;
     for (const GroupKey& key : run) {

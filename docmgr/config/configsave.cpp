@@ -36,8 +36,7 @@ groupkeys::Value SavedValue(const GroupKey& key, const DocGroupConfig& group, un
 
 void WriteValue(Config& out, const GroupKey& key, const DocGroupConfig& group, unsigned element)
 {
-    out.WriteKey(groupkeys::KeyName(key, element),
-                 groupkeys::FileText(key.kind, SavedValue(key, group, element)));
+    out.WriteKey(groupkeys::KeyName(key, element), groupkeys::FileText(key.kind, SavedValue(key, group, element)));
 }
 }  // namespace
 
@@ -45,9 +44,7 @@ void ImplDocConfig::WriteGroup(uint16_t group)
 {
     const DocGroupConfig& grp = Group(group);
     config_->SetGroup(std::to_string(group));
-    groupkeys::ForEachValue([&](const GroupKey& key, unsigned element) {
-        WriteValue(*config_, key, grp, element);
-    });
+    groupkeys::ForEachValue([&](const GroupKey& key, unsigned element) { WriteValue(*config_, key, grp, element); });
 }
 
 void ImplDocConfig::WriteColumnWidths(uint16_t group)

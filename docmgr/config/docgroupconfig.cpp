@@ -3,8 +3,7 @@
 
 #include "docmgr/tools/datetime.h"
 
-DocGroupConfig::DocGroupConfig()
-    : filterFiles("*")
+DocGroupConfig::DocGroupConfig() : filterFiles("*")
 {
     const uint32_t today = Date::Today().GetDate();
     const uint32_t now = uint32_t(Time::Now().GetTime());

@@ -6,7 +6,7 @@
 
 class Config;
 
-constexpr uint16_t NO_COLUMN = 65535;   // no sort column / no filter row
+constexpr uint16_t NO_COLUMN = 65535;  // no sort column / no filter row
 constexpr unsigned COLUMN_SLOTS = 20;
 constexpr unsigned FILTER_ROWS = 3;
 

@@ -122,8 +122,8 @@ std::span<const GroupKey> Keys()
 
 const GroupKey& KeyNamed(std::string_view name)
 {
-    const auto found = std::find_if(std::begin(kKeys), std::end(kKeys),
-                                    [&](const GroupKey& key) { return key.name == name; });
+    const auto found =
+        std::find_if(std::begin(kKeys), std::end(kKeys), [&](const GroupKey& key) { return key.name == name; });
     if (found == std::end(kKeys))
         throw std::logic_error("no group key " + std::string(name));
     return *found;
@@ -158,8 +158,7 @@ void ForEachValue(const std::function<void(const GroupKey& key, unsigned element
 {
     const std::span<const GroupKey> keys = Keys();
     for (size_t first = 0; first < keys.size();) {
-        const std::span<const GroupKey> run =
-            keys[first].layout == Layout::Row ? RunAt(first) : keys.subspan(first, 1);
+        const std::span<const GroupKey> run = keys[first].layout == Layout::Row ? RunAt(first) : keys.subspan(first, 1);
         for (unsigned element = 0; element < ElementCount(run); ++element) {
             for (const GroupKey& key : run) {
                 if (element < key.count)
@@ -174,16 +173,12 @@ std::string FileText(Kind kind, const Value& value)
 {
     using namespace configkeys;
     switch (kind) {
-    case Kind::Text:
-        return std::get<std::string>(value);
-    case Kind::Flag:
-        return std::get<bool>(value) ? True : False;
-    case Kind::Order:
-        return std::get<bool>(value) ? Up : Down;
+    case Kind::Text: return std::get<std::string>(value);
+    case Kind::Flag: return std::get<bool>(value) ? True : False;
+    case Kind::Order: return std::get<bool>(value) ? Up : Down;
     case Kind::Number:
     case Kind::Signed:
-    case Kind::ColumnId:
-        break;
+    case Kind::ColumnId: break;
     }
     return std::to_string(std::get<long long>(value));
 }
@@ -193,17 +188,12 @@ Value FromFileText(Kind kind, const std::string& text)
 {
     using namespace configkeys;
     switch (kind) {
-    case Kind::Text:
-        return text;
-    case Kind::Flag:
-        return text == True;
-    case Kind::Order:
-        return text == Up;
-    case Kind::Signed:
-        return tokens::ToSigned(text);
+    case Kind::Text: return text;
+    case Kind::Flag: return text == True;
+    case Kind::Order: return text == Up;
+    case Kind::Signed: return tokens::ToSigned(text);
     case Kind::Number:
-    case Kind::ColumnId:
-        break;
+    case Kind::ColumnId: break;
     }
     return static_cast<long long>(tokens::ToNumber(text));
 }

@@ -18,9 +18,7 @@ std::string ReadText(Config* config, const char* key)
 }
 }  // namespace
 
-ImplDocConfig::ImplDocConfig(Config* config, const std::string& defaultFilter,
-                             const Inform& inform)
-    : config_(config)
+ImplDocConfig::ImplDocConfig(Config* config, const std::string& defaultFilter, const Inform& inform) : config_(config)
 {
     using namespace configkeys;
     if (config_)

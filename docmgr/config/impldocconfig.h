@@ -57,7 +57,7 @@ public:
     bool IsExceptionPath(const std::string& path) const;
 
     bool singleView = false;
-    uint16_t actualGroup = 0;   // 1-based position of the group in force, 0 for none
+    uint16_t actualGroup = 0;  // 1-based position of the group in force, 0 for none
     uint16_t access = 0;
     // Upper-cased ";"-separated directories never descended into; the count kept with it.
     void SetExceptionPaths(const std::string& paths);

@@ -157,8 +157,7 @@ bool DocColumnsDialog::eventFilter(QObject* watched, QEvent* event)
     // Ctrl+Up and Ctrl+Down move the selected entry while the list keeps the focus.
     if (watched == columnList_ && event->type() == QEvent::KeyPress) {
         const auto* key = static_cast<QKeyEvent*>(event);
-        if (key->modifiers() == Qt::ControlModifier &&
-            (key->key() == Qt::Key_Up || key->key() == Qt::Key_Down)) {
+        if (key->modifiers() == Qt::ControlModifier && (key->key() == Qt::Key_Up || key->key() == Qt::Key_Down)) {
             if (key->key() == Qt::Key_Up)
                 UpHdl();
             else

@@ -59,8 +59,7 @@ DocCopyDialog::DocCopyDialog(QWidget* parent, std::vector<std::string> documents
     d->folderButton->setObjectName(QStringLiteral("folderButton"));
     d->moveBox->setObjectName(QStringLiteral("moveBox"));
     d->caption->setBuddy(d->tree);
-    d->tree->setMinimumSize(d->tree->fontMetrics().averageCharWidth() * 55,
-                            d->tree->fontMetrics().height() * 16);
+    d->tree->setMinimumSize(d->tree->fontMetrics().averageCharWidth() * 55, d->tree->fontMetrics().height() * 16);
     d->okButton->setDefault(true);
 
     auto* frameLayout = new QVBoxLayout(d->frame);
@@ -91,9 +90,15 @@ DocCopyDialog::DocCopyDialog(QWidget* parent, std::vector<std::string> documents
 
 DocCopyDialog::~DocCopyDialog() = default;
 
-unsigned short DocCopyDialog::GetDoneCount() const { return d->doneCount; }
+unsigned short DocCopyDialog::GetDoneCount() const
+{
+    return d->doneCount;
+}
 
-const std::vector<std::string>& DocCopyDialog::GetResultPaths() const { return d->resultPaths; }
+const std::vector<std::string>& DocCopyDialog::GetResultPaths() const
+{
+    return d->resultPaths;
+}
 
 void DocCopyDialog::DirectoriesHdl()
 {

@@ -53,8 +53,7 @@ QString WithState(const QString& line, QChar state)
 // Child lines of `dir`, siblings in the order that inserting each read name before the
 // first line not less than it (upper-cased) would give: ascending without regard to case,
 // names equal when upper-cased in the reverse of their reading order.
-QStringList ChildLines(const std::string& dir, int indent, const ImplDocConfig* config,
-                       bool showHidden)
+QStringList ChildLines(const std::string& dir, int indent, const ImplDocConfig* config, bool showHidden)
 {
     const bool checkExceptions = config && !config->GetExceptionPaths().empty();
     std::vector<std::pair<std::string, std::string>> children;  // upper-cased key, name
@@ -68,8 +67,7 @@ QStringList ChildLines(const std::string& dir, int indent, const ImplDocConfig* 
         children.emplace_back(textcase::ToUpper(item.name), item.name);
     }
     std::reverse(children.begin(), children.end());
-    std::stable_sort(children.begin(), children.end(),
-                     [](const auto& a, const auto& b) { return a.first < b.first; });
+    std::stable_sort(children.begin(), children.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
 
     const QString prefix = QString(indent + 2, u' ') + QStringLiteral("- ");
     QStringList lines;
@@ -96,15 +94,13 @@ private:
 };
 }  // namespace
 
-DocDirBox::DocDirBox(QWidget* parent, const ImplDocConfig* config)
-    : QListWidget(parent), config_(config)
+DocDirBox::DocDirBox(QWidget* parent, const ImplDocConfig* config) : QListWidget(parent), config_(config)
 {
     setObjectName(QStringLiteral("dirTree"));
     setSelectionMode(QAbstractItemView::SingleSelection);
     setUniformItemSizes(true);  // large directories lay out without measuring each line
     setItemDelegate(new DocDirDelegate(this));
-    connect(this, &QListWidget::currentRowChanged, this,
-            [this](int) { emit DirSelected(GetSelectedPos()); });
+    connect(this, &QListWidget::currentRowChanged, this, [this](int) { emit DirSelected(GetSelectedPos()); });
     connect(this, &QListWidget::itemDoubleClicked, this, [this](QListWidgetItem*) { DoubleClick(); });
     ReadDirs();
 }
@@ -283,8 +279,7 @@ void DocDirBox::keyPressEvent(QKeyEvent* event)
         }
         event->accept();
         return;
-    default:
-        break;
+    default: break;
     }
     QListWidget::keyPressEvent(event);
 }
@@ -295,8 +290,7 @@ void DocDirBox::keyboardSearch(const QString& search)
     // directory names alone, the way other list boxes match their texts.
     if (search.isEmpty())
         return;
-    const bool continued = typedTimer_.isValid() &&
-                           typedTimer_.elapsed() < QApplication::keyboardInputInterval();
+    const bool continued = typedTimer_.isValid() && typedTimer_.elapsed() < QApplication::keyboardInputInterval();
     typed_ = continued ? typed_ + search : search;
     typedTimer_.start();
     const int rows = count();

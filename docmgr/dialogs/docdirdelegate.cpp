@@ -11,8 +11,7 @@ constexpr int kIcon = 16;
 constexpr int kGap = 4;
 }  // namespace
 
-void DocDirDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
-                           const QModelIndex& index) const
+void DocDirDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
     QStyleOptionViewItem opt = option;
     initStyleOption(&opt, index);
@@ -34,8 +33,8 @@ void DocDirDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option
         arrow.state = opt.state;
         arrow.rect = QRect(rect.left(), rect.center().y() - kArrow / 2, kArrow, kArrow);
         const bool open = indent < line.size() && line[indent] == u'+';
-        style->drawPrimitive(open ? QStyle::PE_IndicatorArrowDown : QStyle::PE_IndicatorArrowRight,
-                             &arrow, painter, opt.widget);
+        style->drawPrimitive(open ? QStyle::PE_IndicatorArrowDown : QStyle::PE_IndicatorArrowRight, &arrow, painter,
+                             opt.widget);
     }
     rect.setLeft(rect.left() + kArrow + kGap);
     const QIcon folder = style->standardIcon(QStyle::SP_DirIcon, nullptr, opt.widget);
@@ -43,8 +42,7 @@ void DocDirDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option
     rect.setLeft(rect.left() + kIcon + kGap);
 
     const QString name = root ? line : line.mid(indent + 2);
-    const QPalette::ColorRole role =
-        opt.state & QStyle::State_Selected ? QPalette::HighlightedText : QPalette::Text;
+    const QPalette::ColorRole role = opt.state & QStyle::State_Selected ? QPalette::HighlightedText : QPalette::Text;
     painter->save();
     painter->setPen(opt.palette.color(role));
     painter->setFont(opt.font);

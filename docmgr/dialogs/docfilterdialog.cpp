@@ -24,7 +24,10 @@
 #include "docmgr/ui/waitcursor.h"
 
 namespace {
-QString Text(uint16_t local) { return DialogText(DLG_FILTER, local); }
+QString Text(uint16_t local)
+{
+    return DialogText(DLG_FILTER, local);
+}
 
 // The positions of the condition and link lists are the codes they store.
 constexpr FilterLink kLinks[] = {FilterLink::End, FilterLink::And, FilterLink::Or};
@@ -38,12 +41,13 @@ Entry EntryFor(uint16_t field, std::optional<FilterCondition> condition)
     if (condition == FilterCondition::Wildcard)
         return VALUE_ENTRY;
     switch (field) {
-    case COL_CREATED_DATE: case COL_MODIFIED_DATE: case COL_PRINTED_DATE:
-        return DATE_ENTRY;
-    case COL_CREATED_TIME: case COL_MODIFIED_TIME: case COL_PRINTED_TIME:
-        return TIME_ENTRY;
-    default:
-        return field >= COL_DIRECTORY && field != NO_COLUMN ? TIME_ENTRY : VALUE_ENTRY;
+    case COL_CREATED_DATE:
+    case COL_MODIFIED_DATE:
+    case COL_PRINTED_DATE: return DATE_ENTRY;
+    case COL_CREATED_TIME:
+    case COL_MODIFIED_TIME:
+    case COL_PRINTED_TIME: return TIME_ENTRY;
+    default: return field >= COL_DIRECTORY && field != NO_COLUMN ? TIME_ENTRY : VALUE_ENTRY;
     }
 }
 
@@ -115,8 +119,7 @@ struct DocFilterDialog::Impl {
     }
 };
 
-void DocFilterDialog::Impl::ConditionRow::Build(QWidget* frame, int r, const DocGroupConfig& group,
-                                               int entryWidth)
+void DocFilterDialog::Impl::ConditionRow::Build(QWidget* frame, int r, const DocGroupConfig& group, int entryWidth)
 {
     const QString n = QString::number(r);
     field = new QComboBox(frame);
@@ -316,7 +319,8 @@ void DocFilterDialog::OKHdl()
             g.filterDate[r] = Date(unsigned(date.day()), unsigned(date.month()), unsigned(date.year())).GetDate();
         const QTime time = row.time->time();
         if (time != row.shownTime)
-            g.filterTime[r] = uint32_t(Time(unsigned(time.hour()), unsigned(time.minute()), unsigned(time.second())).GetTime());
+            g.filterTime[r] =
+                uint32_t(Time(unsigned(time.hour()), unsigned(time.minute()), unsigned(time.second())).GetTime());
     }
     for (size_t l = 0; l < d->links.size(); ++l)
         if (d->links[l]->currentIndex() != d->shownLinks[l])

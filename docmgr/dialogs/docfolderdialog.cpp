@@ -13,13 +13,9 @@
 #include "docmgr/tools/fsutil.h"
 
 DocFolderDialog::DocFolderDialog(QWidget* parent, const std::string& base)
-    : QDialog(parent),
-      nameLabel_(new QLabel(DialogText(DLG_NEW_FOLDER, NEW_FOLDER_NAME_LABEL))),
-      nameEdit_(new QLineEdit),
-      frame_(new QGroupBox),
-      okButton_(new QPushButton(DialogText(DLG_NEW_FOLDER, CTL_OK))),
-      cancelButton_(new QPushButton(DialogText(DLG_NEW_FOLDER, CTL_CANCEL))),
-      base_(base)
+    : QDialog(parent), nameLabel_(new QLabel(DialogText(DLG_NEW_FOLDER, NEW_FOLDER_NAME_LABEL))),
+      nameEdit_(new QLineEdit), frame_(new QGroupBox), okButton_(new QPushButton(DialogText(DLG_NEW_FOLDER, CTL_OK))),
+      cancelButton_(new QPushButton(DialogText(DLG_NEW_FOLDER, CTL_CANCEL))), base_(base)
 {
     setWindowTitle(DialogText(DLG_NEW_FOLDER) + QStringLiteral(" [") + QString::fromStdString(base_) +
                    QStringLiteral("]"));
@@ -62,8 +58,7 @@ void DocFolderDialog::OKHdl()
     // A name that climbs out of the base or starts at the root is refused like a folder
     // that cannot be made.
     if (const int error = docfileops::MakeFolder(base_, name))
-        DocInfoBox(this, JoinedMessage(STR_FOLDER_FAILED, base_ + name, STR_FOLDER_FAILED_END),
-                   DocErrorText(error));
+        DocInfoBox(this, JoinedMessage(STR_FOLDER_FAILED, base_ + name, STR_FOLDER_FAILED_END), DocErrorText(error));
     done(1);
 }
 

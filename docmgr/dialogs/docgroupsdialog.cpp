@@ -25,8 +25,14 @@
 #include "docmgr/dialogs/groupnames.h"
 
 namespace {
-QString Q(const std::string& text) { return QString::fromStdString(text); }
-QString Text(uint16_t local) { return DialogText(DLG_GROUPS, local); }
+QString Q(const std::string& text)
+{
+    return QString::fromStdString(text);
+}
+QString Text(uint16_t local)
+{
+    return DialogText(DLG_GROUPS, local);
+}
 using groupnames::WithoutBlanks;
 }  // namespace
 
@@ -35,8 +41,8 @@ DocGroupsDialog::DocGroupsDialog(QWidget* parent, ImplDocConfig* config, const Q
 {
     BuildControls();
     LayOutControls();
-    attached_ = {newButton_, changeButton_, deleteButton_, nameLabel_, sectionLabel_,
-                 nameEdit_, sectionBox_, editFrame_};
+    attached_ = {newButton_,    changeButton_, deleteButton_, nameLabel_,
+                 sectionLabel_, nameEdit_,     sectionBox_,   editFrame_};
     ConnectHandlers();
 
     FillSections();
@@ -46,8 +52,8 @@ DocGroupsDialog::DocGroupsDialog(QWidget* parent, ImplDocConfig* config, const Q
     SelectHdl();
     MoreHdl(false);
 
-    SetTabChain({groupList_, okButton_, cancelButton_, settingsButton_, moreButton_, nameEdit_,
-                 sectionBox_, newButton_, changeButton_, deleteButton_});
+    SetTabChain({groupList_, okButton_, cancelButton_, settingsButton_, moreButton_, nameEdit_, sectionBox_, newButton_,
+                 changeButton_, deleteButton_});
     groupList_->setFocus();
 }
 
@@ -201,7 +207,10 @@ bool DocGroupsDialog::IsProtected(const QString& name) const
     return name == DocResString(STR_FIRST_GROUP);
 }
 
-QString DocGroupsDialog::MainGroupName() const { return mainGroupName_; }
+QString DocGroupsDialog::MainGroupName() const
+{
+    return mainGroupName_;
+}
 
 void DocGroupsDialog::SelectHdl()
 {
@@ -220,9 +229,8 @@ void DocGroupsDialog::SelectHdl()
             okButton_->setEnabled(true);
             settingsButton_->setEnabled(true);
             nameEdit_->setText(name);
-            sectionBox_->setEditText(editedGroup_ < config_->GroupCount()
-                                         ? Q(config_->Group(editedGroup_).section)
-                                         : QString());
+            sectionBox_->setEditText(editedGroup_ < config_->GroupCount() ? Q(config_->Group(editedGroup_).section)
+                                                                          : QString());
             deleteButton_->setEnabled(!IsProtected(name));
         }
     }
@@ -375,7 +383,10 @@ void DocGroupsDialog::CancelHdl()
     done(0);
 }
 
-void DocGroupsDialog::reject() { CancelHdl(); }
+void DocGroupsDialog::reject()
+{
+    CancelHdl();
+}
 
 void DocGroupsDialog::MoreHdl(bool expanded)
 {

@@ -23,9 +23,9 @@ public:
     DocGroupsDialog(QWidget* parent, ImplDocConfig* config, const QString& mainGroupName);
     ~DocGroupsDialog() override;
 
-    void SelectHdl();   // group list selection
-    void ModifyHdl();   // name or section text typed: change only for a usable, free name
-    void ChangeHdl();   // renames and/or moves the edited group to another section
+    void SelectHdl();  // group list selection
+    void ModifyHdl();  // name or section text typed: change only for a usable, free name
+    void ChangeHdl();  // renames and/or moves the edited group to another section
     void NewHdl();
     void DeleteHdl();
     void SettingsHdl(unsigned short item);  // a GroupSettingsItem

@@ -18,8 +18,14 @@
 #include "docmgr/ui/waitcursor.h"
 
 namespace {
-QString Q(const std::string& text) { return QString::fromStdString(text); }
-QString Text(uint16_t local) { return DialogText(DLG_PATHS, local); }
+QString Q(const std::string& text)
+{
+    return QString::fromStdString(text);
+}
+QString Text(uint16_t local)
+{
+    return DialogText(DLG_PATHS, local);
+}
 }  // namespace
 
 DocPathsDialog::DocPathsDialog(QWidget* parent, ImplDocConfig* config, unsigned short group)
@@ -51,8 +57,8 @@ DocPathsDialog::DocPathsDialog(QWidget* parent, ImplDocConfig* config, unsigned 
     PathsHdl();
     DirectoriesHdl();
 
-    SetTabChain({dirTree_, addButton_, removeButton_, removeAllButton_, pathList_, includeBox_,
-                 okButton_, cancelButton_});
+    SetTabChain(
+        {dirTree_, addButton_, removeButton_, removeAllButton_, pathList_, includeBox_, okButton_, cancelButton_});
     dirTree_->setFocus();
 }
 

@@ -72,7 +72,10 @@ DocRenameDialog::DocRenameDialog(QWidget* parent, const std::string& document)
 
 DocRenameDialog::~DocRenameDialog() = default;
 
-unsigned DocRenameDialog::GetRenameCount() const { return d->renameCount; }
+unsigned DocRenameDialog::GetRenameCount() const
+{
+    return d->renameCount;
+}
 
 void DocRenameDialog::ModifyHdl()
 {
@@ -86,9 +89,7 @@ void DocRenameDialog::OKHdl()
         // A name with a separator would move the file elsewhere; it is refused like a
         // rename that fails.
         if (const int error = docfileops::RenameTo(d->document, newName.toStdString()))
-            DocInfoBox(this,
-                       JoinedMessage(STR_RENAME_FAILED, fsutil::FileName(d->document),
-                                     STR_RENAME_FAILED_END),
+            DocInfoBox(this, JoinedMessage(STR_RENAME_FAILED, fsutil::FileName(d->document), STR_RENAME_FAILED_END),
                        DocErrorText(error));
         else {
             ++d->renameCount;

@@ -19,8 +19,14 @@ constexpr int kEntries = 20;
 bool rememberedAscending = true;
 }  // namespace
 
-bool DocSortDialog::RememberedAscending() { return rememberedAscending; }
-void DocSortDialog::SetRememberedAscending(bool ascending) { rememberedAscending = ascending; }
+bool DocSortDialog::RememberedAscending()
+{
+    return rememberedAscending;
+}
+void DocSortDialog::SetRememberedAscending(bool ascending)
+{
+    rememberedAscending = ascending;
+}
 
 DocSortDialog::DocSortDialog(QWidget* parent, ImplDocConfig* config, unsigned short group)
     : QDialog(parent), config_(config), group_(group)

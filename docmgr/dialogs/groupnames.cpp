@@ -18,8 +18,7 @@ QString NewName(const QString& stem, const Taken& taken)
     }
 }
 
-bool CanChange(const QString& typedName, const QString& typedSection, const QString& selected,
-               const Taken& taken)
+bool CanChange(const QString& typedName, const QString& typedSection, const QString& selected, const Taken& taken)
 {
     const QString name = WithoutBlanks(typedName);
     return !name.isEmpty() && !WithoutBlanks(typedSection).isEmpty() && (!taken(name) || name == selected);

@@ -17,7 +17,6 @@ QString NewName(const QString& stem, const Taken& taken);
 
 // Whether the typed name and section can be applied to the group `selected`: neither is
 // empty without blanks, and the name is not another group's.
-bool CanChange(const QString& typedName, const QString& typedSection, const QString& selected,
-               const Taken& taken);
+bool CanChange(const QString& typedName, const QString& typedSection, const QString& selected, const Taken& taken);
 
 }  // namespace groupnames

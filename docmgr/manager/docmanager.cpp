@@ -20,8 +20,7 @@ namespace {
 constexpr const char* FALLBACK_CONFIG = "dmgdump.cfg";
 }  // namespace
 
-DocManager::DocManager(QWidget* parent, const std::string& name, const std::string& startPaths,
-                       bool openMode)
+DocManager::DocManager(QWidget* parent, const std::string& name, const std::string& startPaths, bool openMode)
     : DocManager(parent, static_cast<Config*>(nullptr), startPaths, openMode)
 {
     d->configName = name;
@@ -48,10 +47,22 @@ DocManager::~DocManager()
     d->browser = nullptr;
 }
 
-void DocManager::SetDirFileName(const std::string& name) { d->dirFileName = name; }
-const std::string& DocManager::GetDirFileName() const { return d->dirFileName; }
-void DocManager::SetDefExtensions(const std::string& extensions) { d->defExtensions = extensions; }
-const std::string& DocManager::GetDefExtensions() const { return d->defExtensions; }
+void DocManager::SetDirFileName(const std::string& name)
+{
+    d->dirFileName = name;
+}
+const std::string& DocManager::GetDirFileName() const
+{
+    return d->dirFileName;
+}
+void DocManager::SetDefExtensions(const std::string& extensions)
+{
+    d->defExtensions = extensions;
+}
+const std::string& DocManager::GetDefExtensions() const
+{
+    return d->defExtensions;
+}
 
 short DocManager::Execute()
 {
@@ -62,8 +73,14 @@ short DocManager::Execute()
     return static_cast<short>(exec());
 }
 
-const std::string* DocManager::GetFirstDoc() { return d->browser ? d->browser->GetFirstDoc() : nullptr; }
-const std::string* DocManager::GetNextDoc() { return d->browser ? d->browser->GetNextDoc() : nullptr; }
+const std::string* DocManager::GetFirstDoc()
+{
+    return d->browser ? d->browser->GetFirstDoc() : nullptr;
+}
+const std::string* DocManager::GetNextDoc()
+{
+    return d->browser ? d->browser->GetNextDoc() : nullptr;
+}
 
 bool DocManager::IsReadOnly() const
 {
@@ -80,7 +97,8 @@ std::array<std::string, 4> DocManager::GetInfoLabels() const
     return d->settings ? d->settings->WorkingGroup().infoLabel : std::array<std::string, 4>();
 }
 
-void DocManager::ReadAhead(const std::vector<std::string>& /*files*/) {}
+void DocManager::ReadAhead(const std::vector<std::string>& /*files*/)
+{}
 
 void DocManager::reject()
 {
@@ -97,8 +115,8 @@ void DocManagerImpl::Init()
     QWidget* host = manager.parentWidget();
     // Read before a first group may be made: that writes the groups, not "GENERAL".
     const bool hadGeneral = config->HasGroup("GENERAL");
-    settings = std::make_unique<ImplDocConfig>(
-        config, defExtensions, [host](const std::string& message) { DocInfoBox(host, message); });
+    settings = std::make_unique<ImplDocConfig>(config, defExtensions,
+                                               [host](const std::string& message) { DocInfoBox(host, message); });
     // A file whose groups were written without the general section (a first group made by
     // "docmanager --export-config") has no group in force; its first group is meant, or
     // the window would open with an empty group list.

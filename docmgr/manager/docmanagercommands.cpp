@@ -39,7 +39,7 @@ void DocManagerImpl::WatchControls()
     enable(CMD_DELETE, selected > 0 && (access & ACCESS_FILEDELETE));
     enable(CMD_COPY, selected > 0 && (access & ACCESS_FILECOPY));
     enable(CMD_PRINTDOCS, selected > 0 && openMode && (access & ACCESS_FILEPRINT) && manager.IsAvailable());
-    enable(CMD_PRINTLIST, true);  // printing the list needs no right
+    enable(CMD_PRINTLIST, true);   // printing the list needs no right
     enable(CMD_EXPORTLIST, true);  // nor does exporting it
     enable(CMD_DOCINFO, selected == 1);
     enable(CMD_RENAME, selected == 1 && (access & ACCESS_FILERENAME));
@@ -48,12 +48,8 @@ void DocManagerImpl::WatchControls()
 void DocManagerImpl::Command(unsigned short id)
 {
     switch (id) {
-    case CMD_DELETE:
-        DeleteSelected();
-        break;
-    case CMD_DOCINFO:
-        browser->EditDocInfo();
-        break;
+    case CMD_DELETE: DeleteSelected(); break;
+    case CMD_DOCINFO: browser->EditDocInfo(); break;
     case CMD_COPY: {
         auto dialog = std::make_unique<DocCopyDialog>(&manager, SelectedDocs(*browser));
         if (dialog->exec() == 1 && dialog->GetDoneCount() != 0) {
@@ -71,28 +67,20 @@ void DocManagerImpl::Command(unsigned short id)
         }
         break;
     }
-    case CMD_PRINTDOCS:
-        manager.done(RET_PRINTDOCS);
-        break;
-    case CMD_PRINTLIST:
-        browser->PrintList();
-        break;
-    case CMD_EXPORTLIST:
-        ExportList();
-        break;
-    default:
-        break;
+    case CMD_PRINTDOCS: manager.done(RET_PRINTDOCS); break;
+    case CMD_PRINTLIST: browser->PrintList(); break;
+    case CMD_EXPORTLIST: ExportList(); break;
+    default: break;
     }
 }
 
 void DocManagerImpl::DeleteSelected()
 {
     const std::vector<std::string> docs = SelectedDocs(*browser);
-    const QString question =
-        docs.size() == 1
-            ? QString::fromStdString(ResText(ResKind::QueryBox, QUERY_DELETE_ONE))
-                  .arg(QString::fromStdString(fsutil::FileName(docs.front())))
-            : QString::fromStdString(ResText(ResKind::QueryBox, QUERY_DELETE)).arg(docs.size());
+    const QString question = docs.size() == 1
+                                 ? QString::fromStdString(ResText(ResKind::QueryBox, QUERY_DELETE_ONE))
+                                       .arg(QString::fromStdString(fsutil::FileName(docs.front())))
+                                 : QString::fromStdString(ResText(ResKind::QueryBox, QUERY_DELETE)).arg(docs.size());
     // Deleting cannot be undone: Enter keeps the files.
     if (DocQueryBox(&manager, question, RET_NO) != RET_YES)
         return;

@@ -48,9 +48,7 @@ void DocManagerImpl::ExportList()
         if (id >= 1 && id <= COLUMN_COUNT)
             columns.push_back(id);
     }
-    const std::string text =
-        FormatCsvList(browser->GetRowList().Rows(), columns, settings->WorkingGroup());
+    const std::string text = FormatCsvList(browser->GetRowList().Rows(), columns, settings->WorkingGroup());
     if (const int error = WriteFile(path, text))
-        DocInfoBox(&manager, JoinedMessage(STR_EXPORT_FAILED, path, STR_EXPORT_FAILED_END),
-                   DocErrorText(error));
+        DocInfoBox(&manager, JoinedMessage(STR_EXPORT_FAILED, path, STR_EXPORT_FAILED_END), DocErrorText(error));
 }

@@ -108,8 +108,8 @@ void DocManagerImpl::QuerySave()
 {
     if (!changed)
         return;
-    const std::string question = ResString(STR_SAVE_QUESTION) + settings->WorkingGroup().groupName +
-                                 ResString(STR_SAVE_QUESTION_END);
+    const std::string question =
+        ResString(STR_SAVE_QUESTION) + settings->WorkingGroup().groupName + ResString(STR_SAVE_QUESTION_END);
     if (DocQueryBox(&manager, question) == RET_YES) {
         settings->SetGroupByExample(settings->CurrentPosition());
         settings->SaveConfig();

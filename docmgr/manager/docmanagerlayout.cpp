@@ -195,12 +195,10 @@ void DocManagerImpl::ConnectHandlers()
 {
     // The dialog is each connection's context, so none outlives it.
     auto onChange = [this](QListWidget* list, void (DocManagerImpl::*handler)()) {
-        QObject::connect(list, &QListWidget::currentRowChanged, &manager,
-                         [this, handler] { (this->*handler)(); });
+        QObject::connect(list, &QListWidget::currentRowChanged, &manager, [this, handler] { (this->*handler)(); });
     };
     auto onClick = [this](QAbstractButton* button, void (DocManagerImpl::*handler)()) {
-        QObject::connect(button, &QAbstractButton::clicked, &manager,
-                         [this, handler] { (this->*handler)(); });
+        QObject::connect(button, &QAbstractButton::clicked, &manager, [this, handler] { (this->*handler)(); });
     };
     QObject::connect(commandMenu, &QMenu::triggered, &manager, [this](QAction* item) { CommandsHdl(item); });
     onChange(sectionList, &DocManagerImpl::SectionHdl);

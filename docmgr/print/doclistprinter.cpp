@@ -15,8 +15,7 @@ uint16_t Characters(const std::string& text)
 }
 }  // namespace
 
-DocListPrinter::DocListPrinter(const DocBrowser& browser, QPrinter& printer)
-    : browser_(browser), printer_(printer)
+DocListPrinter::DocListPrinter(const DocBrowser& browser, QPrinter& printer) : browser_(browser), printer_(printer)
 {
     // The table starts at the top left corner of the printable area; no margin beyond it.
     printer_.setFullPage(false);

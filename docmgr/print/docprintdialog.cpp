@@ -18,10 +18,7 @@
 #include "docmgr/view/docbrowser.h"
 
 struct DocPrintDialog::Impl {
-    explicit Impl(DocBrowser& list)
-        : browser(list), printer(QPrinter::HighResolution), listPrinter(list, printer)
-    {
-    }
+    explicit Impl(DocBrowser& list) : browser(list), printer(QPrinter::HighResolution), listPrinter(list, printer) {}
 
     DocBrowser& browser;
     QLabel* columnLabel = new QLabel(DialogText(DLG_PRINT, PRINT_COLUMNS_LABEL));
@@ -113,15 +110,27 @@ void DocPrintDialog::LayOutControls()
     layout->addLayout(buttons);
 }
 
-QPrinter* DocPrintDialog::GetPrinter() const { return &d->printer; }
-QFont DocPrintDialog::GetPrintFont() const { return d->listPrinter.GetFont(); }
+QPrinter* DocPrintDialog::GetPrinter() const
+{
+    return &d->printer;
+}
+QFont DocPrintDialog::GetPrintFont() const
+{
+    return d->listPrinter.GetFont();
+}
 void DocPrintDialog::SetPrintFont(const QFont& font)
 {
     d->listPrinter.SetFont(font);
     ShowFit();
 }
-bool DocPrintDialog::StartJob(const QString& name) { return d->listPrinter.StartJob(name); }
-void DocPrintDialog::EndJob() { d->listPrinter.EndJob(); }
+bool DocPrintDialog::StartJob(const QString& name)
+{
+    return d->listPrinter.StartJob(name);
+}
+void DocPrintDialog::EndJob()
+{
+    d->listPrinter.EndJob();
+}
 
 bool DocPrintDialog::PrintPage(unsigned short page) const
 {

@@ -22,11 +22,8 @@ QString PrinterName(const QPrinter& printer)
 }  // namespace
 
 DocPrintingDlg::DocPrintingDlg(QWidget* parent, QPrinter* printer)
-    : QDialog(parent),
-      printer_(printer),
-      messageLabel_(new QLabel(DialogText(DLG_PRINTING, PRINTING_MESSAGE))),
-      printerLabel_(new QLabel),
-      cancelButton_(new QPushButton(DialogText(DLG_PRINTING, CTL_CANCEL))),
+    : QDialog(parent), printer_(printer), messageLabel_(new QLabel(DialogText(DLG_PRINTING, PRINTING_MESSAGE))),
+      printerLabel_(new QLabel), cancelButton_(new QPushButton(DialogText(DLG_PRINTING, CTL_CANCEL))),
       timer_(new QTimer(this))
 {
     setWindowTitle(DialogText(DLG_PRINTING));

@@ -10,17 +10,25 @@ namespace {
 
 const char* const NOT_SET = "---";
 
-std::string DateText(const Date& date) { return intl::FormatDate(date); }
-std::string TimeText(const Time& time, const Date& date) { return intl::FormatTime(time, date); }
+std::string DateText(const Date& date)
+{
+    return intl::FormatDate(date);
+}
+std::string TimeText(const Time& time, const Date& date)
+{
+    return intl::FormatTime(time, date);
+}
 
 // What the texts of a stamp show, as numbers: equal keys are equal texts. An unset date
 // shows nothing, and a time shows neither its hundredths nor anything when its date is unset.
-uint32_t DateKey(const Date& date) { return date.IsUnset() ? 0 : date.GetDate(); }
+uint32_t DateKey(const Date& date)
+{
+    return date.IsUnset() ? 0 : date.GetDate();
+}
 int32_t TimeKey(const Time& time, const Date& date)
 {
     return date.IsUnset() ? -1
-                          : int32_t((time.GetHour() % 24) * 10000 + (time.GetMin() % 60) * 100 +
-                                    time.GetSec() % 60);
+                          : int32_t((time.GetHour() % 24) * 10000 + (time.GetMin() % 60) * 100 + time.GetSec() % 60);
 }
 
 }  // namespace

@@ -10,8 +10,8 @@
 constexpr uint32_t NO_DOC_INFO = 0xFFFFFFFF;
 
 struct DocInfo {
-    std::string entry;       // absolute path of the file
-    uint32_t size = 0;       // bytes, from the file system; NO_DOC_INFO: not a document
+    std::string entry;  // absolute path of the file
+    uint32_t size = 0;  // bytes, from the file system; NO_DOC_INFO: not a document
     std::string title;
     std::string topic;
     Date createdDate;

@@ -20,8 +20,7 @@ CollectObserver& NoObserver()
 
 DocRowList::DocRowList(DocSource& source, CollectObserver* observer)
     : source_(source), observer_(observer ? *observer : NoObserver())
-{
-}
+{}
 
 DocRowList::~DocRowList() = default;
 
@@ -47,9 +46,7 @@ void DocRowList::ApplyFilter()
 {
     if (!config_)
         return;
-    std::erase_if(rows_, [this](const std::unique_ptr<DocInfo>& row) {
-        return !Matches(*row, *config_);
-    });
+    std::erase_if(rows_, [this](const std::unique_ptr<DocInfo>& row) { return !Matches(*row, *config_); });
 }
 
 void DocRowList::SortFiles()

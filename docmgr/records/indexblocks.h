@@ -12,8 +12,7 @@ public:
     // The whole records that lie between the byte offsets `first` and `end` of `stream`.
     IndexBlocks(KxFileStream& stream, uint64_t first, uint64_t end)
         : stream_(stream), first_(first), end_(end), block_(new char[BLOCK_RECORDS * DocRecord::SIZE])
-    {
-    }
+    {}
 
     // Calls fn(offset, bytes) for each whole record in file order; a record the file no
     // longer holds ends the walk. `fn` may move the stream's position.

@@ -225,8 +225,7 @@ void DocRowList::ReadIndex(DirPass& pass)
         return;
     }
     switch (OpenIndex(pass)) {
-    case IndexOpening::Opened:
-        break;
+    case IndexOpening::Opened: break;
     case IndexOpening::Missing:
         ProbeAll(pass);
         pass.rewriteNeeded = true;
@@ -236,9 +235,7 @@ void DocRowList::ReadIndex(DirPass& pass)
         pass.mayWrite = false;
         ProbeAll(pass);
         return;
-    case IndexOpening::Failed:
-        pass.unusable = true;
-        return;
+    case IndexOpening::Failed: pass.unusable = true; return;
     }
     // The file that was opened, whatever its name holds by now.
     if (!pass.stream.Status(pass.indexSize, pass.indexMtimeNs)) {

@@ -38,13 +38,13 @@ struct DocRowList::DirVisit {
 struct DocRowList::DirPass {
     explicit DirPass(const std::string& absDir) : dir(absDir), audience(absDir) {}
 
-    std::string dir;                  // absolute
+    std::string dir;  // absolute
     FolderAudience audience;
     std::string indexName;
     std::string indexPath;
     std::vector<fsutil::DirItem> files;
-    size_t dirEntries = 0;            // every entry of the directory, to bound the index
-    int64_t listedAtNs = 0;           // taken before the directory was listed
+    size_t dirEntries = 0;   // every entry of the directory, to bound the index
+    int64_t listedAtNs = 0;  // taken before the directory was listed
     std::vector<bool> consumed;
     // Files that some reader of the folder may not read: they never get a record, which
     // would tell those readers what the file does not.
@@ -81,8 +81,7 @@ struct DocRowList::DirPass {
         const std::string& name = files[i].name;
         return name.compare(0, indexName.size(), indexName) == 0 &&
                (name.size() == indexName.size() ||
-                name.compare(indexName.size(), replacefile::TEMP_INFIX.size(),
-                             replacefile::TEMP_INFIX) == 0);
+                name.compare(indexName.size(), replacefile::TEMP_INFIX.size(), replacefile::TEMP_INFIX) == 0);
     }
     bool InPlaceUpdates() const { return !rewriteNeeded && !reprobeAll && mayWrite; }
     // A record made now would be current until the document changes.
@@ -91,4 +90,3 @@ struct DocRowList::DirPass {
         return item.mtimeNs < indexMtimeNs && item.ctimeNs < indexMtimeNs;
     }
 };
-

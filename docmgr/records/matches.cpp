@@ -50,8 +50,7 @@ public:
             return true;
         const std::string patterns = Cased(group_.filterKeywords);
         const std::string keywords = Cased(info.keywords);
-        return wildcard::MatchList(patterns, keywords, ';') ||
-               wildcard::MatchList(patterns, keywords, ',');
+        return wildcard::MatchList(patterns, keywords, ';') || wildcard::MatchList(patterns, keywords, ',');
     }
 
     // Result of row r, or `previous` for a condition code that sets none.
@@ -67,8 +66,7 @@ public:
         switch (KindOfColumn(field)) {
         case FieldKind::Name:
         case FieldKind::Text: {
-            const std::string text =
-                Cased(field == COL_NAME ? fsutil::FileName(info.entry) : TextField(info, field));
+            const std::string text = Cased(field == COL_NAME ? fsutil::FileName(info.entry) : TextField(info, field));
             const std::string other = Cased(value);
             if (wild)
                 return wildcard::Match(other, text);
@@ -136,8 +134,7 @@ bool Matches(const DocInfo& info, const ImplDocConfig& config)
 {
     const DocGroupConfig& group = config.WorkingGroup();
     const FilterTest test(group);
-    if (!test.SimpleFilter(group.filterTitle, info.title) ||
-        !test.SimpleFilter(group.filterTopic, info.topic) ||
+    if (!test.SimpleFilter(group.filterTitle, info.title) || !test.SimpleFilter(group.filterTopic, info.topic) ||
         !test.SimpleFilter(group.filterAuthor, info.author) || !test.KeywordFilter(info))
         return false;
     if (group.filterField[0] == NO_COLUMN)
@@ -147,7 +144,6 @@ bool Matches(const DocInfo& info, const ImplDocConfig& config)
 
 bool FilterInForce(const DocGroupConfig& group)
 {
-    return !group.filterTitle.empty() || !group.filterTopic.empty() ||
-           !group.filterAuthor.empty() || !group.filterKeywords.empty() ||
-           group.filterField[0] != NO_COLUMN;
+    return !group.filterTitle.empty() || !group.filterTopic.empty() || !group.filterAuthor.empty() ||
+           !group.filterKeywords.empty() || group.filterField[0] != NO_COLUMN;
 }

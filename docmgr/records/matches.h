@@ -38,7 +38,6 @@ constexpr FilterLink LinkOf(int32_t code)
     return code == 0 ? FilterLink::End : code == 1 ? FilterLink::And : FilterLink::Or;
 }
 
-
 bool Matches(const DocInfo& info, const ImplDocConfig& config);
 // The filter is in force: a text filter is set or the first condition row is used.
 bool FilterInForce(const DocGroupConfig& group);

@@ -30,7 +30,7 @@ std::string Trim(std::string_view text)
 // A line of a section, kept as it was read (line end included) so that a save gives
 // back every line it does not change byte for byte.
 struct Config::Line {
-    std::string key;        // empty for comments, blank and unknown lines
+    std::string key;  // empty for comments, blank and unknown lines
     std::string raw;
     size_t valueStart = 0;  // the value of an entry: raw[valueStart, valueEnd)
     size_t valueEnd = 0;

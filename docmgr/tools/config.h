@@ -52,7 +52,7 @@ private:
 
     std::string path_;
     std::string group_;
-    std::vector<std::unique_ptr<Section>> sections_;  // index 0: lines before the first header
+    std::vector<std::unique_ptr<Section>> sections_;        // index 0: lines before the first header
     std::unordered_map<std::string, size_t> sectionIndex_;  // name -> first section of it
     std::string eol_ = "\n";
     bool blank_ = true;

@@ -11,6 +11,5 @@ Date Date::Today()
 Time Time::Now()
 {
     const QTime now = QTime::currentTime();
-    return Time(unsigned(now.hour()), unsigned(now.minute()), unsigned(now.second()),
-                unsigned(now.msec() / 10));
+    return Time(unsigned(now.hour()), unsigned(now.minute()), unsigned(now.second()), unsigned(now.msec() / 10));
 }

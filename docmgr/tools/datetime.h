@@ -11,7 +11,8 @@ public:
     Date() = default;
     explicit Date(uint32_t number) : number_(number) {}
     Date(unsigned day, unsigned month, unsigned year)
-        : number_((year % 10000) * 10000 + (month % 100) * 100 + day % 100) {}
+        : number_((year % 10000) * 10000 + (month % 100) * 100 + day % 100)
+    {}
 
     static Date Today();
 
@@ -33,7 +34,8 @@ public:
     Time() = default;
     explicit Time(int32_t number) : number_(number) {}
     Time(unsigned hours, unsigned minutes, unsigned seconds = 0, unsigned hundredths = 0)
-        : number_(int32_t(hours * 1000000 + minutes * 10000 + seconds * 100 + hundredths)) {}
+        : number_(int32_t(hours * 1000000 + minutes * 10000 + seconds * 100 + hundredths))
+    {}
 
     static Time Now();
 

@@ -59,8 +59,8 @@ int MakeFolder(const std::string& base, const std::string& name)
 
 bool IsPlainName(const std::string& name)
 {
-    return !name.empty() && name != "." && name != ".." &&
-           name.find('/') == std::string::npos && name.find('\0') == std::string::npos;
+    return !name.empty() && name != "." && name != ".." && name.find('/') == std::string::npos &&
+           name.find('\0') == std::string::npos;
 }
 
 int RenameTo(const std::string& path, const std::string& newName)

@@ -95,16 +95,16 @@ bool KxFileStream::Truncate(uint64_t size)
 
 bool KxFileStream::SetModified(int64_t mtimeNs)
 {
-    const struct timespec times[2] = {{0, UTIME_OMIT},
-                                      {time_t(mtimeNs / 1000000000), long(mtimeNs % 1000000000)}};
+    const struct timespec times[2] = {{0, UTIME_OMIT}, {time_t(mtimeNs / 1000000000), long(mtimeNs % 1000000000)}};
     return fd_ >= 0 && futimens(fd_, times) == 0;
 }
 
 bool KxFileStream::IsFileAt(const std::string& path) const
 {
-    struct stat open {}, named {};
-    return fd_ >= 0 && fstat(fd_, &open) == 0 && lstat(path.c_str(), &named) == 0 &&
-           open.st_dev == named.st_dev && open.st_ino == named.st_ino;
+    struct stat open {
+    }, named{};
+    return fd_ >= 0 && fstat(fd_, &open) == 0 && lstat(path.c_str(), &named) == 0 && open.st_dev == named.st_dev &&
+           open.st_ino == named.st_ino;
 }
 
 bool KxFileStream::LockExclusive(int waitMs)
@@ -131,8 +131,7 @@ bool KxFileStream::LockExclusive(int waitMs)
         // writers at all; refusing would leave its indexes never written.
         if (errno == ENOLCK || errno == EINVAL || errno == EOPNOTSUPP)
             return true;
-        if ((errno != EAGAIN && errno != EACCES && errno != EINTR) ||
-            std::chrono::steady_clock::now() >= deadline)
+        if ((errno != EAGAIN && errno != EACCES && errno != EINTR) || std::chrono::steady_clock::now() >= deadline)
             return false;
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
     }

@@ -12,9 +12,7 @@ FolderAudience::FolderAudience(const std::string& dir)
     mode_ = uint32_t(st.st_mode);
     uid_ = uint32_t(st.st_uid);
     gid_ = uint32_t(st.st_gid);
-    readers_ = (mode_ & S_IROTH) ? Reader::Everybody
-             : (mode_ & S_IRGRP) ? Reader::Group
-                                 : Reader::Owner;
+    readers_ = (mode_ & S_IROTH) ? Reader::Everybody : (mode_ & S_IRGRP) ? Reader::Group : Reader::Owner;
 }
 
 bool FolderAudience::Grants(uint32_t mode, uint32_t uid, uint32_t gid, uint32_t bit) const
@@ -22,10 +20,8 @@ bool FolderAudience::Grants(uint32_t mode, uint32_t uid, uint32_t gid, uint32_t 
     const bool others = mode & bit;
     const bool group = mode & (bit << 3);
     switch (readers_) {
-    case Reader::Everybody:
-        return others;
-    case Reader::Group:
-        return others || (group && gid == gid_);
+    case Reader::Everybody: return others;
+    case Reader::Group: return others || (group && gid == gid_);
     case Reader::Owner:
         if (uid_ == 0)
             return true;  // the administrator reads everything anyway
@@ -39,8 +35,7 @@ bool FolderAudience::Grants(uint32_t mode, uint32_t uid, uint32_t gid, uint32_t 
 // Every folder from the root down to the one holding `target` must let the readers pass.
 bool FolderAudience::MayReachThrough(const std::string& target) const
 {
-    for (size_t slash = target.find('/', 1); slash != std::string::npos;
-         slash = target.find('/', slash + 1)) {
+    for (size_t slash = target.find('/', 1); slash != std::string::npos; slash = target.find('/', slash + 1)) {
         struct stat st {};
         if (stat(target.substr(0, slash).c_str(), &st) != 0 ||
             !Grants(uint32_t(st.st_mode), uint32_t(st.st_uid), uint32_t(st.st_gid), 1))
@@ -55,8 +50,7 @@ bool FolderAudience::MayRead(const std::string& dir, const fsutil::DirItem& item
         return false;
     if (!item.isLink)
         return true;
-    const std::unique_ptr<char, decltype(&free)> target(
-        realpath(fsutil::Join(dir, item.name).c_str(), nullptr), &free);
+    const std::unique_ptr<char, decltype(&free)> target(realpath(fsutil::Join(dir, item.name).c_str(), nullptr), &free);
     return target && MayReachThrough(target.get());
 }
 

@@ -36,8 +36,7 @@ bool IsLinkEntry(int dirFd, const dirent& entry)
 
 }  // namespace
 
-std::vector<DirItem> List(const std::string& dir, std::string_view pattern, Kind kind,
-                          ListStatus* status)
+std::vector<DirItem> List(const std::string& dir, std::string_view pattern, Kind kind, ListStatus* status)
 {
     std::vector<DirItem> items;
     ListStatus seen;
@@ -64,9 +63,8 @@ std::vector<DirItem> List(const std::string& dir, std::string_view pattern, Kind
         const bool isDir = S_ISDIR(st.st_mode);
         if (kind == Kind::Dirs ? !isDir : !S_ISREG(st.st_mode))
             continue;
-        items.push_back({std::string(name), uint64_t(st.st_size), MtimeNs(st), CtimeNs(st),
-                         uint32_t(st.st_mode), uint32_t(st.st_uid), uint32_t(st.st_gid),
-                         IsLinkEntry(dirFd, *entry)});
+        items.push_back({std::string(name), uint64_t(st.st_size), MtimeNs(st), CtimeNs(st), uint32_t(st.st_mode),
+                         uint32_t(st.st_uid), uint32_t(st.st_gid), IsLinkEntry(dirFd, *entry)});
     }
     closedir(handle);
     if (status)
@@ -177,8 +175,7 @@ std::string Join(const std::string& dir, const std::string& name)
 
 bool CachesFileTimes(const std::string& dir)
 {
-    constexpr unsigned long FUSE = 0x65735546, SMB2 = 0xFE534D42, CIFS = 0xFF534D42, SMB = 0x517B,
-                            NFS = 0x6969;
+    constexpr unsigned long FUSE = 0x65735546, SMB2 = 0xFE534D42, CIFS = 0xFF534D42, SMB = 0x517B, NFS = 0x6969;
     struct statfs fs {};
     if (statfs(dir.c_str(), &fs) != 0)
         return false;

@@ -9,30 +9,29 @@ namespace fsutil {
 
 // One entry of a directory listing.
 struct DirItem {
-    std::string name;      // last component, UTF-8
-    uint64_t size = 0;     // bytes (files only)
-    int64_t mtimeNs = 0;   // modification time, ns since the epoch
-    int64_t ctimeNs = 0;   // status change time: a file moved or copied in with an old
-                           // modification time still shows here when it arrived
-    uint32_t mode = 0;     // of the file a link leads to
+    std::string name;     // last component, UTF-8
+    uint64_t size = 0;    // bytes (files only)
+    int64_t mtimeNs = 0;  // modification time, ns since the epoch
+    int64_t ctimeNs = 0;  // status change time: a file moved or copied in with an old
+                          // modification time still shows here when it arrived
+    uint32_t mode = 0;    // of the file a link leads to
     uint32_t uid = 0;
     uint32_t gid = 0;
-    bool isLink = false;   // the entry itself is a symbolic link
+    bool isLink = false;  // the entry itself is a symbolic link
 };
 
 enum class Kind { Files, Dirs };
 
 // What a listing saw besides its items.
 struct ListStatus {
-    int error = 0;        // errno when the directory could not be opened, else 0
-    size_t entries = 0;   // every entry of the directory, whatever its kind or name
+    int error = 0;       // errno when the directory could not be opened, else 0
+    size_t entries = 0;  // every entry of the directory, whatever its kind or name
 };
 
 // Entries of `dir` of the given kind whose names match `pattern` (";"-separated
 // alternatives, case-insensitive), in the order the file system gives them.
 // An unreadable or missing directory yields an empty list (and `status->error`).
-std::vector<DirItem> List(const std::string& dir, std::string_view pattern, Kind kind,
-                          ListStatus* status = nullptr);
+std::vector<DirItem> List(const std::string& dir, std::string_view pattern, Kind kind, ListStatus* status = nullptr);
 
 bool IsDirectory(const std::string& path);
 bool IsFile(const std::string& path);

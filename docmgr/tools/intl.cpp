@@ -75,8 +75,7 @@ std::string FormatDate(const Date& date)
 
 std::string FormatTime(const Time& time)
 {
-    return Current()->time.FormatTime(int(time.GetHour() % 24), int(time.GetMin() % 60),
-                                       int(time.GetSec() % 60));
+    return Current()->time.FormatTime(int(time.GetHour() % 24), int(time.GetMin() % 60), int(time.GetSec() % 60));
 }
 
 std::string FormatTime(const Time& time, const Date& date)

@@ -42,8 +42,8 @@ int OpenUnique(const std::string& target, std::string& tempPath)
     static std::atomic<unsigned> counter{0};
     for (int attempt = 0; attempt < 100; ++attempt) {
         const auto tick = std::chrono::steady_clock::now().time_since_epoch().count();
-        tempPath = target + std::string(TEMP_INFIX) + HostTag() + "-" + std::to_string(getpid())
-            + "-" + std::to_string(counter++) + "-" + std::to_string(tick & 0xFFFFF);
+        tempPath = target + std::string(TEMP_INFIX) + HostTag() + "-" + std::to_string(getpid()) + "-" +
+                   std::to_string(counter++) + "-" + std::to_string(tick & 0xFFFFF);
         const int fd = open(tempPath.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
         if (fd >= 0 || errno != EEXIST)
             return fd;
@@ -118,8 +118,7 @@ int DateBack(const std::string& path, int64_t mtimeNs)
 
 bool IsRefusedWhileOpen(int error)
 {
-    return error == EBUSY || error == EEXIST || error == EACCES || error == EPERM ||
-           error == ETXTBSY;
+    return error == EBUSY || error == EEXIST || error == EACCES || error == EPERM || error == ETXTBSY;
 }
 
 int RenameOver(const std::string& temp, const std::string& target, const Options& options)
@@ -254,8 +253,8 @@ bool IsAbandonedTemp(const std::string& dir, const std::string& name, const std:
         return false;
     const bool withHost = found == 3;
     const std::string_view host = withHost ? rest.substr(0, dashes[2]) : std::string_view();
-    const std::string_view pidText = rest.substr(withHost ? dashes[2] + 1 : 0,
-                                                 dashes[1] - (withHost ? dashes[2] + 1 : 0));
+    const std::string_view pidText =
+        rest.substr(withHost ? dashes[2] + 1 : 0, dashes[1] - (withHost ? dashes[2] + 1 : 0));
     if (!withHost || host == HostTag()) {
         long pid = 0;
         for (char c : pidText) {

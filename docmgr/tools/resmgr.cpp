@@ -34,8 +34,7 @@ std::unique_ptr<QTranslator> LoadCatalog(std::span<const QmCatalog> catalogs, co
 
 ResMgr::ResMgr(Language language, std::unique_ptr<QTranslator> translator)
     : language_(std::move(language)), translator_(std::move(translator))
-{
-}
+{}
 
 ResMgr::~ResMgr() = default;
 

@@ -119,17 +119,15 @@ void StampPattern::Parse(const QString& pattern)
                 part.field = Field::Hour24;
 }
 
-void StampPattern::Append(std::string& out, const Part& part, int year, int month, int day,
-                          int hour, int minute, int second) const
+void StampPattern::Append(std::string& out, const Part& part, int year, int month, int day, int hour, int minute,
+                          int second) const
 {
     switch (part.field) {
     case Field::Text: out += part.text; break;
     case Field::Day: AppendNumber(out, day, part.width); break;
     case Field::Month: AppendNumber(out, month, part.width); break;
     case Field::MonthName: out += monthNames_[part.width - 3][month]; break;
-    case Field::DayName:
-        out += dayNames_[part.width - 3][QDate(year, month, day).dayOfWeek()];
-        break;
+    case Field::DayName: out += dayNames_[part.width - 3][QDate(year, month, day).dayOfWeek()]; break;
     case Field::Year2: AppendNumber(out, year % 100, 2); break;
     case Field::Year4: {
         const std::string digits = std::to_string(year);

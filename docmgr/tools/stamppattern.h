@@ -18,14 +18,12 @@ public:
     std::string FormatTime(int hour, int minute, int second) const;
 
 private:
-    enum class Field {
-        Text, Day, DayName, Month, MonthName, Year2, Year4, Hour24, Hour12, Minute, Second, AmPm
-    };
+    enum class Field { Text, Day, DayName, Month, MonthName, Year2, Year4, Hour24, Hour12, Minute, Second, AmPm };
     struct Part {
         Field field;
-        int width;          // 1: no leading zero, 2: two digits; names: 3 short, 4 long
-        std::string text;   // Field::Text
-        bool lower = false; // Field::AmPm in lower case ("ap"), else upper case
+        int width;           // 1: no leading zero, 2: two digits; names: 3 short, 4 long
+        std::string text;    // Field::Text
+        bool lower = false;  // Field::AmPm in lower case ("ap"), else upper case
     };
     // The month and day names of both lengths.
     void ReadNames(const QLocale& locale);
@@ -33,8 +31,8 @@ private:
     void Parse(const QString& pattern);
     // The field a run of `run` letters `c` stands for; none when it stands for no part.
     static std::optional<Field> RunField(QChar c, qsizetype run);
-    void Append(std::string& out, const Part& part, int year, int month, int day, int hour,
-                int minute, int second) const;
+    void Append(std::string& out, const Part& part, int year, int month, int day, int hour, int minute,
+                int second) const;
 
     QLocale locale_;
     QString pattern_;

@@ -5,9 +5,8 @@
 
 void AppendValidUtf8(std::string& out, std::string_view text)
 {
-    const bool plain = std::all_of(text.begin(), text.end(), [](char c) {
-        return c != '\0' && static_cast<unsigned char>(c) < 0x80;
-    });
+    const bool plain =
+        std::all_of(text.begin(), text.end(), [](char c) { return c != '\0' && static_cast<unsigned char>(c) < 0x80; });
     if (plain) {
         out += text;
         return;

@@ -76,8 +76,7 @@ bool MatchListNoCase(std::string_view patterns, std::string_view text, char sepa
     return PatternList(patterns, separator, true).Matches(text);
 }
 
-PatternList::PatternList(std::string_view patterns, char separator, bool ignoreCase)
-    : ignoreCase_(ignoreCase)
+PatternList::PatternList(std::string_view patterns, char separator, bool ignoreCase) : ignoreCase_(ignoreCase)
 {
     const std::string cased = ignoreCase ? textcase::ToUpper(patterns) : std::string(patterns);
     const std::string_view all = cased;
@@ -104,8 +103,7 @@ bool PatternList::Matches(std::string_view text) const
     }
     return std::any_of(patterns_.begin(), patterns_.end(), [&](const std::u32string& pattern) {
         // "*.odt" and its like, most of a list of file patterns: a comparison of the end.
-        if (pattern.size() > 1 && pattern[0] == U'*' &&
-            pattern.find_first_of(U"*?", 1) == std::u32string::npos)
+        if (pattern.size() > 1 && pattern[0] == U'*' && pattern.find_first_of(U"*?", 1) == std::u32string::npos)
             return decoded.size() >= pattern.size() - 1 &&
                    decoded.compare(decoded.size() - (pattern.size() - 1), pattern.size() - 1, pattern, 1) == 0;
         return MatchDecoded(pattern, decoded);

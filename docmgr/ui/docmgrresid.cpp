@@ -1,6 +1,7 @@
 #include "docmgr/ui/docmgrresid.h"
 
-DocMgrResId::DocMgrResId(uint16_t id) : id_(id), resMgr_(GetModuleResMgr()) {}
+DocMgrResId::DocMgrResId(uint16_t id) : id_(id), resMgr_(GetModuleResMgr())
+{}
 
 std::string DocMgrResId::String() const
 {

@@ -11,7 +11,8 @@ int delayMs = 500;
 constexpr int UPDATE_INTERVAL_MS = 100;
 }  // namespace
 
-CollectProgress::CollectProgress(QWidget* parent) : parent_(parent) {}
+CollectProgress::CollectProgress(QWidget* parent) : parent_(parent)
+{}
 
 CollectProgress::~CollectProgress()
 {
@@ -40,8 +41,7 @@ void CollectProgress::Update(size_t dirs, size_t docs)
     if (!dialog_) {
         dialog_ = new QProgressDialog(parent_);
         dialog_->setObjectName("collectProgress");
-        dialog_->setWindowTitle(
-            QString::fromStdString(ResText(ResKind::Dialog, DLG_MANAGER, MANAGER_PROGRESS_TITLE)));
+        dialog_->setWindowTitle(QString::fromStdString(ResText(ResKind::Dialog, DLG_MANAGER, MANAGER_PROGRESS_TITLE)));
         dialog_->setCancelButton(nullptr);  // a collection runs to its end
         dialog_->setRange(0, 0);
         dialog_->setMinimumDuration(0);
@@ -49,9 +49,7 @@ void CollectProgress::Update(size_t dirs, size_t docs)
         dialog_->setMinimumWidth(dialog_->fontMetrics().averageCharWidth() * 45);
         shown_ = true;
     }
-    lastText_ = QString::fromStdString(ResText(ResKind::Dialog, DLG_MANAGER, MANAGER_PROGRESS))
-                    .arg(dirs)
-                    .arg(docs);
+    lastText_ = QString::fromStdString(ResText(ResKind::Dialog, DLG_MANAGER, MANAGER_PROGRESS)).arg(dirs).arg(docs);
     dialog_->setLabelText(lastText_);
     dialog_->show();
     lastUpdate_.start();

@@ -20,10 +20,8 @@ namespace {
 constexpr uint16_t DEFAULT_WIDTH = 0xFFFF;
 }  // namespace
 
-DocBrowser::Impl::Impl(DocBrowser* b, DocListHost& h)
-    : browser(b), host(h), list(h, this), progress(b->parentWidget())
-{
-}
+DocBrowser::Impl::Impl(DocBrowser* b, DocListHost& h) : browser(b), host(h), list(h, this), progress(b->parentWidget())
+{}
 
 void DocBrowser::Impl::CollectProgress(size_t dirs, size_t docs)
 {
@@ -82,8 +80,7 @@ long DocBrowser::Impl::NextSelected(long row) const
     return next;
 }
 
-DocBrowser::DocBrowser(QWidget* parent, DocListHost& host)
-    : QTableView(parent), d(std::make_unique<Impl>(this, host))
+DocBrowser::DocBrowser(QWidget* parent, DocListHost& host) : QTableView(parent), d(std::make_unique<Impl>(this, host))
 {
     setObjectName("browser");
     d->model = new DocListModel(this);
@@ -108,12 +105,10 @@ DocBrowser::DocBrowser(QWidget* parent, DocListHost& host)
         // A double click on a column's edge fits the column like one on its title.
         disconnect(view->horizontalHeader(), &QHeaderView::sectionHandleDoubleClicked, view, nullptr);
         connect(view, &QAbstractItemView::doubleClicked, this, &DocBrowser::RowDoubleClicked);
-        connect(view->horizontalHeader(), &QHeaderView::sectionDoubleClicked, this,
-                &DocBrowser::HeaderDoubleClicked);
+        connect(view->horizontalHeader(), &QHeaderView::sectionDoubleClicked, this, &DocBrowser::HeaderDoubleClicked);
         connect(view->horizontalHeader(), &QHeaderView::sectionHandleDoubleClicked, this,
                 &DocBrowser::HeaderDoubleClicked);
-        connect(view->horizontalHeader(), &QHeaderView::sectionResized, this,
-                &DocBrowser::SectionResized);
+        connect(view->horizontalHeader(), &QHeaderView::sectionResized, this, &DocBrowser::SectionResized);
         view->horizontalHeader()->viewport()->installEventFilter(this);
     }
     connect(d->frozen, &FrozenColumnsView::contextMenuRequested, this,
@@ -143,8 +138,7 @@ int DocBrowser::DefaultColumnWidth(unsigned short columnId) const
     case COL_SIZE: return 8 * x;
     case COL_TITLE: return 15 * x;
     case COL_DIRECTORY: return 20 * x;
-    default:
-        return std::max(50, metrics.horizontalAdvance(QString::fromStdString(GetColumnTitle(columnId))) + 10);
+    default: return std::max(50, metrics.horizontalAdvance(QString::fromStdString(GetColumnTitle(columnId))) + 10);
     }
 }
 
@@ -189,8 +183,7 @@ void DocBrowser::InsertColumns()
             const uint16_t id = group.columnId[p];
             ids.push_back(id);
             titles.push_back(QString::fromStdString(GetColumnTitle(id)));
-            widths.push_back(group.columnWidth[p] == DEFAULT_WIDTH ? DefaultColumnWidth(id)
-                                                                   : group.columnWidth[p]);
+            widths.push_back(group.columnWidth[p] == DEFAULT_WIDTH ? DefaultColumnWidth(id) : group.columnWidth[p]);
         }
     }
     d->model->SetColumns(std::move(ids), std::move(titles));

@@ -12,6 +12,5 @@ public:
     // Space on either side of a cell's text.
     static constexpr int TEXT_MARGIN = 3;
 
-    void paint(QPainter* painter, const QStyleOptionViewItem& option,
-               const QModelIndex& index) const override;
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 };

@@ -3,9 +3,8 @@
 #include "docmgr/tools/resmgr.h"
 
 namespace {
-const char* const kItemNames[] = {"deleteItem", "docInfoItem", "copyItem",
-                                  "renameItem", "printDocsItem", "printListItem",
-                                  "exportListItem"};
+const char* const kItemNames[] = {"deleteItem",    "docInfoItem",   "copyItem",      "renameItem",
+                                  "printDocsItem", "printListItem", "exportListItem"};
 }  // namespace
 
 DocCommandMenu::DocCommandMenu(QWidget* parent) : QMenu(parent)

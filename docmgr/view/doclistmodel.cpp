@@ -5,7 +5,8 @@
 
 #include "docmgr/records/docfields.h"
 
-DocListModel::DocListModel(QObject* parent) : QAbstractTableModel(parent) {}
+DocListModel::DocListModel(QObject* parent) : QAbstractTableModel(parent)
+{}
 
 int DocListModel::rowCount(const QModelIndex& parent) const
 {
@@ -25,13 +26,11 @@ QVariant DocListModel::data(const QModelIndex& index, int role) const
     const uint16_t id = ids_[size_t(index.column())];
     switch (role) {
     case Qt::DisplayRole:
-    case Qt::ToolTipRole:
-        return info ? QString::fromStdString(GetFieldString(*info, id)) : QString();
+    case Qt::ToolTipRole: return info ? QString::fromStdString(GetFieldString(*info, id)) : QString();
     case Qt::TextAlignmentRole:
         return id == COL_SIZE ? QVariant(int(Qt::AlignRight | Qt::AlignVCenter))
                               : QVariant(int(Qt::AlignLeft | Qt::AlignVCenter));
-    default:
-        return {};
+    default: return {};
     }
 }
 

@@ -15,11 +15,9 @@
 
 namespace {
 // The fixed rows' labels are the titles of the columns they show.
-constexpr uint16_t kMeasuredLabels[] = {STR_COL_NAME,          STR_COL_SIZE,
-                                        STR_COL_TITLE,         STR_COL_TOPIC,
-                                        STR_COL_CREATED_DATE,  STR_COL_MODIFIED_DATE,
-                                        STR_COL_PRINTED_DATE,  STR_COL_COMMENT,
-                                        STR_COL_KEYWORDS};
+constexpr uint16_t kMeasuredLabels[] = {STR_COL_NAME,         STR_COL_SIZE,         STR_COL_TITLE,
+                                        STR_COL_TOPIC,        STR_COL_CREATED_DATE, STR_COL_MODIFIED_DATE,
+                                        STR_COL_PRINTED_DATE, STR_COL_COMMENT,      STR_COL_KEYWORDS};
 
 QString Res(uint16_t id)
 {
@@ -45,8 +43,8 @@ public:
     using Places = std::array<Place, 4>;  // by RowKind
 
     RowPainter(QWidget& pane, const Places& places, int margin, uint16_t top, uint16_t lineHeight)
-        : pane_(pane), painter_(&pane), labelFont_(pane.font()), valueFont_(pane.font()),
-          places_(places), margin_(margin), y_(top), lineHeight_(lineHeight)
+        : pane_(pane), painter_(&pane), labelFont_(pane.font()), valueFont_(pane.font()), places_(places),
+          margin_(margin), y_(top), lineHeight_(lineHeight)
     {
         painter_.setPen(Qt::black);
         valueFont_.setWeight(QFont::Normal);
@@ -62,9 +60,8 @@ public:
         painter_.setFont(valueFont_);
         // A long value (a deep path) keeps its start and its end: the middle gives way.
         const int room = std::max(0, pane_.width() - place.valueX - margin_);
-        const QString shown = kind == RowKind::Line
-                                  ? QFontMetrics(valueFont_).elidedText(value, Qt::ElideMiddle, room)
-                                  : value;
+        const QString shown =
+            kind == RowKind::Line ? QFontMetrics(valueFont_).elidedText(value, Qt::ElideMiddle, room) : value;
         painter_.drawText(QPoint(place.valueX, int(y_) + ascent_), shown);
         if (kind == RowKind::Line || kind == RowKind::Author)
             y_ = static_cast<uint16_t>(y_ + lineHeight_);
@@ -84,8 +81,7 @@ private:
 
 // Rows 1 to 19 in order, each showing what the column of its number shows; the four
 // information rows are captioned as the working group names them.
-void DrawRows(RowPainter& rows, const std::string& path, const DocInfo& info,
-              const ImplDocConfig* settings)
+void DrawRows(RowPainter& rows, const std::string& path, const DocInfo& info, const ImplDocConfig* settings)
 {
     const bool printed = !info.NeverPrinted();
     const QString none = QStringLiteral("---");
@@ -152,14 +148,13 @@ void DocSummaryWindow::paintEvent(QPaintEvent* event)
     // Centred in 16-bit arithmetic: in a pane lower than the block the top wraps round
     // and the block lands out of sight, as it always has.
     const uint16_t height = static_cast<uint16_t>(this->height());
-    const uint16_t top =
-        static_cast<uint16_t>(static_cast<uint16_t>(height - LINE_COUNT * charHeight_) / 2);
+    const uint16_t top = static_cast<uint16_t>(static_cast<uint16_t>(height - LINE_COUNT * charHeight_) / 2);
     const std::unique_ptr<DocInfo> info = host_.CreateDocInfo(path);
     if (!info)
         return;
 
-    const int C = charWidth_, L = labelWidth_, D = dateWidth_, T = timeWidth_,
-              TL = timeLabelWidth_, AL = authorLabelWidth_;
+    const int C = charWidth_, L = labelWidth_, D = dateWidth_, T = timeWidth_, TL = timeLabelWidth_,
+              AL = authorLabelWidth_;
     RowPainter::Places places{};
     places[size_t(RowKind::Line)] = places[size_t(RowKind::Date)] = {C, C + L + C};
     places[size_t(RowKind::Time)] = {C + L + 2 * C + D, C + L + 3 * C + D + TL};

@@ -27,10 +27,10 @@ FrozenColumnsView::FrozenColumnsView(QTableView* table) : QTableView(table), tab
     horizontalHeader()->setMinimumSectionSize(0);  // as narrow as the table's columns may be
     hide();
 
-    connect(verticalScrollBar(), &QAbstractSlider::valueChanged,
-            table->verticalScrollBar(), &QAbstractSlider::setValue);
-    connect(table->verticalScrollBar(), &QAbstractSlider::valueChanged,
-            verticalScrollBar(), &QAbstractSlider::setValue);
+    connect(verticalScrollBar(), &QAbstractSlider::valueChanged, table->verticalScrollBar(),
+            &QAbstractSlider::setValue);
+    connect(table->verticalScrollBar(), &QAbstractSlider::valueChanged, verticalScrollBar(),
+            &QAbstractSlider::setValue);
 }
 
 void FrozenColumnsView::SetFrozenCount(int count)

@@ -55,8 +55,7 @@ void Run(FileNameHost& manager, int autoCloseMs)
     const short result = manager.Execute();  // 0 closed, 1 open, RET_PRINTDOCS print
     if (result == 0)
         return;
-    std::cout << (result == RET_PRINTDOCS ? "print:" : "open:")
-              << (manager.IsReadOnly() ? " (read-only)\n" : "\n");
+    std::cout << (result == RET_PRINTDOCS ? "print:" : "open:") << (manager.IsReadOnly() ? " (read-only)\n" : "\n");
     for (const std::string* doc = manager.GetFirstDoc(); doc; doc = manager.GetNextDoc())
         std::cout << *doc << '\n';
 }

@@ -43,18 +43,19 @@ QString ReadOnlyReason(const QString& path)
 QString ProblemNote(ReadProblem problem)
 {
     switch (problem) {
-    case ReadProblem::None:
-        break;
+    case ReadProblem::None: break;
     case ReadProblem::Encrypted:
         return DocPropertiesDialog::tr("The document is encrypted; its information could not be read.");
     case ReadProblem::Damaged:
-        return DocPropertiesDialog::tr("The document is damaged; only part of its information, or none, could be read.");
+        return DocPropertiesDialog::tr(
+            "The document is damaged; only part of its information, or none, could be read.");
     case ReadProblem::NotZip:
-        return DocPropertiesDialog::tr("The file is not a zip package, as documents of its kind are; its information could not be read.");
-    case ReadProblem::NoInformation:
-        return DocPropertiesDialog::tr("The document holds no information yet.");
+        return DocPropertiesDialog::tr(
+            "The file is not a zip package, as documents of its kind are; its information could not be read.");
+    case ReadProblem::NoInformation: return DocPropertiesDialog::tr("The document holds no information yet.");
     case ReadProblem::NoReader:
-        return DocPropertiesDialog::tr("No reader for documents of this kind could be loaded; its information could not be read.");
+        return DocPropertiesDialog::tr(
+            "No reader for documents of this kind could be loaded; its information could not be read.");
     }
     return {};
 }

@@ -14,8 +14,7 @@ class DocPropertiesDialog : public QDialog {
     Q_OBJECT
 public:
     // `captions`: the working group's names of the four information fields.
-    DocPropertiesDialog(QWidget* parent, const std::string& path,
-                        const std::array<std::string, 4>& captions);
+    DocPropertiesDialog(QWidget* parent, const std::string& path, const std::array<std::string, 4>& captions);
 
     // False when the file holds no document information this host can read; the dialog
     // then has nothing to edit.

@@ -27,8 +27,8 @@ bool EnvSet(const char* name)
 void Report(const std::string& message)
 {
     std::cerr << "docmanager: " << message << (message.ends_with('\n') ? "" : "\n");
-    QMessageBox box(QMessageBox::Warning, QStringLiteral("docmanager"),
-                    QString::fromStdString(message).trimmed(), QMessageBox::Ok);
+    QMessageBox box(QMessageBox::Warning, QStringLiteral("docmanager"), QString::fromStdString(message).trimmed(),
+                    QMessageBox::Ok);
     box.setObjectName(QStringLiteral("hostMessageBox"));
     box.exec();
 }

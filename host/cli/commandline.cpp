@@ -87,10 +87,8 @@ bool ParseColumns(const std::string& value, std::vector<uint16_t>& columns, std:
     columns.clear();
     for (const std::string& item : tokens::Split(value, ',')) {
         // Up to 5 digits keeps the number well inside 16 bits before the range check.
-        if (!IsDigits(item) || item.size() > 5 || tokens::ToNumber(item) < 1
-            || tokens::ToNumber(item) > COLUMN_COUNT) {
-            error = "--columns takes column ids from 1 to 20 separated by commas, not \"" + item
-                + "\"";
+        if (!IsDigits(item) || item.size() > 5 || tokens::ToNumber(item) < 1 || tokens::ToNumber(item) > COLUMN_COUNT) {
+            error = "--columns takes column ids from 1 to 20 separated by commas, not \"" + item + "\"";
             return false;
         }
         columns.push_back(uint16_t(tokens::ToNumber(item)));
@@ -118,8 +116,8 @@ std::optional<ListFormat> ParseFormat(const std::string& value)
 // The index lies in every listed directory under this name, so it must be a plain name.
 bool ValidIndexName(const std::string& name)
 {
-    return !name.empty() && name != "." && name != ".." && name.find('/') == std::string::npos
-        && name.find('\0') == std::string::npos;
+    return !name.empty() && name != "." && name != ".." && name.find('/') == std::string::npos &&
+           name.find('\0') == std::string::npos;
 }
 
 // Options that belong to one mode only.

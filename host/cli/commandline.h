@@ -9,14 +9,14 @@ enum class ListFormat { Text, Tsv, Json, Csv };
 
 struct CommandLine {
     RunMode mode = RunMode::Window;
-    std::string configPath;                 // empty: the user's default configuration
-    std::string groupName;                  // --group; empty: the group in force
+    std::string configPath;  // empty: the user's default configuration
+    std::string groupName;   // --group; empty: the group in force
     bool groupGiven = false;
-    std::string indexName;                  // --index-name; empty: the module's default
-    std::vector<uint16_t> columns;          // --columns; empty: the working group's slots
+    std::string indexName;          // --index-name; empty: the module's default
+    std::vector<uint16_t> columns;  // --columns; empty: the working group's slots
     ListFormat format = ListFormat::Text;
-    bool printPaths = false;                // window: print the chosen paths instead of opening
-    std::vector<std::string> startPaths;    // START_PATH arguments in the order given
+    bool printPaths = false;              // window: print the chosen paths instead of opening
+    std::vector<std::string> startPaths;  // START_PATH arguments in the order given
 };
 
 // Parses the arguments after the program name. On a bad argument returns false and sets

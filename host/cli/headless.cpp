@@ -18,8 +18,8 @@
 namespace {
 
 struct HeadlessResult {
-    int status = 0;     // 0 success, 1 failure, 2 bad arguments
-    std::string err;    // messages for standard error
+    int status = 0;   // 0 success, 1 failure, 2 bad arguments
+    std::string err;  // messages for standard error
 };
 
 HeadlessResult Failure(int status, std::string err, const std::string& message)
@@ -66,27 +66,26 @@ class ListingSource : public ReaderDocSource, public CollectObserver {
 public:
     void DirectoryUnreadable(const std::string& dir, int error) override
     {
-        warnings += "docmanager: the directory " + dir + " cannot be read ("
-            + std::strerror(error) + "); skipped\n";
+        warnings += "docmanager: the directory " + dir + " cannot be read (" + std::strerror(error) + "); skipped\n";
     }
     std::string warnings;
 };
 
-HeadlessResult List(const CommandLine& cmd, ImplDocConfig& settings, std::string err,
-                    std::ostream& out, std::ostream& errOut)
+HeadlessResult List(const CommandLine& cmd, ImplDocConfig& settings, std::string err, std::ostream& out,
+                    std::ostream& errOut)
 {
     if (cmd.groupGiven) {
         if (!HasGroup(settings, cmd.groupName))
             return Failure(2, std::move(err),
-                           "there is no group named \"" + cmd.groupName
-                               + "\"; the known groups are " + KnownGroups(settings));
+                           "there is no group named \"" + cmd.groupName + "\"; the known groups are " +
+                               KnownGroups(settings));
         settings.SetCurGroup(cmd.groupName);
     }
     const DocGroupConfig& group = settings.WorkingGroup();
     const std::string pathList = CollectPathList(group, JoinStartPaths(cmd.startPaths));
     if (pathList.empty())
-        err += "docmanager: the group \"" + group.groupName
-            + "\" has no active directory and no START_PATH was given; nothing to list\n";
+        err += "docmanager: the group \"" + group.groupName +
+               "\" has no active directory and no START_PATH was given; nothing to list\n";
     err += MissingDirectories(pathList);
 
     ListingSource source;
@@ -118,8 +117,8 @@ HeadlessResult Run(const CommandLine& cmd, std::ostream& out, std::ostream& errO
     ImplDocConfig settings(config.get(), ResString(STR_DEF_EXTENSIONS),
                            [&err](const std::string& message) { err += message + "\n"; });
     if (!config->GetSaveError().empty())
-        err += "docmanager: the configuration " + config->GetPath()
-            + " could not be saved: " + config->GetSaveError() + "\n";
+        err += "docmanager: the configuration " + config->GetPath() + " could not be saved: " + config->GetSaveError() +
+               "\n";
 
     if (cmd.mode == RunMode::ExportConfig) {
         errOut << err;

@@ -58,8 +58,8 @@ void WriteCsvList(ListSink& sink, const DocRows& rows, const std::vector<uint16_
 // One array of objects in list order with the raw values of every row.
 void WriteJsonList(ListSink& sink, const DocRows& rows);
 
-void WriteList(ListFormat format, ListSink& sink, const DocRows& rows,
-               const std::vector<uint16_t>& columns, const DocGroupConfig& group);
+void WriteList(ListFormat format, ListSink& sink, const DocRows& rows, const std::vector<uint16_t>& columns,
+               const DocGroupConfig& group);
 
 // "YYYY-MM-DDTHH:MM:SS", or empty when the date is unset (or no calendar date).
 std::string IsoStamp(const Date& date, const Time& time);

@@ -118,9 +118,8 @@ std::string IsoStamp(const Date& date, const Time& time)
     if (date.IsUnset() || date.GetMonth() > 12 || date.GetDay() > 31)
         return {};
     char buf[32];
-    std::snprintf(buf, sizeof buf, "%04u-%02u-%02uT%02u:%02u:%02u", date.GetYear(),
-                  date.GetMonth(), date.GetDay(), time.GetHour() % 100, time.GetMin(),
-                  time.GetSec());
+    std::snprintf(buf, sizeof buf, "%04u-%02u-%02uT%02u:%02u:%02u", date.GetYear(), date.GetMonth(), date.GetDay(),
+                  time.GetHour() % 100, time.GetMin(), time.GetSec());
     return buf;
 }
 

@@ -35,8 +35,7 @@ size_t CharCount(std::string_view text)
 // Hands each cell of one line to `emit`: the titles when `info` is null, else the
 // document's texts.
 template <typename Emit>
-void ForEachCell(const DocInfo* info, const std::vector<uint16_t>& columns,
-                 const DocGroupConfig& group, Emit emit)
+void ForEachCell(const DocInfo* info, const std::vector<uint16_t>& columns, const DocGroupConfig& group, Emit emit)
 {
     for (size_t c = 0; c < columns.size(); ++c)
         emit(c, info ? GetFieldString(*info, columns[c]) : GetColumnTitle(columns[c], group));
@@ -121,18 +120,14 @@ void WriteCsvList(ListSink& sink, const DocRows& rows, const std::vector<uint16_
     });
 }
 
-void WriteList(ListFormat format, ListSink& sink, const DocRows& rows,
-               const std::vector<uint16_t>& columns, const DocGroupConfig& group)
+void WriteList(ListFormat format, ListSink& sink, const DocRows& rows, const std::vector<uint16_t>& columns,
+               const DocGroupConfig& group)
 {
     switch (format) {
-    case ListFormat::Tsv:
-        return WriteTsvList(sink, rows, columns, group);
-    case ListFormat::Json:
-        return WriteJsonList(sink, rows);
-    case ListFormat::Csv:
-        return WriteCsvList(sink, rows, columns, group);
-    case ListFormat::Text:
-        break;
+    case ListFormat::Tsv: return WriteTsvList(sink, rows, columns, group);
+    case ListFormat::Json: return WriteJsonList(sink, rows);
+    case ListFormat::Csv: return WriteCsvList(sink, rows, columns, group);
+    case ListFormat::Text: break;
     }
     WriteTextList(sink, rows, columns, group);
 }

@@ -21,10 +21,10 @@ int PrintDocuments(const std::vector<std::string>& paths, std::string& error)
         return 0;
     const std::string command = FindPrintCommand();
     if (command.empty()) {
-        error = QCoreApplication::translate(
-                    "docmanager", "The documents cannot be printed: this system has no print command "
-                                  "(neither lp nor lpr was found). Install a print system such as "
-                                  "CUPS (package cups-client).")
+        error = QCoreApplication::translate("docmanager",
+                                            "The documents cannot be printed: this system has no print command "
+                                            "(neither lp nor lpr was found). Install a print system such as "
+                                            "CUPS (package cups-client).")
                     .toStdString();
         return 1;
     }

@@ -21,16 +21,14 @@ QString NewCopyFolder()
 
 }  // namespace
 
-std::vector<std::string> MakeReadOnlyCopies(const std::vector<std::string>& paths,
-                                            std::string& error)
+std::vector<std::string> MakeReadOnlyCopies(const std::vector<std::string>& paths, std::string& error)
 {
     std::vector<std::string> copies;
     if (paths.empty())
         return copies;
     const QString folder = NewCopyFolder();
     if (folder.isEmpty()) {
-        error = QCoreApplication::translate("docmanager",
-                                            "No folder for read-only copies could be made in %1.")
+        error = QCoreApplication::translate("docmanager", "No folder for read-only copies could be made in %1.")
                     .arg(QDir::tempPath())
                     .toStdString() +
                 "\n";
@@ -53,8 +51,7 @@ std::vector<std::string> MakeReadOnlyCopies(const std::vector<std::string>& path
                      "\n";
             continue;
         }
-        QFile::setPermissions(target, QFile::ReadOwner | QFile::ReadUser | QFile::ReadGroup
-                                          | QFile::ReadOther);
+        QFile::setPermissions(target, QFile::ReadOwner | QFile::ReadUser | QFile::ReadGroup | QFile::ReadOther);
         copies.push_back(target.toStdString());
     }
     return copies;

@@ -6,5 +6,4 @@
 // Copies each document into a new folder under the temporary directory and takes the
 // write permission from the copy. Returns the copies' paths in order; a document that
 // cannot be copied is left out and named in `error`.
-std::vector<std::string> MakeReadOnlyCopies(const std::vector<std::string>& paths,
-                                            std::string& error);
+std::vector<std::string> MakeReadOnlyCopies(const std::vector<std::string>& paths, std::string& error);

@@ -42,8 +42,8 @@ std::unique_ptr<Config> OpenUserConfig(const std::string& path, std::string& err
         return nullptr;
     }
     if (!HoldsDocConfig(*config)) {
-        error = "the configuration " + file
-            + " is not empty but holds no [GENERAL], [GROUPS] or [0] section; it is left as it is";
+        error = "the configuration " + file +
+                " is not empty but holds no [GENERAL], [GROUPS] or [0] section; it is left as it is";
         return nullptr;
     }
     return config;

@@ -42,19 +42,15 @@ int main(int argc, char** argv)
         return 2;
     try {
         switch (cmd.mode) {
-        case RunMode::Help:
-            std::cout << UsageText();
-            return 0;
+        case RunMode::Help: std::cout << UsageText(); return 0;
         case RunMode::List:
-        case RunMode::ExportConfig:
-            return RunHeadlessMode(argc, argv, cmd);
-        case RunMode::Window:
-            break;
+        case RunMode::ExportConfig: return RunHeadlessMode(argc, argv, cmd);
+        case RunMode::Window: break;
         }
         const std::string window = WindowProgram();
         execv(window.c_str(), argv);
-        std::cerr << "docmanager: the window program " << window
-                  << " could not be started: " << std::strerror(errno) << '\n';
+        std::cerr << "docmanager: the window program " << window << " could not be started: " << std::strerror(errno)
+                  << '\n';
         return 1;
     } catch (const std::exception& e) {
         std::cerr << "docmanager: " << e.what() << '\n';

@@ -19,11 +19,12 @@ const PdfOleReaders* LoadModule()
 {
     const std::string path = PdfOleModule();
     void* module = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
-    auto* entry = module ? reinterpret_cast<decltype(&docmgr_pdfole_readers)>(dlsym(module, "docmgr_pdfole_readers"))
-                         : nullptr;
+    auto* entry =
+        module ? reinterpret_cast<decltype(&docmgr_pdfole_readers)>(dlsym(module, "docmgr_pdfole_readers")) : nullptr;
     if (!entry) {
-        std::fprintf(stderr, "docmanager: the PDF and legacy Office readers could not be loaded (%s); "
-                             "such documents are listed without their information\n",
+        std::fprintf(stderr,
+                     "docmanager: the PDF and legacy Office readers could not be loaded (%s); "
+                     "such documents are listed without their information\n",
                      LoadError());
         return nullptr;
     }

@@ -19,8 +19,8 @@ DocFormat FormatByExtension(const std::string& path)
     std::transform(ext.begin(), ext.end(), ext.begin(), [](unsigned char c) { return char(std::tolower(c)); });
     static constexpr std::array<std::string_view, 8> odf = {"odt", "ods", "odp", "odg", "ott", "ots", "otp", "otg"};
     static constexpr std::array<std::string_view, 15> ooxml = {"docx", "docm", "dotx", "dotm", "xlsx",
-                                                              "xlsm", "xltx", "xltm", "pptx", "pptm",
-                                                              "potx", "potm", "ppsx", "ppsm", "xlsb"};
+                                                               "xlsm", "xltx", "xltm", "pptx", "pptm",
+                                                               "potx", "potm", "ppsx", "ppsm", "xlsb"};
     if (std::find(odf.begin(), odf.end(), ext) != odf.end())
         return DocFormat::Odf;
     if (std::find(ooxml.begin(), ooxml.end(), ext) != ooxml.end())
@@ -53,8 +53,8 @@ bool IsFlatOdfHead(std::string_view head)
     if (root == std::string_view::npos || root + 16 >= head.size())
         return false;
     const char after = head[root + 16];
-    return (after == ' ' || after == '\t' || after == '\r' || after == '\n' || after == '>')
-        && head.find(ns::office) != std::string_view::npos;
+    return (after == ' ' || after == '\t' || after == '\r' || after == '\n' || after == '>') &&
+           head.find(ns::office) != std::string_view::npos;
 }
 
 }  // namespace
@@ -89,8 +89,8 @@ DocFormat FormatOfPackage(const ZipArchive& zip)
     if (zip.Has("meta.xml"))
         return DocFormat::Odf;
     std::string mimetype;
-    if (zip.Read("mimetype", 256, mimetype) == ZipRead::Ok
-        && mimetype.rfind("application/vnd.oasis.opendocument.", 0) == 0)
+    if (zip.Read("mimetype", 256, mimetype) == ZipRead::Ok &&
+        mimetype.rfind("application/vnd.oasis.opendocument.", 0) == 0)
         return DocFormat::Odf;
     if (zip.Has(opc::contentTypesPart) || zip.HasPrefix("docProps/"))
         return DocFormat::Ooxml;

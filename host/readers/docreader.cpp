@@ -48,17 +48,14 @@ ReadProblem ReadByName(const DocBytes& doc, DocFormat byName, DocInfo& info)
         // Its root element may stand past the first kilobyte; the parser decides.
         return ReadFlatOdfInfo(doc, info);
     case DocFormat::Odf:
-    case DocFormat::Ooxml:
-        return ReadProblem::NotZip;
-    default:
-        return ReadProblem::Damaged;
+    case DocFormat::Ooxml: return ReadProblem::NotZip;
+    default: return ReadProblem::Damaged;
     }
 }
 
 // Content decides when it is recognisable; the name decides otherwise. The file is
 // opened and read once for all of it.
-ReadProblem ReadByContent(const std::string& path, uint64_t fileSize, DocFormat byName, DocInfo& info,
-                          bool& isDocument)
+ReadProblem ReadByContent(const std::string& path, uint64_t fileSize, DocFormat byName, DocInfo& info, bool& isDocument)
 {
     isDocument = byName != DocFormat::None;
     DocBytes doc;
@@ -70,20 +67,14 @@ ReadProblem ReadByContent(const std::string& path, uint64_t fileSize, DocFormat 
         if (const PdfOleReaders* readers = GetPdfOleReaders())
             return readers->readPdf(doc, fileSize, info);
         return ReadProblem::NoReader;
-    case Signature::Zip:
-        return ReadPackage(doc, byName, info, isDocument);
+    case Signature::Zip: return ReadPackage(doc, byName, info, isDocument);
     case Signature::Cfb:
         if (const PdfOleReaders* readers = GetPdfOleReaders())
             return readers->readOle(doc, byName, info, isDocument);
         return isDocument ? ReadProblem::NoReader : ReadProblem::None;
-    case Signature::Rtf:
-        isDocument = true;
-        return ReadRtfInfo(doc, info);
-    case Signature::FlatOdf:
-        isDocument = true;
-        return ReadFlatOdfInfo(doc, info);
-    case Signature::Other:
-        break;
+    case Signature::Rtf: isDocument = true; return ReadRtfInfo(doc, info);
+    case Signature::FlatOdf: isDocument = true; return ReadFlatOdfInfo(doc, info);
+    case Signature::Other: break;
     }
     return isDocument ? ReadByName(doc, byName, info) : ReadProblem::None;
 }
@@ -92,9 +83,9 @@ ReadProblem ReadByContent(const std::string& path, uint64_t fileSize, DocFormat 
 
 bool HoldsNoInformation(const DocInfo& info)
 {
-    const bool noText = info.title.empty() && info.topic.empty() && info.author.empty() && info.modifiedBy.empty()
-        && info.printedBy.empty() && info.comment.empty() && info.keywords.empty()
-        && std::all_of(info.info.begin(), info.info.end(), [](const std::string& s) { return s.empty(); });
+    const bool noText = info.title.empty() && info.topic.empty() && info.author.empty() && info.modifiedBy.empty() &&
+                        info.printedBy.empty() && info.comment.empty() && info.keywords.empty() &&
+                        std::all_of(info.info.begin(), info.info.end(), [](const std::string& s) { return s.empty(); });
     return noText && info.createdDate.IsUnset() && info.modifiedDate.IsUnset() && info.printedDate.IsUnset();
 }
 

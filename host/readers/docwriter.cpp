@@ -32,8 +32,8 @@ bool CreateBeside(replacefile::SiblingFile& temp, const std::string& path, std::
         return true;
     const std::string dir = fsutil::DirName(path);
     error = failed == EACCES || failed == EPERM || failed == EROFS
-        ? "The folder " + dir + " is read-only."
-        : "Cannot create a file in " + dir + ": " + std::strerror(failed);
+                ? "The folder " + dir + " is read-only."
+                : "Cannot create a file in " + dir + ": " + std::strerror(failed);
     return false;
 }
 
@@ -117,17 +117,13 @@ bool WriteDocMeta(const std::string& path, const DocMeta& meta, std::string& err
         }
         const DocFormat byName = FormatByExtension(path);
         switch (ReadSignature(path)) {
-        case Signature::Pdf:
-            return WritePdf(path, meta, error);
-        case Signature::Zip:
-            return WritePackage(path, byName, meta, error);
+        case Signature::Pdf: return WritePdf(path, meta, error);
+        case Signature::Zip: return WritePackage(path, byName, meta, error);
         case Signature::Cfb:
             error = byName == DocFormat::Ooxml ? writeerrors::encrypted : writeerrors::readOnlyKind;
             return false;
         case Signature::Rtf:
-        case Signature::FlatOdf:
-            error = writeerrors::readOnlyKind;
-            return false;
+        case Signature::FlatOdf: error = writeerrors::readOnlyKind; return false;
         case Signature::Other:
             if (byName != DocFormat::None && !IsWritableFormat(byName)) {
                 error = writeerrors::readOnlyKind;
@@ -136,8 +132,8 @@ bool WriteDocMeta(const std::string& path, const DocMeta& meta, std::string& err
             break;
         }
         error = byName == DocFormat::None ? writeerrors::unsupported
-                                          : std::string(writeerrors::damaged) + ": it is not a readable "
-                                              + (byName == DocFormat::Pdf ? "PDF file." : "package.");
+                                          : std::string(writeerrors::damaged) + ": it is not a readable " +
+                                                (byName == DocFormat::Pdf ? "PDF file." : "package.");
     } catch (const std::exception& e) {
         error = std::string("Cannot change the document information: ") + e.what();
     }
@@ -149,16 +145,13 @@ bool IsEditableKind(const std::string& path)
     try {
         switch (ReadSignature(path)) {
         case Signature::Pdf:
-        case Signature::Zip:
-            return true;
+        case Signature::Zip: return true;
         case Signature::Cfb:
             // Office's encrypted OOXML: editable once the password is removed.
             return FormatByExtension(path) == DocFormat::Ooxml;
         case Signature::Rtf:
-        case Signature::FlatOdf:
-            return false;
-        case Signature::Other:
-            break;
+        case Signature::FlatOdf: return false;
+        case Signature::Other: break;
         }
         const DocFormat byName = FormatByExtension(path);
         return byName == DocFormat::None || IsWritableFormat(byName);

@@ -41,6 +41,5 @@ bool ReadDocBytes(const std::string& path, uint64_t fileSize, DocBytes& doc)
 {
     doc.path = path;
     // A file that grew since it was seen is not whole: its readers take the path.
-    return ReadFileHead(path, fileSize <= kWholeReadLimit ? kWholeReadLimit : kSignatureBytes, doc.bytes,
-                        doc.whole);
+    return ReadFileHead(path, fileSize <= kWholeReadLimit ? kWholeReadLimit : kSignatureBytes, doc.bytes, doc.whole);
 }

@@ -9,7 +9,8 @@ class ZipArchive;
 
 // Texts of the failures the user sees.
 namespace writeerrors {
-inline constexpr const char* encrypted = "The document is encrypted (password-protected); its information cannot be changed.";
+inline constexpr const char* encrypted =
+    "The document is encrypted (password-protected); its information cannot be changed.";
 inline constexpr const char* damaged = "The document is damaged";
 inline constexpr const char* unsupported = "The information of this kind of file cannot be changed.";
 inline constexpr const char* readOnlyKind =

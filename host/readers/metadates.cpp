@@ -40,7 +40,8 @@ std::string_view Trim(std::string_view s)
 {
     while (!s.empty() && (s.front() == ' ' || s.front() == '\t' || s.front() == '\r' || s.front() == '\n'))
         s.remove_prefix(1);
-    while (!s.empty() && (s.back() == ' ' || s.back() == '\t' || s.back() == '\r' || s.back() == '\n' || s.back() == '\0'))
+    while (!s.empty() &&
+           (s.back() == ' ' || s.back() == '\t' || s.back() == '\r' || s.back() == '\n' || s.back() == '\0'))
         s.remove_suffix(1);
     return s;
 }
@@ -73,8 +74,8 @@ bool ParseIso(std::string_view text, Date& date, Time& time)
     const std::string_view s = Trim(text);
     Fields f;
     size_t pos = 0;
-    if (!Digits(s, pos, 4, f.year) || pos >= s.size() || s[pos++] != '-' || !Digits(s, pos, 2, f.month)
-        || pos >= s.size() || s[pos++] != '-' || !Digits(s, pos, 2, f.day))
+    if (!Digits(s, pos, 4, f.year) || pos >= s.size() || s[pos++] != '-' || !Digits(s, pos, 2, f.month) ||
+        pos >= s.size() || s[pos++] != '-' || !Digits(s, pos, 2, f.day))
         return false;
     if (pos < s.size() && (s[pos] == 'T' || s[pos] == 't' || s[pos] == ' ')) {
         ++pos;

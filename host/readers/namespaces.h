@@ -17,8 +17,7 @@ inline constexpr const char* dcmitype = "http://purl.org/dc/dcmitype/";
 inline constexpr const char* xsi = "http://www.w3.org/2001/XMLSchema-instance";
 inline constexpr const char* custom = "http://schemas.openxmlformats.org/officeDocument/2006/custom-properties";
 inline constexpr const char* vt = "http://schemas.openxmlformats.org/officeDocument/2006/docPropsVTypes";
-inline constexpr const char* extended =
-    "http://schemas.openxmlformats.org/officeDocument/2006/extended-properties";
+inline constexpr const char* extended = "http://schemas.openxmlformats.org/officeDocument/2006/extended-properties";
 inline constexpr const char* contentTypes = "http://schemas.openxmlformats.org/package/2006/content-types";
 inline constexpr const char* relationships = "http://schemas.openxmlformats.org/package/2006/relationships";
 inline constexpr const char* wordml = "http://schemas.openxmlformats.org/wordprocessingml/2006/main";
@@ -42,10 +41,8 @@ inline constexpr const char* extendedRelType =
 inline constexpr const char* documentRelType =
     "http://schemas.openxmlformats.org/officeDocument/2006/relationships/officeDocument";
 inline constexpr const char* coreType = "application/vnd.openxmlformats-package.core-properties+xml";
-inline constexpr const char* customType =
-    "application/vnd.openxmlformats-officedocument.custom-properties+xml";
-inline constexpr const char* extendedType =
-    "application/vnd.openxmlformats-officedocument.extended-properties+xml";
+inline constexpr const char* customType = "application/vnd.openxmlformats-officedocument.custom-properties+xml";
+inline constexpr const char* extendedType = "application/vnd.openxmlformats-officedocument.extended-properties+xml";
 inline constexpr const char* relsType = "application/vnd.openxmlformats-package.relationships+xml";
 // Format id that Office gives every user-defined property.
 inline constexpr const char* customFmtId = "{D5CDD505-2E9C-101B-9397-08002B2CF9AE}";

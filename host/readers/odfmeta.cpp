@@ -97,8 +97,8 @@ void SetUserFields(pugi::xml_document& doc, const InfoFields& fields)
     }
     const std::string element = prefix + ":user-defined";
     for (const auto& [name, value] : fields) {
-        pugi::xml_node field = firstKept ? meta.insert_child_before(element.c_str(), firstKept)
-                                         : meta.append_child(element.c_str());
+        pugi::xml_node field =
+            firstKept ? meta.insert_child_before(element.c_str(), firstKept) : meta.append_child(element.c_str());
         field.append_attribute((prefix + ":name").c_str()) = name.c_str();
         field.append_attribute((prefix + ":value-type").c_str()) = "string";
         xmlutil::SetText(field, value);

@@ -44,15 +44,11 @@ ReadProblem ReadOdfInfo(const ZipArchive& zip, DocInfo& info)
     std::string bytes;
     pugi::xml_document doc;
     switch (zip.Read("meta.xml", kMaxXmlPart, bytes)) {
-    case ZipRead::Ok:
-        break;
-    case ZipRead::Missing:
-        return ReadProblem::None;
-    case ZipRead::Encrypted:
-        return ReadProblem::Encrypted;
+    case ZipRead::Ok: break;
+    case ZipRead::Missing: return ReadProblem::None;
+    case ZipRead::Encrypted: return ReadProblem::Encrypted;
     case ZipRead::TooLarge:
-    case ZipRead::Damaged:
-        return ReadProblem::Damaged;
+    case ZipRead::Damaged: return ReadProblem::Damaged;
     }
     if (!xmlutil::Parse(bytes, doc))
         return ReadProblem::Damaged;

@@ -21,8 +21,8 @@ bool WriteOdfMeta(ZipArchive& zip, const DocMeta& meta, std::string& error)
 {
     std::string bytes;
     pugi::xml_document manifest;
-    const bool hasManifest = zip.Read(kManifest, kMaxXmlPart, bytes) == ZipRead::Ok
-        && xmlutil::Parse(bytes, manifest, true);
+    const bool hasManifest =
+        zip.Read(kManifest, kMaxXmlPart, bytes) == ZipRead::Ok && xmlutil::Parse(bytes, manifest, true);
     if (hasManifest && odfmeta::ManifestEncrypts(manifest, "meta.xml")) {
         error = writeerrors::encrypted;
         return false;
@@ -43,13 +43,9 @@ bool WriteOdfMeta(ZipArchive& zip, const DocMeta& meta, std::string& error)
                 return Damaged(error, zip.Error());
         }
         break;
-    case ZipRead::Encrypted:
-        error = writeerrors::encrypted;
-        return false;
-    case ZipRead::TooLarge:
-        return Damaged(error, "meta.xml is too large.");
-    case ZipRead::Damaged:
-        return Damaged(error, "meta.xml cannot be read.");
+    case ZipRead::Encrypted: error = writeerrors::encrypted; return false;
+    case ZipRead::TooLarge: return Damaged(error, "meta.xml is too large.");
+    case ZipRead::Damaged: return Damaged(error, "meta.xml cannot be read.");
     }
 
     odfmeta::SetField(doc, ns::dc, "title", meta.title);

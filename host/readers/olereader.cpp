@@ -36,7 +36,8 @@ using InputPtr = std::unique_ptr<GsfInput, GObjectUnref>;
 using InfilePtr = std::unique_ptr<GsfInfile, GObjectUnref>;
 using MetaPtr = std::unique_ptr<GsfDocMetaData, GObjectUnref>;
 
-void Quiet(const gchar*, GLogLevelFlags, const gchar*, gpointer) {}
+void Quiet(const gchar*, GLogLevelFlags, const gchar*, gpointer)
+{}
 
 // libgsf once per process; its complaints about broken files are not the user's business.
 void InitGsf()
@@ -65,8 +66,8 @@ bool HasChild(GsfInfile* ole, const char* name)
 std::string Head(GsfInput* input, size_t count)
 {
     std::string bytes(count, '\0');
-    if (!input || gsf_input_size(input) < gsf_off_t(count)
-        || !gsf_input_read(input, count, reinterpret_cast<guint8*>(bytes.data())))
+    if (!input || gsf_input_size(input) < gsf_off_t(count) ||
+        !gsf_input_read(input, count, reinterpret_cast<guint8*>(bytes.data())))
         return {};
     return bytes;
 }
@@ -185,8 +186,8 @@ void ReadUserProperties(GsfInfile* ole, GsfDocMetaData* meta, DocInfo& info)
     gsf_doc_meta_data_foreach(meta, GHFunc(&Collect::Add), &collect);
     std::vector<std::string> names;
     for (const std::string& name : UserPropertyOrder(StreamBytes(ole, kDocumentSummary)))
-        if (std::find(collect.names.begin(), collect.names.end(), name) != collect.names.end()
-            && std::find(names.begin(), names.end(), name) == names.end())
+        if (std::find(collect.names.begin(), collect.names.end(), name) != collect.names.end() &&
+            std::find(names.begin(), names.end(), name) == names.end())
             names.push_back(name);
     for (const std::string& name : collect.names)
         if (std::find(names.begin(), names.end(), name) == names.end())

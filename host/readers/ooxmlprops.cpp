@@ -105,8 +105,8 @@ void SetCustom(pugi::xml_document& doc, const InfoFields& fields)
         n = next;
     }
     for (const auto& [name, text] : fields) {
-        pugi::xml_node p = firstKept ? root.insert_child_before(property.c_str(), firstKept)
-                                     : root.append_child(property.c_str());
+        pugi::xml_node p =
+            firstKept ? root.insert_child_before(property.c_str(), firstKept) : root.append_child(property.c_str());
         p.append_attribute("fmtid") = opc::customFmtId;
         p.append_attribute("pid") = "0";
         p.append_attribute("name") = name.c_str();
@@ -158,8 +158,7 @@ bool RegisterPart(ZipArchive& zip, const std::string& part, const char* contentT
         related = related || std::string_view(relType) == r.attribute("Type").value();
     if (!related) {
         const std::string prefix = xmlutil::DeclaredPrefix(relsRoot, ns::relationships);
-        pugi::xml_node r =
-            relsRoot.append_child(prefix.empty() ? "Relationship" : (prefix + ":Relationship").c_str());
+        pugi::xml_node r = relsRoot.append_child(prefix.empty() ? "Relationship" : (prefix + ":Relationship").c_str());
         r.append_attribute("Id") = freeId.c_str();
         r.append_attribute("Type") = relType;
         r.append_attribute("Target") = part.c_str();

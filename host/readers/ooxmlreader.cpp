@@ -72,9 +72,8 @@ void ReadCustom(pugi::xml_node root, DocInfo& info)
         if (property.type() != pugi::node_element || xmlutil::LocalName(property) != "property")
             continue;
         // The value is the one typed child (vt:lpwstr, vt:i4, vt:filetime, ...).
-        info.info[count++] = xmlutil::Text(property.find_child([](pugi::xml_node n) {
-            return n.type() == pugi::node_element;
-        }));
+        info.info[count++] =
+            xmlutil::Text(property.find_child([](pugi::xml_node n) { return n.type() == pugi::node_element; }));
     }
 }
 

@@ -33,13 +33,9 @@ bool LoadOrCreate(ZipArchive& zip, const std::string& part, pugi::xml_document& 
         if (!ooxmlprops::RegisterPart(zip, part, contentType, relType))
             return Damaged(error, "the package's part lists are missing or not valid.");
         return true;
-    case ZipRead::Encrypted:
-        error = writeerrors::encrypted;
-        return false;
-    case ZipRead::TooLarge:
-        return Damaged(error, part + " is too large.");
-    case ZipRead::Damaged:
-        break;
+    case ZipRead::Encrypted: error = writeerrors::encrypted; return false;
+    case ZipRead::TooLarge: return Damaged(error, part + " is too large.");
+    case ZipRead::Damaged: break;
     }
     return Damaged(error, part + " cannot be read.");
 }
@@ -67,9 +63,8 @@ bool WriteOoxmlMeta(ZipArchive& zip, const DocMeta& meta, std::string& error)
     const InfoFields fields = InfoFieldsOf(meta, custom.document_element() && ooxmlprops::HasCustom(custom));
     if (fields.empty())
         return true;
-    if (!custom.document_element()
-        && !LoadOrCreate(zip, parts.custom, custom, true, ooxmlprops::NewCustom, opc::customType, opc::customRelType,
-                         error))
+    if (!custom.document_element() && !LoadOrCreate(zip, parts.custom, custom, true, ooxmlprops::NewCustom,
+                                                    opc::customType, opc::customRelType, error))
         return false;
     ooxmlprops::SetCustom(custom, fields);
     if (!zip.Put(parts.custom, xmlutil::Save(custom)))

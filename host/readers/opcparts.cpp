@@ -31,8 +31,8 @@ OpcPropertyParts LocatePropertyParts(const ZipArchive& zip)
     if (zip.Read(opc::rootRelsPart, kMaxXmlPart, bytes) != ZipRead::Ok || !xmlutil::Parse(bytes, rels))
         return parts;
     for (pugi::xml_node rel : rels.document_element().children()) {
-        if (xmlutil::LocalName(rel) != "Relationship"
-            || std::string_view(rel.attribute("TargetMode").value()) == "External")
+        if (xmlutil::LocalName(rel) != "Relationship" ||
+            std::string_view(rel.attribute("TargetMode").value()) == "External")
             continue;
         const std::string_view type = rel.attribute("Type").value();
         const std::string target = PartNameOfTarget(rel.attribute("Target").value());
@@ -42,7 +42,8 @@ OpcPropertyParts LocatePropertyParts(const ZipArchive& zip)
         if (!parts.coreListed && EndsWith(type, "/metadata/core-properties")) {
             parts.core = target;
             parts.coreListed = true;
-        } else if (!parts.customListed && (EndsWith(type, "/custom-properties") || EndsWith(type, "/customProperties"))) {
+        } else if (!parts.customListed &&
+                   (EndsWith(type, "/custom-properties") || EndsWith(type, "/customProperties"))) {
             parts.custom = target;
             parts.customListed = true;
         }

@@ -14,8 +14,22 @@ constexpr size_t kMaxField = 64u << 10;  // characters kept of one field
 constexpr size_t kMaxDepth = 4096;       // deeper groups are read as their parent
 
 // What the text of a group belongs to.
-enum class Dest { Body, Info, UserProps, Title, Subject, Author, Keywords, Comment, Operator, Created, Revised,
-                  Printed, StaticVal, Ignored };
+enum class Dest {
+    Body,
+    Info,
+    UserProps,
+    Title,
+    Subject,
+    Author,
+    Keywords,
+    Comment,
+    Operator,
+    Created,
+    Revised,
+    Printed,
+    StaticVal,
+    Ignored
+};
 
 struct Group {
     Dest dest = Dest::Body;
@@ -24,10 +38,10 @@ struct Group {
 };
 
 // Characters 0x80..0x9F of Windows code page 1252, the RTF default.
-constexpr std::array<char16_t, 32> kCp1252High = {
-    0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
+constexpr std::array<char16_t, 32> kCp1252High = {0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                                  0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x8D,   0x017D, 0x8F,
+                                                  0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                                  0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
 
 struct Stamp {
     int year = 0, month = 0, day = 0, hour = 0, minute = 0, second = 0;
@@ -117,7 +131,8 @@ private:
             return pos;
         }
         const size_t start = pos;
-        while (pos < rtf.size() && pos - start < 32 && ((rtf[pos] >= 'a' && rtf[pos] <= 'z') || (rtf[pos] >= 'A' && rtf[pos] <= 'Z')))
+        while (pos < rtf.size() && pos - start < 32 &&
+               ((rtf[pos] >= 'a' && rtf[pos] <= 'z') || (rtf[pos] >= 'A' && rtf[pos] <= 'Z')))
             ++pos;
         const std::string_view word = rtf.substr(start, pos - start);
         bool hasNumber = false, negative = false;
@@ -181,10 +196,15 @@ private:
         } else if (parent == Dest::Body && word == "userprops" && ignorable_) {
             g.dest = Dest::UserProps;
         } else if (parent == Dest::Info) {
-            static constexpr std::array<std::pair<std::string_view, Dest>, 9> fields = {{
-                {"title", Dest::Title}, {"subject", Dest::Subject}, {"author", Dest::Author},
-                {"keywords", Dest::Keywords}, {"doccomm", Dest::Comment}, {"operator", Dest::Operator},
-                {"creatim", Dest::Created}, {"revtim", Dest::Revised}, {"printim", Dest::Printed}}};
+            static constexpr std::array<std::pair<std::string_view, Dest>, 9> fields = {{{"title", Dest::Title},
+                                                                                         {"subject", Dest::Subject},
+                                                                                         {"author", Dest::Author},
+                                                                                         {"keywords", Dest::Keywords},
+                                                                                         {"doccomm", Dest::Comment},
+                                                                                         {"operator", Dest::Operator},
+                                                                                         {"creatim", Dest::Created},
+                                                                                         {"revtim", Dest::Revised},
+                                                                                         {"printim", Dest::Printed}}};
             for (const auto& [name, dest] : fields)
                 if (word == name)
                     g.dest = dest;
@@ -230,12 +250,18 @@ private:
 
     void StampPart(std::string_view word, int number)
     {
-        if (word == "yr") stamp_.year = number;
-        else if (word == "mo") stamp_.month = number;
-        else if (word == "dy") stamp_.day = number;
-        else if (word == "hr") stamp_.hour = number;
-        else if (word == "min") stamp_.minute = number;
-        else if (word == "sec") stamp_.second = number;
+        if (word == "yr")
+            stamp_.year = number;
+        else if (word == "mo")
+            stamp_.month = number;
+        else if (word == "dy")
+            stamp_.day = number;
+        else if (word == "hr")
+            stamp_.hour = number;
+        else if (word == "min")
+            stamp_.minute = number;
+        else if (word == "sec")
+            stamp_.second = number;
     }
 
     void SetStamp(Date& date, Time& time) const
@@ -251,8 +277,9 @@ private:
     bool Collecting() const
     {
         const Dest d = groups_.back().dest;
-        return extraDepth_ == 0 && (d == Dest::Title || d == Dest::Subject || d == Dest::Author || d == Dest::Keywords
-                                    || d == Dest::Comment || d == Dest::Operator || d == Dest::StaticVal);
+        return extraDepth_ == 0 &&
+               (d == Dest::Title || d == Dest::Subject || d == Dest::Author || d == Dest::Keywords ||
+                d == Dest::Comment || d == Dest::Operator || d == Dest::StaticVal);
     }
 
     // A fallback character after \uN is dropped.
@@ -315,9 +342,12 @@ private:
 
     static int Hex(char c)
     {
-        if (c >= '0' && c <= '9') return c - '0';
-        if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-        if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+        if (c >= '0' && c <= '9')
+            return c - '0';
+        if (c >= 'a' && c <= 'f')
+            return c - 'a' + 10;
+        if (c >= 'A' && c <= 'F')
+            return c - 'A' + 10;
         return -1;
     }
 

@@ -9,8 +9,7 @@ bool Parse(const std::string& bytes, pugi::xml_document& doc, bool forEditing)
     unsigned options = pugi::parse_default | pugi::parse_ws_pcdata_single;
     if (forEditing)
         options |= pugi::parse_declaration | pugi::parse_comments | pugi::parse_pi | pugi::parse_doctype;
-    const pugi::xml_parse_result result =
-        doc.load_buffer(bytes.data(), bytes.size(), options, pugi::encoding_auto);
+    const pugi::xml_parse_result result = doc.load_buffer(bytes.data(), bytes.size(), options, pugi::encoding_auto);
     if (!result) {
         doc.reset();
         return false;
@@ -127,8 +126,8 @@ std::string PrefixFor(pugi::xml_node root, const char* uri, const char* preferre
     return prefix;
 }
 
-pugi::xml_node AppendElement(pugi::xml_node parent, pugi::xml_node root, const char* uri,
-                             const char* preferredPrefix, const char* local)
+pugi::xml_node AppendElement(pugi::xml_node parent, pugi::xml_node root, const char* uri, const char* preferredPrefix,
+                             const char* local)
 {
     const std::string prefix = PrefixFor(root, uri, preferredPrefix);
     return parent.append_child((prefix + ":" + local).c_str());

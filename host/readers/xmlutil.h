@@ -36,8 +36,8 @@ std::string DeclaredPrefix(pugi::xml_node root, const char* uri);
 // Prefix bound to `uri` on `root`, declaring `preferred` (or a free variant) if none is.
 std::string PrefixFor(pugi::xml_node root, const char* uri, const char* preferred);
 // Appends an element in namespace `uri`, qualified with the root's prefix for it.
-pugi::xml_node AppendElement(pugi::xml_node parent, pugi::xml_node root, const char* uri,
-                             const char* preferredPrefix, const char* local);
+pugi::xml_node AppendElement(pugi::xml_node parent, pugi::xml_node root, const char* uri, const char* preferredPrefix,
+                             const char* local);
 // Makes `value` the text of the one child element of that kind: the first is kept and
 // set, further ones removed, one appended if there is none. Empty `value` removes all.
 void SetSingleChild(pugi::xml_node parent, pugi::xml_node root, const char* uri, const char* preferredPrefix,

@@ -11,7 +11,7 @@ namespace xmp {
 
 namespace {
 
-constexpr std::array<const Property*, 7> kRead = {&title, &creator, &description, &subject,
+constexpr std::array<const Property*, 7> kRead = {&title,    &creator,    &description, &subject,
                                                   &keywords, &createDate, &modifyDate};
 
 bool Matches(const Property& property, const std::string& uri, std::string_view local)
@@ -154,8 +154,8 @@ void Apply(pugi::xml_node rdf, const Change& change)
         }
         for (pugi::xml_node element = block.first_child(); element;) {
             const pugi::xml_node next = element.next_sibling();
-            if (element.type() == pugi::node_element
-                && Matches(property, xmlutil::NamespaceOf(element), xmlutil::LocalName(element))) {
+            if (element.type() == pugi::node_element &&
+                Matches(property, xmlutil::NamespaceOf(element), xmlutil::LocalName(element))) {
                 if (!done) {
                     FillElement(element, property, change.value);
                     done = true;
@@ -197,8 +197,8 @@ bool Read(const std::string& packet, Fields& fields)
                     field = Trimmed(a.value());
             }
             for (pugi::xml_node element : block.children()) {
-                if (field.empty() && element.type() == pugi::node_element
-                    && Matches(*property, xmlutil::NamespaceOf(element), xmlutil::LocalName(element)))
+                if (field.empty() && element.type() == pugi::node_element &&
+                    Matches(*property, xmlutil::NamespaceOf(element), xmlutil::LocalName(element)))
                     field = ValueOf(element);
             }
         }
@@ -222,10 +222,10 @@ bool Update(std::string& packet, const std::vector<Change>& changes)
 
 std::string NewPacket()
 {
-    return std::string("<?xpacket begin=\"\xEF\xBB\xBF\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?>")
-        + "<x:xmpmeta xmlns:x=\"" + ns::xmpMeta + "\"><rdf:RDF xmlns:rdf=\"" + ns::rdf
-        + "\"><rdf:Description rdf:about=\"\" xmlns:dc=\"" + ns::dc + "\" xmlns:xmp=\"" + ns::xmp
-        + "\" xmlns:pdf=\"" + ns::pdf + "\"/></rdf:RDF></x:xmpmeta><?xpacket end=\"w\"?>";
+    return std::string("<?xpacket begin=\"\xEF\xBB\xBF\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?>") + "<x:xmpmeta xmlns:x=\"" +
+           ns::xmpMeta + "\"><rdf:RDF xmlns:rdf=\"" + ns::rdf + "\"><rdf:Description rdf:about=\"\" xmlns:dc=\"" +
+           ns::dc + "\" xmlns:xmp=\"" + ns::xmp + "\" xmlns:pdf=\"" + ns::pdf +
+           "\"/></rdf:RDF></x:xmpmeta><?xpacket end=\"w\"?>";
 }
 
 }  // namespace xmp

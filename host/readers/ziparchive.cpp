@@ -97,15 +97,14 @@ ZipRead ZipArchive::Read(const std::string& name, size_t cap, std::string& out) 
     if (index < 0)
         return ZipRead::Missing;
     zip_stat_t st;
-    if (zip_stat_index(zip_, zip_uint64_t(index), 0, &st) == 0 && (st.valid & ZIP_STAT_ENCRYPTION_METHOD)
-        && st.encryption_method != ZIP_EM_NONE)
+    if (zip_stat_index(zip_, zip_uint64_t(index), 0, &st) == 0 && (st.valid & ZIP_STAT_ENCRYPTION_METHOD) &&
+        st.encryption_method != ZIP_EM_NONE)
         return ZipRead::Encrypted;
     zip_file_t* file = zip_fopen_index(zip_, zip_uint64_t(index), 0);
     if (!file) {
         const int code = zip_error_code_zip(zip_get_error(zip_));
-        return code == ZIP_ER_NOPASSWD || code == ZIP_ER_WRONGPASSWD || code == ZIP_ER_ENCRNOTSUPP
-            ? ZipRead::Encrypted
-            : ZipRead::Damaged;
+        return code == ZIP_ER_NOPASSWD || code == ZIP_ER_WRONGPASSWD || code == ZIP_ER_ENCRNOTSUPP ? ZipRead::Encrypted
+                                                                                                   : ZipRead::Damaged;
     }
     // Read in chunks and stop at the cap, whatever size the directory claims.
     ZipRead result = ZipRead::Ok;

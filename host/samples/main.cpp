@@ -14,11 +14,10 @@ int Usage(const char* message)
 {
     if (message && *message)
         std::fprintf(stderr, "docmanager-samples: %s\n", message);
-    std::fprintf(stderr,
-                 "Usage: docmanager-samples DIR [COUNT] [--seed N]\n"
-                 "Writes COUNT sample documents (default 24: ODF text, DOCX, PDF with XMP,\n"
-                 "flat ODF text and RTF in turn) and a few files that are not documents into DIR.\n"
-                 "Legacy Office files are not written: their document body is beyond this tool.\n");
+    std::fprintf(stderr, "Usage: docmanager-samples DIR [COUNT] [--seed N]\n"
+                         "Writes COUNT sample documents (default 24: ODF text, DOCX, PDF with XMP,\n"
+                         "flat ODF text and RTF in turn) and a few files that are not documents into DIR.\n"
+                         "Legacy Office files are not written: their document body is beyond this tool.\n");
     return 2;
 }
 

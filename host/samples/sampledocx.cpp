@@ -117,9 +117,9 @@ bool WriteSampleDocx(const std::string& path, const SampleDoc& doc, std::string&
     const bool withCustom = !doc.info.empty();
     ZipArchive zip;
     zip.SetEntryTime(doc.modified.toSecsSinceEpoch());
-    bool ok = zip.Open(path, ZipArchive::Mode::Create) && zip.Put(opc::contentTypesPart, ContentTypes(withCustom))
-        && zip.Put(opc::rootRelsPart, PackageRels(withCustom)) && zip.Put("word/document.xml", Document(doc))
-        && zip.Put("docProps/core.xml", Core(doc)) && zip.Put("docProps/app.xml", App());
+    bool ok = zip.Open(path, ZipArchive::Mode::Create) && zip.Put(opc::contentTypesPart, ContentTypes(withCustom)) &&
+              zip.Put(opc::rootRelsPart, PackageRels(withCustom)) && zip.Put("word/document.xml", Document(doc)) &&
+              zip.Put("docProps/core.xml", Core(doc)) && zip.Put("docProps/app.xml", App());
     if (ok && withCustom)
         ok = zip.Put("docProps/custom.xml", Custom(doc));
     ok = ok && zip.Commit();

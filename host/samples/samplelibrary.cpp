@@ -17,25 +17,28 @@ public:
     explicit Picker(uint32_t seed) : rng_(seed) {}
     uint32_t Below(uint32_t n) { return n == 0 ? 0 : uint32_t(rng_() % n); }
     template <typename T, size_t N>
-    const T& From(const std::array<T, N>& items) { return items[Below(N)]; }
+    const T& From(const std::array<T, N>& items)
+    {
+        return items[Below(N)];
+    }
 
 private:
     std::mt19937 rng_;
 };
 
-constexpr std::array<const char*, 8> kKinds = {"report", "letter", "minutes", "invoice",
+constexpr std::array<const char*, 8> kKinds = {"report", "letter", "minutes",  "invoice",
                                                "memo",   "offer",  "proposal", "summary"};
-constexpr std::array<const char*, 8> kKindTitles = {"Report", "Letter", "Minutes", "Invoice",
+constexpr std::array<const char*, 8> kKindTitles = {"Report", "Letter", "Minutes",  "Invoice",
                                                     "Memo",   "Offer",  "Proposal", "Summary"};
-constexpr std::array<const char*, 10> kSubjects = {"Budget",        "Marketing", "Übersicht",      "Café Expansion",
-                                                   "Roadmap",       "Hiring",    "Quarterly",      "Security Review",
+constexpr std::array<const char*, 10> kSubjects = {"Budget",          "Marketing", "Übersicht", "Café Expansion",
+                                                   "Roadmap",         "Hiring",    "Quarterly", "Security Review",
                                                    "Customer Survey", "Logistics"};
-constexpr std::array<const char*, 8> kTopics = {"Finance",  "Sales",    "Engineering", "Human Resources",
+constexpr std::array<const char*, 8> kTopics = {"Finance",    "Sales",    "Engineering", "Human Resources",
                                                 "Operations", "Research", "Legal",       "Café Business"};
-constexpr std::array<const char*, 8> kAuthors = {"Anna Schmidt", "Zoë Martin",   "José García", "Li Wei",
-                                                 "Olivia Brown", "Jörg Müller",  "Priya Patel", "Tom Baker"};
-constexpr std::array<const char*, 11> kKeywords = {"budget",  "plan",     "review", "draft",  "final",  "customer",
-                                                   "internal", "Übersicht", "2020",  "urgent", "archive"};
+constexpr std::array<const char*, 8> kAuthors = {"Anna Schmidt", "Zoë Martin",  "José García", "Li Wei",
+                                                 "Olivia Brown", "Jörg Müller", "Priya Patel", "Tom Baker"};
+constexpr std::array<const char*, 11> kKeywords = {"budget",   "plan",      "review", "draft",  "final",  "customer",
+                                                   "internal", "Übersicht", "2020",   "urgent", "archive"};
 constexpr std::array<const char*, 5> kComments = {"", "First draft, to be reviewed.", "Sent to the board.",
                                                   "Überarbeitet nach dem Treffen.", "Figures from the café ledger."};
 constexpr std::array<const char*, 4> kInfoNames = {"Project", "Client", "Status", "Reviewer"};
@@ -43,12 +46,9 @@ constexpr std::array<const char*, 5> kProjects = {"Apollo", "Nordlicht", "Crème
 constexpr std::array<const char*, 5> kClients = {"ACME Corp.", "Müller GmbH", "Café Zoë", "Globex", ""};
 constexpr std::array<const char*, 4> kStatuses = {"open", "approved", "in review", "closed"};
 constexpr std::array<const char*, 6> kSentences = {
-    "This document summarises the work of the last quarter.",
-    "The figures below were checked by the finance team.",
-    "Please send comments before the end of the month.",
-    "Die Übersicht enthält alle offenen Punkte.",
-    "The café on the ground floor hosts the next meeting.",
-    "Zoë will prepare the final version."};
+    "This document summarises the work of the last quarter.", "The figures below were checked by the finance team.",
+    "Please send comments before the end of the month.",      "Die Übersicht enthält alle offenen Punkte.",
+    "The café on the ground floor hosts the next meeting.",   "Zoë will prepare the final version."};
 
 QDateTime Stamp(Picker& pick)
 {
@@ -114,8 +114,8 @@ bool WriteOthers(const std::string& dir, Picker& pick, SampleLibraryResult& resu
     // A zip that is neither an ODF nor an OOXML package.
     ZipArchive zip;
     zip.SetEntryTime(1577880000);
-    if (!zip.Open(dir + "/archive.zip", ZipArchive::Mode::Create) || !zip.Put("readme.txt", "Old files.\n")
-        || !zip.Commit()) {
+    if (!zip.Open(dir + "/archive.zip", ZipArchive::Mode::Create) || !zip.Put("readme.txt", "Old files.\n") ||
+        !zip.Commit()) {
         result.error = "Cannot write " + dir + "/archive.zip: " + zip.Error();
         return false;
     }

@@ -37,17 +37,17 @@ std::string Stamp(const char* word, const QDateTime& stamp)
 {
     const QDate d = stamp.date();
     const QTime t = stamp.time();
-    return std::string("{\\") + word + "\\yr" + std::to_string(d.year()) + "\\mo" + std::to_string(d.month())
-        + "\\dy" + std::to_string(d.day()) + "\\hr" + std::to_string(t.hour()) + "\\min"
-        + std::to_string(t.minute()) + "\\sec" + std::to_string(t.second()) + "}";
+    return std::string("{\\") + word + "\\yr" + std::to_string(d.year()) + "\\mo" + std::to_string(d.month()) + "\\dy" +
+           std::to_string(d.day()) + "\\hr" + std::to_string(t.hour()) + "\\min" + std::to_string(t.minute()) +
+           "\\sec" + std::to_string(t.second()) + "}";
 }
 
 std::string Document(const SampleDoc& doc)
 {
     std::string rtf = "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fswiss Helvetica;}}\n{\\info";
-    rtf += Field("title", doc.title) + Field("subject", doc.topic) + Field("author", doc.author)
-        + Field("keywords", JoinedKeywords(doc)) + Field("doccomm", doc.comment) + Field("operator", doc.modifiedBy)
-        + Stamp("creatim", doc.created) + Stamp("revtim", doc.modified);
+    rtf += Field("title", doc.title) + Field("subject", doc.topic) + Field("author", doc.author) +
+           Field("keywords", JoinedKeywords(doc)) + Field("doccomm", doc.comment) + Field("operator", doc.modifiedBy) +
+           Stamp("creatim", doc.created) + Stamp("revtim", doc.modified);
     if (doc.printed)
         rtf += Stamp("printim", *doc.printed);
     rtf += "}\n";

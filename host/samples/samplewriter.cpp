@@ -153,9 +153,9 @@ bool WriteSampleOdt(const std::string& path, const SampleDoc& doc, std::string& 
     ZipArchive zip;
     zip.SetEntryTime(doc.modified.toSecsSinceEpoch());
     // The mimetype entry comes first and stored, so the type shows at a fixed offset.
-    const bool ok = zip.Open(path, ZipArchive::Mode::Create) && zip.Put("mimetype", kOdtMime, false)
-        && zip.Put("META-INF/manifest.xml", Manifest()) && zip.Put("content.xml", Content(doc))
-        && zip.Put("styles.xml", Styles()) && zip.Put("meta.xml", Meta(doc)) && zip.Commit();
+    const bool ok = zip.Open(path, ZipArchive::Mode::Create) && zip.Put("mimetype", kOdtMime, false) &&
+                    zip.Put("META-INF/manifest.xml", Manifest()) && zip.Put("content.xml", Content(doc)) &&
+                    zip.Put("styles.xml", Styles()) && zip.Put("meta.xml", Meta(doc)) && zip.Commit();
     if (!ok)
         error = "Cannot write " + path + ": " + zip.Error();
     return ok;

@@ -55,8 +55,8 @@ TEST_F(SaveTest, RoundTripKeepsGroupsButSavesTheDateAsTime)
         docConfig.SaveConfig();
     }
     const std::string text = FileText();
-    const size_t field = text.find("FILTERFIELD0="), cond = text.find("FILLTERCONDITION0="),
-                 link = text.find("FILTERLINK0="), next = text.find("FILTERFIELD1=");
+    const size_t field = text.find("FILTERFIELD0="), cond = text.find("FILLTERCONDITION0="), link = text.find("FILTERLINK0="),
+                 next = text.find("FILTERFIELD1=");
     EXPECT_TRUE(field < cond && cond < link && link < next);
     EXPECT_EQ(text.find("FILTERLINK2="), std::string::npos);
 
@@ -125,8 +125,7 @@ TEST_F(GroupTest, MissingKeysReadAsEmptyNotAsDefaults)
     EXPECT_EQ(only.Export(), empty.Export());
 
     const DocGroupConfig lower(&config, 1), upper(&config, 2);
-    EXPECT_EQ(std::tuple(lower.filterField[0], lower.filterField[1], lower.filterCondition[2]),
-              std::tuple(1, 65535, -7));
+    EXPECT_EQ(std::tuple(lower.filterField[0], lower.filterField[1], lower.filterCondition[2]), std::tuple(1, 65535, -7));
     // Flags are case-sensitive; the condition key is only known with its double L.
     EXPECT_FALSE(lower.filterSensitive || lower.sortAscending);
     EXPECT_TRUE(upper.filterSensitive && upper.sortAscending);
@@ -156,8 +155,7 @@ TEST(GroupConfig, NewGroupTakesTheLookButNoIdentityFiltersOrPathsAndExportsItsDo
     const std::string columns = "[B65535;C65535;D65535;E65535;F65535;G65535;H65535;I65535;"
                                 "J65535;K65535;L65535;M65535;N65535;O65535;P65535;Q65535;"
                                 "R65535;S65535;T65535;U65535;]";
-    EXPECT_EQ(group.Export(), ";;[][][][][*][F]" + rows + "65535;T;" + columns + "3;" +
-                                  "[Info 0;Info 1;Info 2;Info 3;][][]");
+    EXPECT_EQ(group.Export(), ";;[][][][][*][F]" + rows + "65535;T;" + columns + "3;" + "[Info 0;Info 1;Info 2;Info 3;][][]");
 
     // A column id travels as its low byte plus 65, wrapping at 256; names are not escaped.
     group.groupName = "a;b]";

@@ -20,8 +20,7 @@ std::string GroupsText(unsigned n)
     for (unsigned g = 0; g < n; ++g) {
         const std::string id = std::to_string(g), name = "G" + id;
         groups += id + "=" + name + "\n";
-        sections += "[" + id + "]\nGROUPNAME=" + name + "\nSECTION=S" + id +
-                    "\nFILTERFILES=*." + id + "\n";
+        sections += "[" + id + "]\nGROUPNAME=" + name + "\nSECTION=S" + id + "\nFILTERFILES=*." + id + "\n";
     }
     return groups + sections;
 }
@@ -33,17 +32,15 @@ TEST_F(ManagerConfigTest, EmptyFileMakesAndSavesAFirstGroup)
     std::vector<std::string> messages;
     {
         Config config(Path());
-        ImplDocConfig docConfig(&config, "*.odt",
-                                [&](const std::string& text) { messages.push_back(text); });
+        ImplDocConfig docConfig(&config, "*.odt", [&](const std::string& text) { messages.push_back(text); });
         EXPECT_EQ(docConfig.ElementCount(), 2u);
         EXPECT_FALSE(docConfig.singleView);
         EXPECT_EQ(docConfig.actualGroup, 1u);
-        EXPECT_EQ(docConfig.access, ACCESS_FILECOPY | ACCESS_FILEDELETE | ACCESS_FILEPRINT |
-                                        ACCESS_FILERENAME);
+        EXPECT_EQ(docConfig.access, ACCESS_FILECOPY | ACCESS_FILEDELETE | ACCESS_FILEPRINT | ACCESS_FILERENAME);
         EXPECT_EQ(docConfig.Group(0).section, ResString(STR_DEFAULT_SECTION));
         // The one-line export: header, working group, then the list.
-        EXPECT_EQ(docConfig.Export(), "@DocManager[2.1][F][1][2][" + docConfig.WorkingGroup().Export() +
-                                          "}[" + docConfig.Group(0).Export() + "}!");
+        EXPECT_EQ(docConfig.Export(),
+                  "@DocManager[2.1][F][1][2][" + docConfig.WorkingGroup().Export() + "}[" + docConfig.Group(0).Export() + "}!");
         docConfig.singleView = true;
         docConfig.actualGroup = 0;
         EXPECT_EQ(docConfig.Export().substr(0, 25), "@DocManager[2.1][T][0][2]");
@@ -74,8 +71,11 @@ TEST_F(ManagerConfigTest, GeneralSectionRightsGroupRunAndTheStoredActualGroup)
     EXPECT_EQ(docConfig.WorkingGroup().groupName, "G1");
 
     // The stored actual group: 0 or none keeps the default group, one out of range takes the first.
-    const struct { const char* stored; uint16_t actual; const char* workingFiles; } cases[] = {
-        {"0", 0, "*.pdf"}, {"2", 2, "*.1"}, {"9", 1, "*.0"}, {"", 0, "*.pdf"}};
+    const struct {
+        const char* stored;
+        uint16_t actual;
+        const char* workingFiles;
+    } cases[] = {{"0", 0, "*.pdf"}, {"2", 2, "*.1"}, {"9", 1, "*.0"}, {"", 0, "*.pdf"}};
     for (const auto& c : cases) {
         WriteFile(std::string("[GENERAL]\nACTUALGROUP=") + c.stored + "\n" + GroupsText(3));
         Config stored(Path());
@@ -141,4 +141,3 @@ TEST_F(ManagerConfigTest, GroupListOperationsTheSubdirectoryMarkerAndTheExceptio
     EXPECT_FALSE(bare.IsExceptionPath("/srv/archiv/2020"));
     EXPECT_TRUE(bare.IsExceptionPath(""));
 }
-

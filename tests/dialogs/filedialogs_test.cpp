@@ -83,9 +83,14 @@ TEST_F(FileDialogTest, RenameRefusesTakenNamesAndSeparatorsTheFolderDialogRefuse
     const std::string failed = ResString(STR_RENAME_FAILED) + "report.odt" + ResString(STR_RENAME_FAILED_END);
     // The new name, the renames done, the system's reason given (0: no message), and where
     // the document is afterwards.
-    const struct { const char* newName; unsigned count; int error; const char* result; } rows[] = {
+    const struct {
+        const char* newName;
+        unsigned count;
+        int error;
+        const char* result;
+    } rows[] = {
         {"report.odt", 0, 0, "docs/report.odt"},  // the same name changes nothing
-        {"other.odt", 0, EEXIST, "docs/report.odt"}, {"sub/report.odt", 0, EINVAL, "docs/report.odt"},
+        {"other.odt", 0, EEXIST, "docs/report.odt"},     {"sub/report.odt", 0, EINVAL, "docs/report.odt"},
         {"../report.odt", 0, EINVAL, "docs/report.odt"}, {"..", 0, EINVAL, "docs/report.odt"},
         {"Report.odt", 1, 0, "docs/Report.odt"},
     };
@@ -126,8 +131,7 @@ TEST_F(FileDialogTest, RenameRefusesTakenNamesAndSeparatorsTheFolderDialogRefuse
         DocFolderDialog folder(nullptr, dst);
         In<QLineEdit>(folder, "nameEdit")->setText(QString::fromStdString(refused));
         In<QPushButton>(folder, "okButton")->click();
-        EXPECT_EQ(infos, std::vector<std::string>{ResString(STR_FOLDER_FAILED) + dst + refused +
-                                                  ResString(STR_FOLDER_FAILED_END)});
+        EXPECT_EQ(infos, std::vector<std::string>{ResString(STR_FOLDER_FAILED) + dst + refused + ResString(STR_FOLDER_FAILED_END)});
         EXPECT_TRUE(folder.GetFolder().empty());
     }
     EXPECT_EQ(dir.Read("dst/notes"), "keep");

@@ -56,8 +56,7 @@ TEST_F(DirBoxTest, SiblingsAreSortedWithoutCaseHiddenOnRequestPathsFoundWithoutC
 {
     DocDirBox box(nullptr, &Settings());
     EXPECT_EQ(box.item(0)->text().toStdString(), "/");
-    EXPECT_EQ(Subtree(box, OpenTemp(box, false)),
-              (std::vector<std::string>{Line(1, '-', "A"), Line(1, '-', "b"), Line(1, '-', "c")}));
+    EXPECT_EQ(Subtree(box, OpenTemp(box, false)), (std::vector<std::string>{Line(1, '-', "A"), Line(1, '-', "b"), Line(1, '-', "c")}));
     // A hidden folder that is asked for by its path is shown, and so are the others.
     box.SetShowHidden(false);
     box.SelectDir(tree.PathOf(".hidden"));
@@ -67,8 +66,8 @@ TEST_F(DirBoxTest, SiblingsAreSortedWithoutCaseHiddenOnRequestPathsFoundWithoutC
     box.ReadDirs();
     const int pos = OpenTemp(box);
     EXPECT_EQ(box.item(pos)->text().toStdString(), Line(0, '+', fsutil::FileName(tree.Path())));
-    EXPECT_EQ(Subtree(box, pos), (std::vector<std::string>{Line(1, '-', ".hidden"), Line(1, '-', "A"),
-                                                           Line(1, '-', "b"), Line(1, '-', "c")}));
+    EXPECT_EQ(Subtree(box, pos),
+              (std::vector<std::string>{Line(1, '-', ".hidden"), Line(1, '-', "A"), Line(1, '-', "b"), Line(1, '-', "c")}));
     EXPECT_EQ(box.GetDir(9999), "");
 
     // A path is opened down to without regard to case; a missing element stops at the last
@@ -113,8 +112,7 @@ TEST_F(DirBoxTest, ExceptionPathsAreLeftOutClosingRemovesTheWholeSubtreeVanished
     Settings().SetExceptionPaths(textcase::ToUpper(tree.PathOf("b") + ";" + tree.PathOf("a/DEEP")));
     DocDirBox excepting(nullptr, &Settings());
     const int at = OpenTemp(excepting);
-    EXPECT_EQ(Subtree(excepting, at), (std::vector<std::string>{Line(1, '-', ".hidden"), Line(1, '-', "A"),
-                                                                Line(1, '-', "c")}));
+    EXPECT_EQ(Subtree(excepting, at), (std::vector<std::string>{Line(1, '-', ".hidden"), Line(1, '-', "A"), Line(1, '-', "c")}));
     excepting.ToggleDir(uint16_t(at + 2));
     EXPECT_EQ(Subtree(excepting, at + 2), (std::vector<std::string>{Line(2, '-', "w"), Line(2, '-', "x")}));
 
@@ -128,8 +126,7 @@ TEST_F(DirBoxTest, ExceptionPathsAreLeftOutClosingRemovesTheWholeSubtreeVanished
     const int a = pos + 2;
     box.ToggleDir(uint16_t(a));
     box.ToggleDir(uint16_t(a + 3));  // A/x, after deep and w
-    EXPECT_EQ(Subtree(box, a), (std::vector<std::string>{Line(2, '-', "deep"), Line(2, '-', "w"),
-                                                         Line(2, '+', "x"), Line(3, '-', "y")}));
+    EXPECT_EQ(Subtree(box, a), (std::vector<std::string>{Line(2, '-', "deep"), Line(2, '-', "w"), Line(2, '+', "x"), Line(3, '-', "y")}));
     EXPECT_EQ(box.GetDir(uint16_t(a + 4)), tree.PathOf("A/x/y"));
 
     box.ToggleDir(uint16_t(a));
@@ -148,4 +145,3 @@ TEST_F(DirBoxTest, ExceptionPathsAreLeftOutClosingRemovesTheWholeSubtreeVanished
     EXPECT_EQ(box.count(), count - 4);
     EXPECT_TRUE(Subtree(box, pos).empty());
 }
-

@@ -189,4 +189,3 @@ TEST_F(GroupsDialogTest, CancelSwitchesOnlyWhenTheMainGroupWasTouchedTheMenuWork
     EXPECT_EQ(Settings().actualGroup, 3);
     EXPECT_EQ(Working().groupName, "Beta");
 }
-

@@ -9,7 +9,11 @@
 TEST(PathEntries, HiddenEntriesGoAfterTheShownOnesWithTheFirstHiddenFlag)
 {
     using Strings = std::vector<std::string>;
-    const struct { const char *paths, *guis; Strings shown; const char *storedPaths, *storedGuis; } table[] = {
+    const struct {
+        const char *paths, *guis;
+        Strings shown;
+        const char *storedPaths, *storedGuis;
+    } table[] = {
         {"A;B;C;D;E", "21x1", {"B", "D"}, "B;D;A;C;E", "11222"},  // a missing flag is hidden
         {"A;B", "", {}, "A;B", "00"},
     };
@@ -89,4 +93,3 @@ TEST_F(PathsDialogTest, IncludeBoxTogglesTheMarkerOkStoresTheListBeforeTheHidden
     tree->SelectDir(dir.Path());
     EXPECT_TRUE(add->isEnabled());
 }
-

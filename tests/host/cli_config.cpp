@@ -18,10 +18,12 @@ using CliConfigTest = CliTest;
 TEST_F(CliConfigTest, BadArgumentsExitWithTwoAndTheUsage)
 {
     const std::vector<QStringList> bad = {
-        {"--list", "--format", "xml"},    {"--list", "--columns", "0"},     {"--list", "--columns", "21"},
-        {"--list", "--columns", "3,,4"},  {"--list", "--columns", "title"}, {"--list", "--format"},
-        {"--list", "--export-config"},    {"--list", "--bogus"},            {"--list", "--print-paths"},
-        {"--list", "--index-name", "sub/idx"}, {"--list", "--list=yes"},    {"--group", "Standard"},
+        {"--list", "--format", "xml"},     {"--list", "--columns", "0"},
+        {"--list", "--columns", "21"},     {"--list", "--columns", "3,,4"},
+        {"--list", "--columns", "title"},  {"--list", "--format"},
+        {"--list", "--export-config"},     {"--list", "--bogus"},
+        {"--list", "--print-paths"},       {"--list", "--index-name", "sub/idx"},
+        {"--list", "--list=yes"},          {"--group", "Standard"},
         {"--export-config", "/some/path"}, {"--config="},
     };
     for (const QStringList& args : bad) {
@@ -112,8 +114,8 @@ TEST(HostHandoff, ReadOnlyCopiesKeepTheOriginalsAndPrintingUsesLpElseLpr)
     for (size_t i = 0; i < copies.size(); ++i) {
         EXPECT_TRUE(copies[i].ends_with("/report.odt")) << copies[i];
         EXPECT_EQ(testfs::ReadFile(copies[i]), i == 0 ? "first" : "second");
-        EXPECT_EQ(std::filesystem::status(copies[i]).permissions() & std::filesystem::perms(0222),
-                  std::filesystem::perms::none) << copies[i];
+        EXPECT_EQ(std::filesystem::status(copies[i]).permissions() & std::filesystem::perms(0222), std::filesystem::perms::none)
+            << copies[i];
     }
     EXPECT_NE(std::filesystem::status(a).permissions() & std::filesystem::perms::owner_write, std::filesystem::perms::none);
     // The copies outlive the program on purpose; the test tidies them away.
@@ -122,8 +124,9 @@ TEST(HostHandoff, ReadOnlyCopiesKeepTheOriginalsAndPrintingUsesLpElseLpr)
     // Printing uses lp, else lpr, and says when there is none.
     const std::string bin = dir.MakeDir("bin"), log = dir.PathOf("printed.txt");
     const auto makeCommand = [&](const std::string& name, int status) {
-        chmod(dir.MakeFile("bin/" + name, "#!/bin/sh\necho " + name + " \"$@\" >> " + log + "\nexit "
-                                              + std::to_string(status) + "\n").c_str(), 0755);
+        chmod(dir.MakeFile("bin/" + name, "#!/bin/sh\necho " + name + " \"$@\" >> " + log + "\nexit " + std::to_string(status) + "\n")
+                  .c_str(),
+              0755);
     };
     const std::string savedPath = std::getenv("PATH") ? std::getenv("PATH") : "";
     setenv("PATH", bin.c_str(), 1);

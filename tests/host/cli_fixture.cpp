@@ -16,8 +16,7 @@ std::string BinaryPath(const std::string& name)
     return std::string(dir && *dir ? dir : ".") + "/" + name;
 }
 
-RunResult RunDocmanager(const QStringList& args, const std::string& configHome,
-                        bool unprivileged, const QStringList& extraEnv)
+RunResult RunDocmanager(const QStringList& args, const std::string& configHome, bool unprivileged, const QStringList& extraEnv)
 {
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.remove(QStringLiteral("DISPLAY"));
@@ -51,32 +50,39 @@ RunResult RunDocmanager(const QStringList& args, const std::string& configHome,
 
 std::string ConfigText(const std::vector<GroupSpec>& groups, int actualGroup)
 {
-    std::string text = "[GENERAL]\nVIEWMODE=MULTI\nACTUALGROUP=" + std::to_string(actualGroup)
-        + "\n[GROUPS]\n";
+    std::string text = "[GENERAL]\nVIEWMODE=MULTI\nACTUALGROUP=" + std::to_string(actualGroup) + "\n[GROUPS]\n";
     for (size_t g = 0; g < groups.size(); ++g)
         text += std::to_string(g) + "=" + groups[g].name + "\n";
     for (size_t g = 0; g < groups.size(); ++g) {
         const GroupSpec& group = groups[g];
-        text += "[" + std::to_string(g) + "]\nGROUPNAME=" + group.name + "\nSECTION=" + group.section
-            + "\nFILTERTITLE=" + group.filterTitle + "\nFILTERTOPIC=\nFILTERAUTHOR=\nFILTERKEYWORDS=\nFILTERFILES="
-            + group.filterFiles + "\nFILTERSENSITIVE=FALSE\nFILTERFIELD0=65535\nFILLTERCONDITION0=0\nFILTERLINK0=0\n"
-            + "SORTCOLUMNID=" + std::to_string(group.sortColumn) + "\nSORTORDER=" + (group.ascending ? "UP" : "DOWN") + "\n";
+        text += "[" + std::to_string(g) + "]\nGROUPNAME=" + group.name + "\nSECTION=" + group.section +
+                "\nFILTERTITLE=" + group.filterTitle + "\nFILTERTOPIC=\nFILTERAUTHOR=\nFILTERKEYWORDS=\nFILTERFILES=" + group.filterFiles +
+                "\nFILTERSENSITIVE=FALSE\nFILTERFIELD0=65535\nFILLTERCONDITION0=0\nFILTERLINK0=0\n" +
+                "SORTCOLUMNID=" + std::to_string(group.sortColumn) + "\nSORTORDER=" + (group.ascending ? "UP" : "DOWN") + "\n";
         for (size_t slot = 0; slot < 20; ++slot) {
             const size_t id = slot < group.columns.size() ? group.columns[slot] : group.columns.empty() ? slot + 1 : 0;
-            text += "COLUMNID" + std::to_string(slot) + "=" + std::to_string(id) + "\nCOLUMNWIDTH" + std::to_string(slot)
-                + "=65535\n";
+            text += "COLUMNID" + std::to_string(slot) + "=" + std::to_string(id) + "\nCOLUMNWIDTH" + std::to_string(slot) + "=65535\n";
         }
-        text += "FROZENCOLUMNS=1\nINFO0=Project\nINFO1=Client\nINFO2=Status\nINFO3=Ref\nPATHS=" + group.paths
-            + "\nGUIS=" + group.guis + "\n";
+        text +=
+            "FROZENCOLUMNS=1\nINFO0=Project\nINFO1=Client\nINFO2=Status\nINFO3=Ref\nPATHS=" + group.paths + "\nGUIS=" + group.guis + "\n";
     }
     return text;
 }
 
-std::string CliTest::WriteDoc(const std::string& relative, const std::string& title,
-                              const std::string& author, int day)
+std::string CliTest::WriteDoc(const std::string& relative, const std::string& title, const std::string& author, int day)
 {
-    const SampleDoc doc{title, "", author, author, {}, "", QDateTime(QDate(2021, 3, day), QTime(9, 30, 0)),
-                        QDateTime(QDate(2021, 3, day), QTime(17, 45, 10)), std::nullopt, "", {}, "Some text."};
+    const SampleDoc doc{title,
+                        "",
+                        author,
+                        author,
+                        {},
+                        "",
+                        QDateTime(QDate(2021, 3, day), QTime(9, 30, 0)),
+                        QDateTime(QDate(2021, 3, day), QTime(17, 45, 10)),
+                        std::nullopt,
+                        "",
+                        {},
+                        "Some text."};
     const std::string path = dir.PathOf(relative);
     std::filesystem::create_directories(std::filesystem::path(path).parent_path());
     std::string error;
@@ -87,8 +93,7 @@ std::string CliTest::WriteDoc(const std::string& relative, const std::string& ti
 
 RunResult CliTest::List(const std::string& config, const QStringList& args, const QStringList& env)
 {
-    return RunDocmanager(QStringList{"--list", "--config", QString::fromStdString(config)} + args, ConfigHome(),
-                         false, env);
+    return RunDocmanager(QStringList{"--list", "--config", QString::fromStdString(config)} + args, ConfigHome(), false, env);
 }
 
 }  // namespace clitest

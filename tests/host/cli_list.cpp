@@ -39,7 +39,8 @@ TEST_F(CliListTest, TsvTextAndJsonShowTheSameSortedRows)
     // comma-separated records ended by CR LF.
     const std::pair<const char*, std::string> formats[] = {
         {"tsv", "File name\tTitle\tAuthor\nb.docx\tAlpha memo\tBob Builder\na.odt\tBeta plan\tAnn Author\nc.pdf\tGamma\tZoë Ünal\n"},
-        {"text", "File name Title      Author\nb.docx    Alpha memo Bob Builder\na.odt     Beta plan  Ann Author\nc.pdf     Gamma      Zoë Ünal\n"},
+        {"text",
+         "File name Title      Author\nb.docx    Alpha memo Bob Builder\na.odt     Beta plan  Ann Author\nc.pdf     Gamma      Zoë Ünal\n"},
         {"csv", "File name,Title,Author\r\nb.docx,Alpha memo,Bob Builder\r\na.odt,Beta plan,Ann Author\r\nc.pdf,Gamma,Zoë Ünal\r\n"}};
     for (const auto& [format, out] : formats) {
         const RunResult run = List(config, {"--format", format});
@@ -59,9 +60,13 @@ TEST_F(CliListTest, TsvTextAndJsonShowTheSameSortedRows)
     EXPECT_EQ(first["path"].toString().toStdString(), dir.PathOf("lib/b.docx"));
     EXPECT_EQ(first["directory"].toString().toStdString(), Lib());
     EXPECT_EQ(first["size"].toInteger(), qint64(dir.Size("lib/b.docx")));
-    for (const auto& [key, value] : std::map<QString, QString>{
-             {"name", "b.docx"}, {"title", "Alpha memo"}, {"author", "Bob Builder"}, {"created", "2021-03-02T09:30:00"},
-             {"modified", "2021-03-02T17:45:10"}, {"printed", "2021-03-02T09:30:00"}, {"comment", ""}})
+    for (const auto& [key, value] : std::map<QString, QString>{{"name", "b.docx"},
+                                                               {"title", "Alpha memo"},
+                                                               {"author", "Bob Builder"},
+                                                               {"created", "2021-03-02T09:30:00"},
+                                                               {"modified", "2021-03-02T17:45:10"},
+                                                               {"printed", "2021-03-02T09:30:00"},
+                                                               {"comment", ""}})
         EXPECT_EQ(first[key].toString(), value) << key.toStdString();
     EXPECT_EQ(first["info"].toArray().size(), 4);
     EXPECT_EQ(array[2].toObject()["author"].toString(), QString::fromUtf8("Zoë Ünal"));
@@ -83,8 +88,7 @@ TEST_F(CliListTest, TheIndexIsWrittenOnceThenUsedInsteadOfTheDocuments)
         SCOPED_TRACE(pass);
         const QJsonArray rows = Rows(List(config, {"--format", "json", "--index-name", "my.idx"}));
         ASSERT_EQ(rows.size(), 3);
-        EXPECT_EQ(rows[0].toObject()["title"].toString() + rows[0].toObject()["problem"].toString(),
-                  pass < 2 ? "Alpha" : "not a zip");
+        EXPECT_EQ(rows[0].toObject()["title"].toString() + rows[0].toObject()["problem"].toString(), pass < 2 ? "Alpha" : "not a zip");
         EXPECT_EQ(rows[1].toObject()["problem"].toString() + "|" + rows[2].toObject()["problem"].toString(), "not a zip|encrypted");
         if (pass == 0) {
             ASSERT_TRUE(dir.Exists("lib/my.idx"));
@@ -109,8 +113,11 @@ TEST_F(CliListTest, StartPathsAreReadWhenTheGroupHasNoActivePath)
     // directory lists nothing and is named on standard error.
     const QString lib = QString::fromStdString(Lib()), other = QString::fromStdString(dir.PathOf("other"));
     const QString missing = QString::fromStdString(dir.PathOf("missing"));
-    const std::pair<QStringList, std::string> cases[] = {{{lib}, "Title\nTop\n"}, {{lib + "/**"}, "Title\nDeep\nTop\n"},
-        {{lib, other}, "Title\nElsewhere\nTop\n"}, {{"other"}, "Title\nElsewhere\n"}, {{missing}, "Title\n"}};
+    const std::pair<QStringList, std::string> cases[] = {{{lib}, "Title\nTop\n"},
+                                                         {{lib + "/**"}, "Title\nDeep\nTop\n"},
+                                                         {{lib, other}, "Title\nElsewhere\nTop\n"},
+                                                         {{"other"}, "Title\nElsewhere\n"},
+                                                         {{missing}, "Title\n"}};
     const std::string saved = std::filesystem::current_path();
     std::filesystem::current_path(dir.Path());
     for (const auto& [paths, out] : cases) {
@@ -133,8 +140,8 @@ TEST_F(CliListTest, StartPathsAreReadWhenTheGroupHasNoActivePath)
     chmod(dir.MakeDir("lib/sub/locked").c_str(), 0);
     chmod(dir.Path().c_str(), 0755);
     for (const std::string& path : {dir.PathOf("lib/sub/locked"), Lib() + "/**"}) {
-        const RunResult run = RunDocmanager({"--list", "--config", QString::fromStdString(noPaths), "--format", "tsv",
-                                             QString::fromStdString(path)}, ConfigHome(), true);
+        const RunResult run = RunDocmanager(
+            {"--list", "--config", QString::fromStdString(noPaths), "--format", "tsv", QString::fromStdString(path)}, ConfigHome(), true);
         EXPECT_EQ(run.status, 0) << run.err;
         EXPECT_NE(run.err.find(dir.PathOf("lib/sub/locked") + " cannot be read"), std::string::npos) << run.err;
     }
@@ -149,13 +156,16 @@ TEST_F(CliListTest, AwkwardTextsKeepTheFormatsIntact)
     std::filesystem::rename(WriteDoc("lib/r.odt", "Odd", "Ann", 1), odd);
     // A (hostile) index record with NUL bytes in its title.
     dir.MakeFile("lib/n.odt", "x", 1600000000);
-    dir.MakeFile("lib/.docindex", indeximage::Header() +
-        indeximage::Record("n.odt").Text(indeximage::TITLE, 63, std::string("Nul\0here", 8))
-                                   .Text(indeximage::AUTHOR, 31, "Nia").Bytes(), time(nullptr) + 1000);
+    dir.MakeFile("lib/.docindex",
+                 indeximage::Header() + indeximage::Record("n.odt")
+                                            .Text(indeximage::TITLE, 63, std::string("Nul\0here", 8))
+                                            .Text(indeximage::AUTHOR, 31, "Nia")
+                                            .Bytes(),
+                 time(nullptr) + 1000);
     const std::string config = WriteConfig(ConfigText({{.name = "Lib", .paths = Lib(), .sortColumn = 3, .columns = {1, 3, 7}}}));
     // Every format gives UTF-8: U+FFFD for what is not, and no NUL.
     EXPECT_EQ(List(config, {"--format", "tsv"}).out, "File name\tTitle\tAuthor\nn.odt\tNulhere\tNia\n"
-              "r\uFFFD.odt\tOdd\tAnn\nq.odt\tSay \"hi\" \\ then tab\tAnn\n");
+                                                     "r\uFFFD.odt\tOdd\tAnn\nq.odt\tSay \"hi\" \\ then tab\tAnn\n");
     for (const char* format : {"text", "csv"}) {
         const std::string out = List(config, {"--format", format}).out;
         EXPECT_EQ(QString::fromUtf8(out).toStdString(), out) << format;

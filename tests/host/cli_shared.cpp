@@ -24,7 +24,7 @@ protected:
 
 void TouchNow(const std::string& path)
 {
-    timespec now {};
+    timespec now{};
     clock_gettime(CLOCK_REALTIME, &now);
     testfs::SetMTime(path, now.tv_sec, now.tv_nsec);
 }
@@ -54,8 +54,9 @@ TEST_F(SharedFolderTest, AListingKilledAtAnyStepOfItsIndexWriteLeavesNoStaleReco
             expected += name + "\t" + title + "\n";
         }
         testfs::WaitForFileClock();
-        const RunResult killed = List(config, {"--format", "tsv"},
-            {"LD_PRELOAD=" DOCMGR_KILL_SHIM, "DOCMGR_KILL_AFTER=" + QString::number(step), "DOCMGR_KILL_MATCH=.docindex"});
+        const RunResult killed =
+            List(config, {"--format", "tsv"},
+                 {"LD_PRELOAD=" DOCMGR_KILL_SHIM, "DOCMGR_KILL_AFTER=" + QString::number(step), "DOCMGR_KILL_MATCH=.docindex"});
         completed = killed.status == 0;
         kills += !completed;
         EXPECT_EQ(Rows(List(config, {"--format", "tsv"}).out), expected);
@@ -92,8 +93,8 @@ TEST_F(SharedFolderTest, ListingsWhileOtherProcessesAddAndRemoveDocumentsListEve
             }
         });
     }
-    const std::string command = "env -u DISPLAY -u WAYLAND_DISPLAY '" + BinaryPath("docmanager")
-        + "' --list --config '" + config + "' --format tsv 2>&1";
+    const std::string command =
+        "env -u DISPLAY -u WAYLAND_DISPLAY '" + BinaryPath("docmanager") + "' --list --config '" + config + "' --format tsv 2>&1";
     for (int t = 0; t < 4; ++t) {
         threads.emplace_back([&] {
             while (!stop) {

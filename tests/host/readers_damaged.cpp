@@ -26,7 +26,8 @@ void ExpectEmptyDocument(const std::string& path)
     auto info = ReadDocInfo(path);
     ASSERT_NE(info, nullptr) << path;
     EXPECT_EQ(std::tuple(info->HasInfo(), info->title + info->author, info->createdDate, info->info),
-              std::tuple(true, std::string(), Date(), std::array<std::string, 4>{})) << path;
+              std::tuple(true, std::string(), Date(), std::array<std::string, 4>{}))
+        << path;
 }
 
 }  // namespace
@@ -38,14 +39,18 @@ TEST(ReadersDamaged, DamagedFilesAreDocumentsWithoutInformationAZipBombStopsAtTh
     ASSERT_TRUE(WriteSampleOdt(dir.PathOf("whole.odt"), FullSample(), error)) << error;
     const std::string whole = dir.Read("whole.odt");
     dir.MakeFile("truncated.odt", whole.substr(0, whole.size() / 2));
-    for (const auto& [name, bytes] : std::vector<std::pair<const char*, std::string>>{
-             {"garbage.docx", "PK\3\4 this is not really a zip"}, {"text.xlsx", "plain text with an office name"},
-             {"garbage.pdf", "%PDF-1.7\n\x01\x02 not objects at all \xff\xfe"}, {"header-only.bin", "%PDF-"},
-             {"empty.pdf", ""}, {"garbage.doc", "not an OLE file"}, {"notxml.fodt", "<office:document"},
-             {"empty.rtf", "{\\rtf1 no information group}"}})
+    for (const auto& [name, bytes] :
+         std::vector<std::pair<const char*, std::string>>{{"garbage.docx", "PK\3\4 this is not really a zip"},
+                                                          {"text.xlsx", "plain text with an office name"},
+                                                          {"garbage.pdf", "%PDF-1.7\n\x01\x02 not objects at all \xff\xfe"},
+                                                          {"header-only.bin", "%PDF-"},
+                                                          {"empty.pdf", ""},
+                                                          {"garbage.doc", "not an OLE file"},
+                                                          {"notxml.fodt", "<office:document"},
+                                                          {"empty.rtf", "{\\rtf1 no information group}"}})
         dir.MakeFile(name, bytes);
-    WriteZip(dir.PathOf("nometa.odt"), {{"mimetype", "application/vnd.oasis.opendocument.text"},
-                                        {"content.xml", "<office:document-content/>"}});
+    WriteZip(dir.PathOf("nometa.odt"),
+             {{"mimetype", "application/vnd.oasis.opendocument.text"}, {"content.xml", "<office:document-content/>"}});
     WriteOdfMeta(dir.PathOf("malformed.odt"), "<dc:title>Unclosed</dc:titel>");
     WritePdf(dir.PathOf("locked.pdf"), "<< /Title (Secret) >>", "user-password");
     // Encrypted only against changes: anyone may open it, so its information is read.
@@ -70,18 +75,32 @@ TEST(ReadersDamaged, DamagedFilesAreDocumentsWithoutInformationAZipBombStopsAtTh
     dir.MakeFile("large-moved.pdf", moved.substr(0, firstLine) + "%" + std::string(1u << 20, 'x') + "\n" + moved.substr(firstLine));
     const std::string title = FullSample().title;
     // An empty title: no information at all.
-    const struct { const char* name; ReadProblem problem; std::string title; } cases[] = {
-        {"whole.odt", ReadProblem::None, title},          {"truncated.odt", ReadProblem::Damaged, ""},
-        {"garbage.docx", ReadProblem::Damaged, ""},       {"text.xlsx", ReadProblem::NotZip, ""},
-        {"nometa.odt", ReadProblem::NoInformation, ""},   {"malformed.odt", ReadProblem::Damaged, ""},
-        {"locked.pdf", ReadProblem::Encrypted, ""},       {"owner.pdf", ReadProblem::None, "Open Book"},
+    const struct {
+        const char* name;
+        ReadProblem problem;
+        std::string title;
+    } cases[] = {
+        {"whole.odt", ReadProblem::None, title},
+        {"truncated.odt", ReadProblem::Damaged, ""},
+        {"garbage.docx", ReadProblem::Damaged, ""},
+        {"text.xlsx", ReadProblem::NotZip, ""},
+        {"nometa.odt", ReadProblem::NoInformation, ""},
+        {"malformed.odt", ReadProblem::Damaged, ""},
+        {"locked.pdf", ReadProblem::Encrypted, ""},
+        {"owner.pdf", ReadProblem::None, "Open Book"},
         // An encrypted Word file still shows the properties it keeps in the clear.
-        {"locked.doc", ReadProblem::Encrypted, title},    {"locked.docx", ReadProblem::Damaged, ""},
-        {"garbage.pdf", ReadProblem::Damaged, ""},        {"header-only.bin", ReadProblem::Damaged, ""},
-        {"empty.pdf", ReadProblem::Damaged, ""},          {"noheader.pdf", ReadProblem::Damaged, ""},
-        {"garbage.doc", ReadProblem::Damaged, ""},        {"notxml.fodt", ReadProblem::Damaged, ""},
-        {"empty.rtf", ReadProblem::NoInformation, ""},    {"bare.pdf", ReadProblem::NoInformation, ""},
-        {"moved.pdf", ReadProblem::None, "Recovered"},    {"late.bin", ReadProblem::None, "Recovered"},
+        {"locked.doc", ReadProblem::Encrypted, title},
+        {"locked.docx", ReadProblem::Damaged, ""},
+        {"garbage.pdf", ReadProblem::Damaged, ""},
+        {"header-only.bin", ReadProblem::Damaged, ""},
+        {"empty.pdf", ReadProblem::Damaged, ""},
+        {"noheader.pdf", ReadProblem::Damaged, ""},
+        {"garbage.doc", ReadProblem::Damaged, ""},
+        {"notxml.fodt", ReadProblem::Damaged, ""},
+        {"empty.rtf", ReadProblem::NoInformation, ""},
+        {"bare.pdf", ReadProblem::NoInformation, ""},
+        {"moved.pdf", ReadProblem::None, "Recovered"},
+        {"late.bin", ReadProblem::None, "Recovered"},
         {"large-moved.pdf", ReadProblem::Damaged, ""},
     };
     for (const auto& c : cases) {
@@ -105,10 +124,9 @@ TEST(ReadersDamaged, DamagedFilesAreDocumentsWithoutInformationAZipBombStopsAtTh
     ExpectEmptyDocument(dir.PathOf("bomb.odt"));
 
     // PDFDocEncoding, UTF-16BE with byte order mark, a date without zone, a broken date.
-    WritePdf(dir.PathOf("enc.pdf"),
-             "<< /Title (Caf\\351) /Subject <FEFF005A006F00EB> /Keywords (a, b) /CreationDate (D:20010203040506) "
-             "/ModDate (D:2001xx) /Zeta (last) /Alpha (first) /Mid 7 /Trapped /False "
-             "/Author [(Ann) <FEFF005A006F00EB>] /Beta [(x) 1] >>");
+    WritePdf(dir.PathOf("enc.pdf"), "<< /Title (Caf\\351) /Subject <FEFF005A006F00EB> /Keywords (a, b) /CreationDate (D:20010203040506) "
+                                    "/ModDate (D:2001xx) /Zeta (last) /Alpha (first) /Mid 7 /Trapped /False "
+                                    "/Author [(Ann) <FEFF005A006F00EB>] /Beta [(x) 1] >>");
     auto info = ReadDocInfo(dir.PathOf("enc.pdf"));
     ASSERT_NE(info, nullptr);
     // An array of texts reads as the texts; any other array as PDF.
@@ -127,9 +145,12 @@ TEST(AppProperties, NotesAndReadOnlyFormats)
     WriteOle(dir.PathOf("legacy.doc"), FullSample());
     WritePdf(dir.PathOf("locked.pdf"), "<< /Title (Secret) >>", "user-password");
     // `note`: a part of the note shown; empty: no note.
-    const struct { const char* name; bool editable; const char* note; } cases[] = {
-        {"text.odt", true, ""}, {"text.rtf", false, "read-only"}, {"legacy.doc", false, "read-only"},
-        {"locked.pdf", true, "encrypted"}};
+    const struct {
+        const char* name;
+        bool editable;
+        const char* note;
+    } cases[] = {
+        {"text.odt", true, ""}, {"text.rtf", false, "read-only"}, {"legacy.doc", false, "read-only"}, {"locked.pdf", true, "encrypted"}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         DocPropertiesDialog dialog(nullptr, dir.PathOf(c.name), {});

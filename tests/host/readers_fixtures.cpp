@@ -14,10 +14,17 @@ namespace readertest {
 
 SampleDoc FullSample()
 {
-    return {"Übersicht der Café-Umsätze", "Finanzen", "Zoë Martin", "José García", {"café", "budget", "2019"},
-            "Zahlen <geprüft> & freigegeben", QDateTime(QDate(2019, 5, 6), QTime(7, 8, 9)),
-            QDateTime(QDate(2020, 11, 12), QTime(13, 14, 15)), QDateTime(QDate(2020, 12, 1), QTime(16, 17, 18)),
-            "Jörg Müller", {{"Project", "Crème"}, {"Client", "ACME"}, {"Status", "open"}, {"Reviewer", "Li Wei"}},
+    return {"Übersicht der Café-Umsätze",
+            "Finanzen",
+            "Zoë Martin",
+            "José García",
+            {"café", "budget", "2019"},
+            "Zahlen <geprüft> & freigegeben",
+            QDateTime(QDate(2019, 5, 6), QTime(7, 8, 9)),
+            QDateTime(QDate(2020, 11, 12), QTime(13, 14, 15)),
+            QDateTime(QDate(2020, 12, 1), QTime(16, 17, 18)),
+            "Jörg Müller",
+            {{"Project", "Crème"}, {"Client", "ACME"}, {"Status", "open"}, {"Reviewer", "Li Wei"}},
             "First paragraph.\nZweiter Absatz mit Ümlauten."};
 }
 
@@ -32,17 +39,16 @@ void WriteZip(const std::string& path, const std::vector<std::pair<std::string, 
 
 void WriteOdfMeta(const std::string& path, const std::string& metaChildren)
 {
-    const std::string meta =
-        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>"
-        "<office:document-meta xmlns:office=\"urn:oasis:names:tc:opendocument:xmlns:office:1.0\""
-        " xmlns:meta=\"urn:oasis:names:tc:opendocument:xmlns:meta:1.0\""
-        " xmlns:dc=\"http://purl.org/dc/elements/1.1/\" office:version=\"1.2\"><office:meta>"
-        + metaChildren + "</office:meta></office:document-meta>";
+    const std::string meta = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>"
+                             "<office:document-meta xmlns:office=\"urn:oasis:names:tc:opendocument:xmlns:office:1.0\""
+                             " xmlns:meta=\"urn:oasis:names:tc:opendocument:xmlns:meta:1.0\""
+                             " xmlns:dc=\"http://purl.org/dc/elements/1.1/\" office:version=\"1.2\"><office:meta>" +
+                             metaChildren + "</office:meta></office:document-meta>";
     WriteZip(path, {{"mimetype", "application/vnd.oasis.opendocument.text"}, {"meta.xml", meta}});
 }
 
-void WritePdf(const std::string& path, const std::string& infoDict, const char* userPassword,
-              const char* ownerPassword, const std::string& xmpPacket)
+void WritePdf(const std::string& path, const std::string& infoDict, const char* userPassword, const char* ownerPassword,
+              const std::string& xmpPacket)
 {
     QPDF pdf;
     pdf.emptyPDF();
@@ -53,8 +59,8 @@ void WritePdf(const std::string& path, const std::string& infoDict, const char* 
         pdf.getRoot().replaceKey("/Metadata", QPDFObjectHandle::newStream(&pdf, xmpPacket));
     QPDFWriter writer(pdf, path.c_str());
     if (userPassword || ownerPassword)
-        writer.setR6EncryptionParameters(userPassword ? userPassword : "", ownerPassword ? ownerPassword : "owner",
-                                         true, true, true, true, true, true, qpdf_r3p_full, true);
+        writer.setR6EncryptionParameters(userPassword ? userPassword : "", ownerPassword ? ownerPassword : "owner", true, true, true, true,
+                                         true, true, qpdf_r3p_full, true);
     writer.write();
 }
 

@@ -22,8 +22,8 @@ void WriteOdfMeta(const std::string& path, const std::string& metaChildren);
 
 // A one-page PDF whose Info dictionary is `infoDict` (PDF syntax), encrypted when a
 // password is given, with `xmpPacket` as its metadata stream unless that is empty.
-void WritePdf(const std::string& path, const std::string& infoDict, const char* userPassword = nullptr,
-              const char* ownerPassword = nullptr, const std::string& xmpPacket = {});
+void WritePdf(const std::string& path, const std::string& infoDict, const char* userPassword = nullptr, const char* ownerPassword = nullptr,
+              const std::string& xmpPacket = {});
 
 // A legacy Word file: an OLE compound file with the property sets of `doc` (user fields
 // as user-defined properties) and the head of a Word stream whose flags word (2 bytes,
@@ -32,9 +32,9 @@ void WriteOle(const std::string& path, const SampleDoc& doc, const std::string& 
 
 struct RawEntry {
     std::string name;
-    int method = 0;       // compression method
+    int method = 0;  // compression method
     uint32_t crc = 0;
-    std::string raw;      // the stored (compressed) bytes
+    std::string raw;  // the stored (compressed) bytes
 };
 // Every entry of a zip in central directory order, with its bytes as stored.
 std::vector<RawEntry> RawEntries(const std::string& path);

@@ -28,18 +28,25 @@ TEST(ReadersFormats, EachFormatGivesItsFieldsAlsoFromALargeDocument)
     WriteOle(dir.PathOf("full.doc"), full);
     // Never printed (a PDF has no printed stamp): the printed stamp is the created one,
     // by the author. Only ODF records who printed. User fields keep their recorded order.
-    const struct { const char* name; bool neverPrinted, hasModifiedByAndComment; const char* printedBy; } cases[] = {
-        {"full.odt", false, true, "Jörg Müller"}, {"full.fodt", false, true, "Jörg Müller"},
-        {"full.docx", false, true, ""},           {"full.rtf", false, true, ""},
-        {"full.doc", false, true, ""},            {"full.pdf", true, false, "Zoë Martin"},
-        {"never.odt", true, true, "Zoë Martin"},  {"never.docx", true, true, "Zoë Martin"},
+    const struct {
+        const char* name;
+        bool neverPrinted, hasModifiedByAndComment;
+        const char* printedBy;
+    } cases[] = {
+        {"full.odt", false, true, "Jörg Müller"},
+        {"full.fodt", false, true, "Jörg Müller"},
+        {"full.docx", false, true, ""},
+        {"full.rtf", false, true, ""},
+        {"full.doc", false, true, ""},
+        {"full.pdf", true, false, "Zoë Martin"},
+        {"never.odt", true, true, "Zoë Martin"},
+        {"never.docx", true, true, "Zoë Martin"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         const std::string name = c.name;
         std::string error;
-        ASSERT_TRUE(name == "full.doc" || WriteSample(dir.PathOf(name), name.starts_with("never") ? unprinted : full, error))
-            << error;
+        ASSERT_TRUE(name == "full.doc" || WriteSample(dir.PathOf(name), name.starts_with("never") ? unprinted : full, error)) << error;
         auto info = ReadDocInfo(dir.PathOf(name));
         ASSERT_NE(info, nullptr);
         EXPECT_EQ(info->size, dir.Size(name));
@@ -99,28 +106,28 @@ TEST(ReadersFormats, ContentDecidesWhetherAFileIsADocumentAndOoxmlPartsAreFoundT
     for (const char* name : {"notes.txt", "empty", "archive.zip", "folder.odt", "missing.pdf"})
         EXPECT_EQ(ReadDocInfo(dir.PathOf(name)), nullptr) << name;
 
-    const std::string rels =
-        "<Relationships xmlns=\"http://schemas.openxmlformats.org/package/2006/relationships\">"
-        "<Relationship Id=\"a\" Type=\"http://schemas.openxmlformats.org/package/2006/relationships/"
-        "metadata/core-properties\" Target=\"/meta/props.xml\"/>"
-        "<Relationship Id=\"b\" Type=\"http://schemas.openxmlformats.org/officeDocument/2006/relationships/"
-        "custom-properties\" Target=\"meta/user.xml\"/></Relationships>";
+    const std::string rels = "<Relationships xmlns=\"http://schemas.openxmlformats.org/package/2006/relationships\">"
+                             "<Relationship Id=\"a\" Type=\"http://schemas.openxmlformats.org/package/2006/relationships/"
+                             "metadata/core-properties\" Target=\"/meta/props.xml\"/>"
+                             "<Relationship Id=\"b\" Type=\"http://schemas.openxmlformats.org/officeDocument/2006/relationships/"
+                             "custom-properties\" Target=\"meta/user.xml\"/></Relationships>";
     // Other prefixes than the usual ones, keywords per language, typed custom values.
-    const std::string core =
-        "<p:coreProperties xmlns:p=\"http://schemas.openxmlformats.org/package/2006/metadata/core-properties\" "
-        "xmlns:e=\"http://purl.org/dc/elements/1.1/\"><e:title>Moved</e:title>"
-        "<p:keywords><p:value xml:lang=\"en\">alpha</p:value><p:value xml:lang=\"de\">Äpfel</p:value></p:keywords>"
-        "<title>not in a namespace</title></p:coreProperties>";
-    const std::string custom =
-        "<Properties xmlns=\"http://schemas.openxmlformats.org/officeDocument/2006/custom-properties\" "
-        "xmlns:vt=\"http://schemas.openxmlformats.org/officeDocument/2006/docPropsVTypes\">"
-        "<property fmtid=\"x\" pid=\"2\" name=\"Count\"><vt:i4>42</vt:i4></property>"
-        "<property fmtid=\"x\" pid=\"3\" name=\"Done\"><vt:bool>true</vt:bool></property></Properties>";
-    WriteZip(dir.PathOf("moved.docx"), {{"[Content_Types].xml", "<Types/>"}, {"_rels/.rels", rels},
-                                        {"meta/props.xml", core}, {"meta/user.xml", custom},
+    const std::string core = "<p:coreProperties xmlns:p=\"http://schemas.openxmlformats.org/package/2006/metadata/core-properties\" "
+                             "xmlns:e=\"http://purl.org/dc/elements/1.1/\"><e:title>Moved</e:title>"
+                             "<p:keywords><p:value xml:lang=\"en\">alpha</p:value><p:value xml:lang=\"de\">Äpfel</p:value></p:keywords>"
+                             "<title>not in a namespace</title></p:coreProperties>";
+    const std::string custom = "<Properties xmlns=\"http://schemas.openxmlformats.org/officeDocument/2006/custom-properties\" "
+                               "xmlns:vt=\"http://schemas.openxmlformats.org/officeDocument/2006/docPropsVTypes\">"
+                               "<property fmtid=\"x\" pid=\"2\" name=\"Count\"><vt:i4>42</vt:i4></property>"
+                               "<property fmtid=\"x\" pid=\"3\" name=\"Done\"><vt:bool>true</vt:bool></property></Properties>";
+    WriteZip(dir.PathOf("moved.docx"), {{"[Content_Types].xml", "<Types/>"},
+                                        {"_rels/.rels", rels},
+                                        {"meta/props.xml", core},
+                                        {"meta/user.xml", custom},
                                         {"docProps/core.xml", "<wrong/>"}});
     // One bad part does not lose the others.
-    WriteZip(dir.PathOf("halfbroken.docx"), {{"[Content_Types].xml", "<Types/>"}, {"_rels/.rels", rels},
+    WriteZip(dir.PathOf("halfbroken.docx"), {{"[Content_Types].xml", "<Types/>"},
+                                             {"_rels/.rels", rels},
                                              {"meta/props.xml", "<p:coreProperties><e:title>no namespaces"},
                                              {"meta/user.xml", custom}});
     for (const auto& [name, title, keywords] : {std::tuple{"moved.docx", "Moved", "alpha, Äpfel"}, {"halfbroken.docx", "", ""}}) {
@@ -154,11 +161,10 @@ TEST(ReadersFormats, RtfEscapesCodePagesAndGroupsAndLegacyUserPropertiesComeInFi
 
     auto u32 = [](uint32_t v) { return std::string{char(v), char(v >> 8), char(v >> 16), char(v >> 24)}; };
     // One user-defined section listing property 3 before property 2, and its dictionary.
-    const std::string dictionary = u32(2) + u32(3) + u32(5) + std::string("Zulu", 5) + u32(2) + u32(6)
-        + std::string("Alpha", 6);
+    const std::string dictionary = u32(2) + u32(3) + u32(5) + std::string("Zulu", 5) + u32(2) + u32(6) + std::string("Alpha", 6);
     const std::string section = u32(0) + u32(3) + u32(0) + u32(32) + u32(3) + u32(0) + u32(2) + u32(0) + dictionary;
-    const std::string stream = std::string("\xFE\xFF\0\0", 4) + u32(0) + std::string(16, '\0') + u32(1)
-        + std::string("\x05\xD5\xCD\xD5\x9C\x2E\x1B\x10\x93\x97\x08\x00\x2B\x2C\xF9\xAE", 16) + u32(48) + section;
+    const std::string stream = std::string("\xFE\xFF\0\0", 4) + u32(0) + std::string(16, '\0') + u32(1) +
+                               std::string("\x05\xD5\xCD\xD5\x9C\x2E\x1B\x10\x93\x97\x08\x00\x2B\x2C\xF9\xAE", 16) + u32(48) + section;
     EXPECT_EQ(UserPropertyOrder(stream), (std::vector<std::string>{"Zulu", "Alpha"}));
     // Cut anywhere, it gives what it can and never reads past the end.
     for (size_t size = 0; size < stream.size(); ++size)
@@ -181,7 +187,8 @@ TEST(ReadersFormats, ReadingAheadGivesWhatReadingGives)
     asked.push_back(dir.MakeFile("late.odt", "not a package"));
     for (const std::string& path : asked) {
         const std::unique_ptr<DocInfo> expected = ReadDocInfo(path), got = ahead.Take(path);
-        EXPECT_EQ(got ? got->entry + " " + got->title : path + " none", expected ? expected->entry + " " + expected->title : path + " none");
+        EXPECT_EQ(got ? got->entry + " " + got->title : path + " none",
+                  expected ? expected->entry + " " + expected->title : path + " none");
     }
     ahead.Start(paths);  // dropped untaken, and gone cleanly with the object
 }

@@ -23,8 +23,12 @@ namespace {
 
 DocMeta EditedMeta()
 {
-    return {"Neuer Titel – überarbeitet", "Planung", "eins, zwei, drei", "Kommentar mit <Zeichen> & \"Anführung\"",
-            {"Nordlicht", "", "done", "Zoë"}, {"Project", "Client", "Status", "Reviewer"}};
+    return {"Neuer Titel – überarbeitet",
+            "Planung",
+            "eins, zwei, drei",
+            "Kommentar mit <Zeichen> & \"Anführung\"",
+            {"Nordlicht", "", "done", "Zoë"},
+            {"Project", "Client", "Status", "Reviewer"}};
 }
 
 std::unique_ptr<DocInfo> WriteAndRead(const std::string& path, const DocMeta& meta)
@@ -68,9 +72,8 @@ TEST(WriterRoundTrip, EachFormatReadsBackWhatWasWritten)
     ASSERT_TRUE(WriteSampleDocx(dir.PathOf("nocustom.docx"), noInfo, error)) << error;
     WriteZip(dir.PathOf("nometa.odt"),
              {{"mimetype", "application/vnd.oasis.opendocument.text"},
-              {"META-INF/manifest.xml",
-               "<manifest:manifest xmlns:manifest=\"urn:oasis:names:tc:opendocument:xmlns:manifest:1.0\">"
-               "<manifest:file-entry manifest:full-path=\"/\" manifest:media-type=\"x\"/></manifest:manifest>"},
+              {"META-INF/manifest.xml", "<manifest:manifest xmlns:manifest=\"urn:oasis:names:tc:opendocument:xmlns:manifest:1.0\">"
+                                        "<manifest:file-entry manifest:full-path=\"/\" manifest:media-type=\"x\"/></manifest:manifest>"},
               {"content.xml", "<c/>"}});
     WritePdf(dir.PathOf("noinfo.pdf"), "<< >>");
     const std::vector<RawEntry> before = RawEntries(dir.PathOf("doc.odt"));
@@ -95,8 +98,7 @@ TEST(WriterRoundTrip, EachFormatReadsBackWhatWasWritten)
     // The created parts are registered in the package.
     EXPECT_NE(Entry(dir.PathOf("nocustom.docx"), "[Content_Types].xml").find("/docProps/custom.xml"), std::string::npos);
     EXPECT_NE(Entry(dir.PathOf("nocustom.docx"), "_rels/.rels").find("custom-properties"), std::string::npos);
-    EXPECT_NE(Entry(dir.PathOf("nometa.odt"), "META-INF/manifest.xml").find("manifest:full-path=\"meta.xml\""),
-              std::string::npos);
+    EXPECT_NE(Entry(dir.PathOf("nometa.odt"), "META-INF/manifest.xml").find("manifest:full-path=\"meta.xml\""), std::string::npos);
     EXPECT_EQ(StrayFiles(dir, names), std::vector<std::string>{});
 
     // The other entries of a package stay byte-identical; the mimetype entry stays first
@@ -107,8 +109,9 @@ TEST(WriterRoundTrip, EachFormatReadsBackWhatWasWritten)
     EXPECT_EQ(after[0].method, 0);
     for (size_t i = 0; i < after.size(); ++i) {
         EXPECT_EQ(after[i].name, before[i].name);
-        EXPECT_TRUE(after[i].name == "meta.xml" || (after[i].method == before[i].method && after[i].crc == before[i].crc
-                                                     && after[i].raw == before[i].raw)) << after[i].name;
+        EXPECT_TRUE(after[i].name == "meta.xml" ||
+                    (after[i].method == before[i].method && after[i].crc == before[i].crc && after[i].raw == before[i].raw))
+            << after[i].name;
     }
 }
 
@@ -148,23 +151,23 @@ TEST(WriterRoundTrip, UserFieldsGoFirstAndReplaceTheirNamesakesPdfXmpFillsWhatIn
     EXPECT_FALSE(zip.Has("docProps/custom.xml"));
 
     // The XMP packet of a PDF fills what the Info dictionary lacks, and follows it when written.
-    const std::string packet =
-        "<?xpacket begin=\"\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?><x:xmpmeta xmlns:x=\"adobe:ns:meta/\">"
-        "<rdf:RDF xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\">"
-        "<rdf:Description rdf:about=\"\" xmlns:d=\"http://purl.org/dc/elements/1.1/\" "
-        "xmlns:pdf=\"http://ns.adobe.com/pdf/1.3/\" pdf:Keywords=\"old keys\">"
-        "<d:title><rdf:Alt><rdf:li xml:lang=\"de\">Titel</rdf:li><rdf:li xml:lang=\"x-default\">XMP title</rdf:li>"
-        "</rdf:Alt></d:title><d:creator><rdf:Seq><rdf:li>Ann</rdf:li><rdf:li>Bob</rdf:li></rdf:Seq></d:creator>"
-        "<d:description><rdf:Alt><rdf:li xml:lang=\"en\">Topic</rdf:li></rdf:Alt></d:description>"
-        "<d:format>application/pdf</d:format></rdf:Description>"
-        "<rdf:Description rdf:about=\"\" xmlns:xmp=\"http://ns.adobe.com/xap/1.0/\" "
-        "xmp:CreateDate=\"2021-03-04T05:06:07\"><xmp:ModifyDate>2022-01-02T03:04:05</xmp:ModifyDate>"
-        "<xmp:CreatorTool>Some Tool</xmp:CreatorTool></rdf:Description></rdf:RDF></x:xmpmeta><?xpacket end=\"w\"?>";
+    const std::string packet = "<?xpacket begin=\"\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?><x:xmpmeta xmlns:x=\"adobe:ns:meta/\">"
+                               "<rdf:RDF xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\">"
+                               "<rdf:Description rdf:about=\"\" xmlns:d=\"http://purl.org/dc/elements/1.1/\" "
+                               "xmlns:pdf=\"http://ns.adobe.com/pdf/1.3/\" pdf:Keywords=\"old keys\">"
+                               "<d:title><rdf:Alt><rdf:li xml:lang=\"de\">Titel</rdf:li><rdf:li xml:lang=\"x-default\">XMP title</rdf:li>"
+                               "</rdf:Alt></d:title><d:creator><rdf:Seq><rdf:li>Ann</rdf:li><rdf:li>Bob</rdf:li></rdf:Seq></d:creator>"
+                               "<d:description><rdf:Alt><rdf:li xml:lang=\"en\">Topic</rdf:li></rdf:Alt></d:description>"
+                               "<d:format>application/pdf</d:format></rdf:Description>"
+                               "<rdf:Description rdf:about=\"\" xmlns:xmp=\"http://ns.adobe.com/xap/1.0/\" "
+                               "xmp:CreateDate=\"2021-03-04T05:06:07\"><xmp:ModifyDate>2022-01-02T03:04:05</xmp:ModifyDate>"
+                               "<xmp:CreatorTool>Some Tool</xmp:CreatorTool></rdf:Description></rdf:RDF></x:xmpmeta><?xpacket end=\"w\"?>";
     WritePdf(dir.PathOf("xmp.pdf"), "<< /Producer (x) >>", nullptr, nullptr, packet);
     const auto xmp = ReadDocInfo(dir.PathOf("xmp.pdf"));
     ASSERT_NE(xmp, nullptr);
     EXPECT_EQ(xmp->title + "|" + xmp->author + "|" + xmp->topic + "|" + xmp->keywords, "XMP title|Ann, Bob|Topic|old keys");
-    EXPECT_EQ(std::tuple(xmp->createdDate, xmp->createdTime, xmp->modifiedDate), std::tuple(Date(4, 3, 2021), Time(5, 6, 7), Date(2, 1, 2022)));
+    EXPECT_EQ(std::tuple(xmp->createdDate, xmp->createdTime, xmp->modifiedDate),
+              std::tuple(Date(4, 3, 2021), Time(5, 6, 7), Date(2, 1, 2022)));
 
     // Written, the packet takes the new texts and keeps everything else.
     ASSERT_NE(WriteAndRead(dir.PathOf("xmp.pdf"), EditedMeta()), nullptr);
@@ -177,8 +180,8 @@ TEST(WriterRoundTrip, UserFieldsGoFirstAndReplaceTheirNamesakesPdfXmpFillsWhatIn
     const DocMeta edited = EditedMeta();
     EXPECT_EQ(fields.title + "|" + fields.description + "|" + fields.keywords + "|" + fields.subject,
               edited.title + "|" + edited.topic + "|" + edited.keywords + "|" + edited.keywords);
-    for (const char* kept : {"<d:format>application/pdf</d:format>", "<xmp:CreatorTool>Some Tool</xmp:CreatorTool>",
-                             "<?xpacket end=\"w\"?>"})
+    for (const char* kept :
+         {"<d:format>application/pdf</d:format>", "<xmp:CreatorTool>Some Tool</xmp:CreatorTool>", "<?xpacket end=\"w\"?>"})
         EXPECT_NE(written.find(kept), std::string::npos) << kept;
     EXPECT_EQ(written.find("XMP title"), std::string::npos);
     EXPECT_EQ(written.find("old keys"), std::string::npos);
@@ -193,18 +196,17 @@ TEST(WriterRoundTrip, RefusalsLeaveTheOriginalUntouched)
     WritePdf(dir.PathOf("locked.pdf"), "<< /Title (Secret) >>", "user-password");
     WritePdf(dir.PathOf("owner.pdf"), "<< /Title (Guarded) >>", "", "owner-password");
     dir.MakeFile("locked.docx", std::string("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1", 8) + std::string(504, '\0'));
-    for (const auto& [name, bytes] : {std::pair{"notes.txt", "plain text"}, {"broken.pdf", "%PDF-1.4\nnothing else"},
-                                     {"broken.odt", "not a zip"}})
+    for (const auto& [name, bytes] :
+         {std::pair{"notes.txt", "plain text"}, {"broken.pdf", "%PDF-1.4\nnothing else"}, {"broken.odt", "not a zip"}})
         dir.MakeFile(name, bytes);
     WriteOdfMeta(dir.PathOf("malformed.odt"), "<dc:title>x</dc:titel>");
     WriteOle(dir.PathOf("legacy.doc"), FullSample());
     ASSERT_TRUE(WriteSample(dir.PathOf("text.rtf"), FullSample(), error)) << error;
 
     std::vector<std::pair<std::string, std::string>> cases = {
-        {"readonly.odt", "read-only"}, {"locked.pdf", "encrypted"}, {"owner.pdf", "encrypted"},
-        {"locked.docx", "encrypted"},  {"notes.txt", "cannot be changed"}, {"broken.pdf", "damaged"},
-        {"broken.odt", "damaged"},     {"malformed.odt", "damaged"},  {"missing.odt", "does not exist"},
-        {"legacy.doc", "of this kind"}, {"text.rtf", "of this kind"}};
+        {"readonly.odt", "read-only"},      {"locked.pdf", "encrypted"},    {"owner.pdf", "encrypted"},  {"locked.docx", "encrypted"},
+        {"notes.txt", "cannot be changed"}, {"broken.pdf", "damaged"},      {"broken.odt", "damaged"},   {"malformed.odt", "damaged"},
+        {"missing.odt", "does not exist"},  {"legacy.doc", "of this kind"}, {"text.rtf", "of this kind"}};
     if (::geteuid() != 0) {  // the superuser writes into read-only folders
         ASSERT_TRUE(WriteSampleDocx(dir.MakeDir("sub") + "/doc.docx", FullSample(), error)) << error;
         ::chmod(dir.PathOf("sub").c_str(), 0555);
@@ -234,8 +236,8 @@ TEST(WriterRoundTrip, TheSampleToolWritesDocumentsThatReadBack)
         return std::pair{process.exitCode(), process.readAll().toStdString() + process.readAllStandardError().toStdString()};
     };
     const QString out = QString::fromStdString(dir.PathOf("out"));
-    for (const QStringList& args : {QStringList{}, QStringList{out, "many"}, QStringList{out, "3", "--seed"},
-                                    QStringList{out, "--colour"}, QStringList{out, "1", "2"}}) {
+    for (const QStringList& args : {QStringList{}, QStringList{out, "many"}, QStringList{out, "3", "--seed"}, QStringList{out, "--colour"},
+                                    QStringList{out, "1", "2"}}) {
         const auto [status, output] = run(args);
         EXPECT_TRUE(status == 2 && output.find("Usage: docmanager-samples DIR [COUNT] [--seed N]") != std::string::npos)
             << args.join(' ').toStdString() << ": " << output;

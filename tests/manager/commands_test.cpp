@@ -32,7 +32,12 @@ TEST_F(CommandsTest, CommandsFollowTheSelectionTheOpenModeAndTheRights)
     const uint16_t all = ACCESS_FILEDELETE | ACCESS_FILECOPY | ACCESS_FILEPRINT | ACCESS_FILERENAME;
     auto without = [all](uint16_t right) { return uint16_t(all & ~right); };
     // The commands enabled, and the items of the context menu that are off.
-    const struct { uint16_t access; bool openMode; std::set<std::string> selected; Ids commands, contextOff; } rows[] = {
+    const struct {
+        uint16_t access;
+        bool openMode;
+        std::set<std::string> selected;
+        Ids commands, contextOff;
+    } rows[] = {
         {all, true, {}, {CMD_PRINTLIST, CMD_EXPORTLIST}, {}},
         {all, true, {"a.odt"}, {20, 21, 22, 23, 24, 25, 26}, {}},
         {all, true, {"a.odt", "b.odt", "c.odt"}, {20, 22, 24, 25, 26}, {}},  // information and rename need one row

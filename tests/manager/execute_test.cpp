@@ -33,11 +33,15 @@ TEST_F(ManagerTest, ExecuteEndsWithCloseOrOpenASecondRunKeepsTheSettingsAndThePa
     for (const char* file : {"other/b.odt", "other/c.odt"})
         dir.MakeFile(file, "x");
     WriteConfig({{"Both", "Main", docs + ";" + other + ";" + dir.Path(), "01"}});
-    const struct { std::string startPaths; const char* guis; std::string line; } table[] = {
+    const struct {
+        std::string startPaths;
+        const char* guis;
+        std::string line;
+    } table[] = {
         {"", "01", "2 documents in " + other},  // flags shorter than the paths: the missing ones are off
-        {"", "000", "0 documents in "},          // no active path: the start paths are read
+        {"", "000", "0 documents in "},         // no active path: the start paths are read
         {docs, "", "2 documents in " + docs},
-        {"/**", "", "0 documents in "},          // the bare subdirectory marker means no start path
+        {"/**", "", "0 documents in "},  // the bare subdirectory marker means no start path
     };
     for (const auto& row : table) {
         host.reset();
@@ -47,4 +51,3 @@ TEST_F(ManagerTest, ExecuteEndsWithCloseOrOpenASecondRunKeepsTheSettingsAndThePa
         EXPECT_EQ(Impl().pathLineText, row.line) << "'" << row.startPaths << "', flags " << row.guis;
     }
 }
-

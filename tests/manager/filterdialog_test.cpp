@@ -33,8 +33,8 @@ TEST_F(FilterDialogTest, ShowsTheGroupsFilterWithTheFittingEntriesOkWritesTheEdi
     EXPECT_EQ(In<QLineEdit>(dialog, "titleEdit")->text(), "*Plan*");
     EXPECT_TRUE(In<QCheckBox>(dialog, "sensitiveBox")->isChecked());
     // Row 0 begins with "no condition": position = field id; rows 1 and 2: id - 1.
-    for (const auto& [box, index] : {std::pair{"fieldList0", 5}, {"fieldList1", 5}, {"fieldList2", 2},
-                                    {"conditionList0", 4}, {"linkList0", 1}, {"linkList1", 2}})
+    for (const auto& [box, index] :
+         {std::pair{"fieldList0", 5}, {"fieldList1", 5}, {"fieldList2", 2}, {"conditionList0", 4}, {"linkList0", 1}, {"linkList1", 2}})
         EXPECT_EQ(In<QComboBox>(dialog, box)->currentIndex(), index) << box;
     EXPECT_EQ(In<QComboBox>(dialog, "fieldList0")->count(), 21);
 
@@ -68,7 +68,7 @@ TEST_F(FilterDialogTest, ShowsTheGroupsFilterWithTheFittingEntriesOkWritesTheEdi
     In<QComboBox>(edits, "fieldList0")->setCurrentIndex(11);  // printed date
     In<QComboBox>(edits, "conditionList0")->setCurrentIndex(3);
     In<QDateEdit>(edits, "dateEdit0")->setDate(QDate(2001, 2, 3));
-    In<QComboBox>(edits, "fieldList2")->setCurrentIndex(0);   // file name
+    In<QComboBox>(edits, "fieldList2")->setCurrentIndex(0);  // file name
     In<QLineEdit>(edits, "valueEdit2")->setText("x");
     In<QPushButton>(edits, "okButton")->click();
 
@@ -78,7 +78,7 @@ TEST_F(FilterDialogTest, ShowsTheGroupsFilterWithTheFittingEntriesOkWritesTheEdi
     EXPECT_EQ(other.filterCondition[0], 3);
     EXPECT_EQ(other.filterDate, (decltype(other.filterDate){20010203u, 0, 0}));  // the unset dates nobody touched
     EXPECT_EQ(other.filterValue[2], "x");
-    EXPECT_EQ(other.filterLink[0], 5);    // shown as "or", left as it was
+    EXPECT_EQ(other.filterLink[0], 5);      // shown as "or", left as it was
     EXPECT_EQ(Working().filterAuthor, "");  // another group
 
     DocFilterDialog cancelled(host.get(), &Settings(), 0);  // Cancel writes nothing

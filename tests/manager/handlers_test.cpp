@@ -10,14 +10,21 @@ class HandlersTest : public ManagerTest {
 protected:
     void SetUp() override { StartWith({"b.odt", "c.odt", "a.odt"}); }
     // Ends the next dialog with `result` without touching it.
-    static void Confirm(int result = 1) { OnNextModal([](QDialog&) {}, result); }
+    static void Confirm(int result = 1)
+    {
+        OnNextModal([](QDialog&) {}, result);
+    }
 };
 
 // A settings dialog ended with 0 changes nothing; confirmed, the settings count as changed
 // and the list is collected again (the groups dialog, which saves itself, only collects).
 TEST_F(HandlersTest, ConfirmedSettingsDialogsMarkTheSettingsAndCollect)
 {
-    const struct { const char* name; void (DocManagerImpl::*handler)(); bool marks; } table[] = {
+    const struct {
+        const char* name;
+        void (DocManagerImpl::*handler)();
+        bool marks;
+    } table[] = {
         {"paths", &DocManagerImpl::PathsHdl, true},
         {"filter", &DocManagerImpl::FilterHdl, true},
         {"sort without column", &DocManagerImpl::SortHdl, true},
@@ -91,4 +98,3 @@ TEST_F(HandlersTest, ConfirmedSortAndColumnsRebuildCopyAndRenameCollectOnlyAfter
     ASSERT_TRUE(Browser().GetFrozenView()->isVisible());  // over the frozen columns the same menu opens
     EXPECT_EQ(rightClick(Browser().GetFrozenView()->viewport()), "commandMenu");
 }
-

@@ -2,4 +2,7 @@
 
 #include "tests/support/testmain.h"
 
-int main(int argc, char** argv) { return TestMain<QApplication>(argc, argv); }
+int main(int argc, char** argv)
+{
+    return TestMain<QApplication>(argc, argv);
+}

@@ -9,9 +9,7 @@ protected:
     {
         for (const char* sub : {"a", "b", "c"})
             dir.MakeFile(std::string("docs/") + sub + "/" + sub + "1.odt", "x");
-        WriteConfig({{"Alpha", "Work", docs + "/a", "1"},
-                     {"Beta", "Home", docs + "/b", "1"},
-                     {"Gamma", "Work", docs + "/c", "1"}},
+        WriteConfig({{"Alpha", "Work", docs + "/a", "1"}, {"Beta", "Home", docs + "/b", "1"}, {"Gamma", "Work", docs + "/c", "1"}},
                     3);  // Gamma is current
     }
     QListWidget* Sections() { return Child<QListWidget>("sectionList"); }

@@ -82,8 +82,7 @@ TEST_F(PrintTest, EveryColumnStartsSelectedOkNeedsOneAndTheDialogSaysWhatFits)
     EXPECT_EQ(list->selectedItems().size(), list->count());
     const int portrait = dialog->FittingColumns();
     EXPECT_LT(portrait, list->count());
-    EXPECT_TRUE(fit->text().startsWith(QString("Only %1 of the %2 ").arg(portrait).arg(list->count())))
-        << fit->text().toStdString();
+    EXPECT_TRUE(fit->text().startsWith(QString("Only %1 of the %2 ").arg(portrait).arg(list->count()))) << fit->text().toStdString();
     In<QCheckBox>(*dialog, "landscapeBox")->setChecked(true);
     EXPECT_EQ(dialog->GetPrinter()->pageLayout().orientation(), QPageLayout::Landscape);
     EXPECT_GT(dialog->FittingColumns(), portrait);
@@ -169,8 +168,7 @@ TEST_F(PrintTest, OkPrintsTheListPageByPageToAPdfPrinter)
     EXPECT_TRUE(Poppler("pdfinfo", {}, pdf).contains(QRegularExpression("^Title: *" + title + "$", QRegularExpression::MultilineOption)));
     // The header starts in the top left corner of the printable area: 20 mm (56.7 pt)
     // from the left edge, 15 mm (42.5 pt) from the top.
-    const auto first = QRegularExpression(R"re(<word xMin="([\d.]+)" yMin="([\d.]+)")re")
-                           .match(Poppler("pdftotext", {"-bbox"}, pdf));
+    const auto first = QRegularExpression(R"re(<word xMin="([\d.]+)" yMin="([\d.]+)")re").match(Poppler("pdftotext", {"-bbox"}, pdf));
     ASSERT_TRUE(first.hasMatch());
     EXPECT_NEAR(first.captured(1).toDouble(), 56.7, 1.0);
     EXPECT_GT(first.captured(2).toDouble(), 42.0);
@@ -181,18 +179,17 @@ using pageplan::PageRows;
 
 TEST(PagePlan, EachPageHoldsAllButTheHeaderLineAndAColumnFitsWhenItsWidestTextEndsOnThePage)
 {
-    const struct { unsigned page; long lines; long rows; std::optional<PageRows> expected; } table[] = {
-        {1, 10, 0, PageRows{0, 0}},    // an empty list prints its header
-        {2, 10, 0, std::nullopt},
-        {1, 10, 5, PageRows{0, 5}},
-        {1, 10, 20, PageRows{0, 9}},
-        {2, 10, 20, PageRows{9, 18}},
-        {3, 10, 20, PageRows{18, 20}},
-        {4, 10, 20, std::nullopt},
-        {3, 10, 18, PageRows{18, 18}},  // an exact fit ends with a header-only page
-        {4, 10, 18, std::nullopt},
-        {0, 10, 5, std::nullopt},       // pages count from 1
-        {1, 1, 5, std::nullopt},        // no room for a row
+    const struct {
+        unsigned page;
+        long lines;
+        long rows;
+        std::optional<PageRows> expected;
+    } table[] = {
+        {1, 10, 0, PageRows{0, 0}},  // an empty list prints its header
+        {2, 10, 0, std::nullopt},      {1, 10, 5, PageRows{0, 5}}, {1, 10, 20, PageRows{0, 9}},   {2, 10, 20, PageRows{9, 18}},
+        {3, 10, 20, PageRows{18, 20}}, {4, 10, 20, std::nullopt},  {3, 10, 18, PageRows{18, 18}},  // an exact fit ends with a header-only page
+        {4, 10, 18, std::nullopt},     {0, 10, 5, std::nullopt},                                   // pages count from 1
+        {1, 1, 5, std::nullopt},                                                                   // no room for a row
         {1, 0, 5, std::nullopt},
     };
     for (const auto& row : table)
@@ -200,10 +197,11 @@ TEST(PagePlan, EachPageHoldsAllButTheHeaderLineAndAColumnFitsWhenItsWidestTextEn
             << "page " << row.page << ", " << row.lines << " lines, " << row.rows << " rows";
 
     const std::map<uint16_t, uint16_t> widths{{1, 10}, {3, 5}, {7, 20}};
-    const struct { long charWidth, pageWidth; int fitting; } fits[] = {
-        {1, 35, 3}, {1, 34, 2}, {1, 15, 2}, {2, 29, 1}, {2, 19, 0}, {1, 1000, 3}};
+    const struct {
+        long charWidth, pageWidth;
+        int fitting;
+    } fits[] = {{1, 35, 3}, {1, 34, 2}, {1, 15, 2}, {2, 29, 1}, {2, 19, 0}, {1, 1000, 3}};
     for (const auto& row : fits)
-        EXPECT_EQ(pageplan::FittingColumns(widths, row.charWidth, row.pageWidth), row.fitting)
-            << row.charWidth << " x " << row.pageWidth;
+        EXPECT_EQ(pageplan::FittingColumns(widths, row.charWidth, row.pageWidth), row.fitting) << row.charWidth << " x " << row.pageWidth;
     EXPECT_EQ(pageplan::FittingColumns({}, 1, 10), 0);
 }

@@ -11,8 +11,7 @@ TEST_F(IndexTest, CollectTakesExistingDirectoriesInPathListOrder)
     Docs({"one/a.odt", "two/b.odt", "two/sub/c.odt", "file.odt"});
     ASSERT_TRUE(rows.NeedsCollect());
 
-    rows.CollectFiles(dir.PathOf("two") + "/**;" + dir.PathOf("missing") + ";;" +
-                      dir.PathOf("file.odt") + ";" + dir.PathOf("one"));
+    rows.CollectFiles(dir.PathOf("two") + "/**;" + dir.PathOf("missing") + ";;" + dir.PathOf("file.odt") + ";" + dir.PathOf("one"));
     EXPECT_EQ(RowNames(), (Names{"b.odt", "c.odt", "a.odt"}));
     EXPECT_FALSE(rows.NeedsCollect());
     EXPECT_FALSE(dir.Exists("missing"));

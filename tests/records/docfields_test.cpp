@@ -13,17 +13,30 @@ TEST(DocFields, EachColumnReadsItsOwnFieldAndCellTextsShowDashesForRepeatedStamp
     using K = FieldKind;
     DocInfo info;
     // Unknown ids read the printed time, which the filter relies on.
-    const struct { uint16_t id; FieldKind kind; const void* field; } columns[] = {
-        {0, K::None, &info.printedTime}, {COL_NAME, K::Name, nullptr}, {COL_SIZE, K::Size, nullptr},
-        {COL_TITLE, K::Text, &info.title}, {COL_TOPIC, K::Text, &info.topic},
-        {COL_CREATED_DATE, K::Date, &info.createdDate}, {COL_CREATED_TIME, K::Time, &info.createdTime},
-        {COL_AUTHOR, K::Text, &info.author}, {COL_MODIFIED_DATE, K::Date, &info.modifiedDate},
-        {COL_MODIFIED_TIME, K::Time, &info.modifiedTime}, {COL_MODIFIED_BY, K::Text, &info.modifiedBy},
-        {COL_PRINTED_DATE, K::Date, &info.printedDate}, {COL_PRINTED_TIME, K::Time, &info.printedTime},
-        {COL_PRINTED_BY, K::Text, &info.printedBy}, {COL_COMMENT, K::Text, &info.comment},
-        {COL_KEYWORDS, K::Text, &info.keywords}, {COL_INFO0, K::Text, &info.info[0]},
-        {COL_INFO3, K::Text, &info.info[3]}, {COL_DIRECTORY, K::Directory, nullptr},
-        {21, K::None, &info.printedTime}};
+    const struct {
+        uint16_t id;
+        FieldKind kind;
+        const void* field;
+    } columns[] = {{0, K::None, &info.printedTime},
+                   {COL_NAME, K::Name, nullptr},
+                   {COL_SIZE, K::Size, nullptr},
+                   {COL_TITLE, K::Text, &info.title},
+                   {COL_TOPIC, K::Text, &info.topic},
+                   {COL_CREATED_DATE, K::Date, &info.createdDate},
+                   {COL_CREATED_TIME, K::Time, &info.createdTime},
+                   {COL_AUTHOR, K::Text, &info.author},
+                   {COL_MODIFIED_DATE, K::Date, &info.modifiedDate},
+                   {COL_MODIFIED_TIME, K::Time, &info.modifiedTime},
+                   {COL_MODIFIED_BY, K::Text, &info.modifiedBy},
+                   {COL_PRINTED_DATE, K::Date, &info.printedDate},
+                   {COL_PRINTED_TIME, K::Time, &info.printedTime},
+                   {COL_PRINTED_BY, K::Text, &info.printedBy},
+                   {COL_COMMENT, K::Text, &info.comment},
+                   {COL_KEYWORDS, K::Text, &info.keywords},
+                   {COL_INFO0, K::Text, &info.info[0]},
+                   {COL_INFO3, K::Text, &info.info[3]},
+                   {COL_DIRECTORY, K::Directory, nullptr},
+                   {21, K::None, &info.printedTime}};
     for (const auto& c : columns) {
         EXPECT_EQ(KindOfColumn(c.id), c.kind) << c.id;
         const void* field = nullptr;
@@ -44,13 +57,22 @@ TEST(DocFields, EachColumnReadsItsOwnFieldAndCellTextsShowDashesForRepeatedStamp
     cell.modifiedTime = Time(11, 30, 0);
     cell.printedBy = "Printer";
     cell.info[3] = "three";
-    const struct { uint16_t id; std::string text; } cells[] = {
-        {COL_NAME, "report.odt"}, {COL_SIZE, "0"}, {COL_DIRECTORY, "/home/user/docs"},
-        {COL_INFO3, "three"}, {0, ""}, {21, ""},
-        // Modified on the creation day: the date is judged alone, the time separately.
-        {COL_MODIFIED_DATE, "---"}, {COL_MODIFIED_TIME, intl::FormatTime(cell.modifiedTime)},
-        // Never printed: all three printed columns.
-        {COL_PRINTED_DATE, "---"}, {COL_PRINTED_TIME, "---"}, {COL_PRINTED_BY, "---"}};
+    const struct {
+        uint16_t id;
+        std::string text;
+    } cells[] = {{COL_NAME, "report.odt"},
+                 {COL_SIZE, "0"},
+                 {COL_DIRECTORY, "/home/user/docs"},
+                 {COL_INFO3, "three"},
+                 {0, ""},
+                 {21, ""},
+                 // Modified on the creation day: the date is judged alone, the time separately.
+                 {COL_MODIFIED_DATE, "---"},
+                 {COL_MODIFIED_TIME, intl::FormatTime(cell.modifiedTime)},
+                 // Never printed: all three printed columns.
+                 {COL_PRINTED_DATE, "---"},
+                 {COL_PRINTED_TIME, "---"},
+                 {COL_PRINTED_BY, "---"}};
     for (const auto& c : cells)
         EXPECT_EQ(GetFieldString(cell, c.id), c.text) << c.id;
 
@@ -70,8 +92,7 @@ TEST(DocFields, EachColumnReadsItsOwnFieldAndCellTextsShowDashesForRepeatedStamp
 using Entries = std::vector<std::string>;
 
 // Rows with these entries, each changed by `fill` (given its index), sorted; their entries.
-static Entries Sorted(const Entries& entries, uint16_t column, bool ascending,
-                      const std::function<void(DocInfo&, size_t)>& fill = {})
+static Entries Sorted(const Entries& entries, uint16_t column, bool ascending, const std::function<void(DocInfo&, size_t)>& fill = {})
 {
     std::vector<std::unique_ptr<DocInfo>> rows;
     for (const std::string& entry : entries) {
@@ -102,12 +123,9 @@ TEST(DocSort, TextIsByteWiseAndCaseSensitiveNumbersGoByValue)
     // Never modified (date 0) sorts first; times are signed, sizes unsigned.
     const Entries entries = {"0", "1", "2"};
     const Date dates[] = {Date(1, 1, 2020), Date(0), Date(31, 12, 1999)};
-    EXPECT_EQ(Sorted(entries, 8, true, [&](DocInfo& row, size_t i) { row.modifiedDate = dates[i]; }),
-              (Entries{"1", "2", "0"}));
+    EXPECT_EQ(Sorted(entries, 8, true, [&](DocInfo& row, size_t i) { row.modifiedDate = dates[i]; }), (Entries{"1", "2", "0"}));
     const Time times[] = {Time(0, 0, 1), Time(-int32_t(Time(1, 0, 0).GetTime())), Time(0)};
-    EXPECT_EQ(Sorted(entries, 6, true, [&](DocInfo& row, size_t i) { row.createdTime = times[i]; }),
-              (Entries{"1", "2", "0"}));
+    EXPECT_EQ(Sorted(entries, 6, true, [&](DocInfo& row, size_t i) { row.createdTime = times[i]; }), (Entries{"1", "2", "0"}));
     const uint32_t sizes[] = {5, 0x80000000u, 7};
-    EXPECT_EQ(Sorted(entries, 2, false, [&](DocInfo& row, size_t i) { row.size = sizes[i]; }),
-              (Entries{"1", "2", "0"}));
+    EXPECT_EQ(Sorted(entries, 2, false, [&](DocInfo& row, size_t i) { row.size = sizes[i]; }), (Entries{"1", "2", "0"}));
 }

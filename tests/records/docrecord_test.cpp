@@ -41,11 +41,15 @@ TEST(DocRecord, ImageMatchesTheLayoutReadsBackCutsLongTextWithoutSplittingAChara
     info.info = {"i0", "i1", "i2", "i3"};
 
     Record expected("report.odt");
-    expected.Text(TITLE, 63, "Quarterly report").Text(TOPIC, 63, "  inner  blanks  ")
-        .Triple(CREATED_DATE, 31, 12, 99).Triple(CREATED_TIME, 13, 45, 27)
+    expected.Text(TITLE, 63, "Quarterly report")
+        .Text(TOPIC, 63, "  inner  blanks  ")
+        .Triple(CREATED_DATE, 31, 12, 99)
+        .Triple(CREATED_TIME, 13, 45, 27)
         .Text(AUTHOR, 31, std::string(31, 'A'))
-        .Triple(MODIFIED_DATE, 1, 1, 100).Triple(MODIFIED_TIME, 8, 5, 3)
-        .Triple(PRINTED_DATE, 15, 6, 0).Text(KEYWORDS, 127, "alpha, beta");
+        .Triple(MODIFIED_DATE, 1, 1, 100)
+        .Triple(MODIFIED_TIME, 8, 5, 3)
+        .Triple(PRINTED_DATE, 15, 6, 0)
+        .Text(KEYWORDS, 127, "alpha, beta");
     for (size_t i = 0; i < 4; ++i)
         expected.Text(INFO0 + i * INFO_STEP, 19, "i" + std::to_string(i));
     ASSERT_EQ(Image(info), expected.Bytes());
@@ -70,10 +74,10 @@ TEST(DocRecord, ImageMatchesTheLayoutReadsBackCutsLongTextWithoutSplittingAChara
     DocInfo cut;
     cut.entry = "/d/" + std::string(40, 'n');
     cut.title = std::string(70, 'T');
-    cut.topic = std::string(62, 'x') + "\xC3\xA9";              // ends inside the é
-    cut.info[0] = std::string(17, 'y') + "\xF0\x9F\x93\x84z";   // inside a 4-byte character
-    cut.info[1] = std::string(17, 'w') + "\xC3\xA9more";        // é ends at the width
-    cut.comment = std::string(300, '\x80');                     // no UTF-8: cut at the width
+    cut.topic = std::string(62, 'x') + "\xC3\xA9";             // ends inside the é
+    cut.info[0] = std::string(17, 'y') + "\xF0\x9F\x93\x84z";  // inside a 4-byte character
+    cut.info[1] = std::string(17, 'w') + "\xC3\xA9more";       // é ends at the width
+    cut.comment = std::string(300, '\x80');                    // no UTF-8: cut at the width
     const std::string image = Image(cut);
 
     EXPECT_EQ(image.substr(NAME, 32), std::string(32, 'n'));
@@ -95,4 +99,3 @@ TEST(DocRecord, ImageMatchesTheLayoutReadsBackCutsLongTextWithoutSplittingAChara
     EXPECT_EQ(cleaned.comment, std::string("one two three ") + '\0' + "\x7F" + "end");
     EXPECT_EQ(cleaned.title, "keep\nbreak");
 }
-

@@ -54,7 +54,8 @@ TEST_F(IndexTest, ManyRecordsMatchInAnyOrderVanishedOnesAndATemporaryFileLeftBeh
         const std::string name = "d" + std::to_string(i) + ".odt";
         Doc(name);
         source.known[name] = Named(name);
-        records.push_back(SampleRecord(name).Text(indeximage::COMMENT, 255, name)
+        records.push_back(SampleRecord(name)
+                              .Text(indeximage::COMMENT, 255, name)
                               .Text(indeximage::KEYWORDS, 127, name)
                               .Text(indeximage::INFO0 + 3 * indeximage::INFO_STEP, 19, name));
         if (i % 1000 == 0)  // vanished documents force a full rewrite
@@ -107,12 +108,17 @@ TEST_F(IndexTest, FoldersAndIndexesThatCannotBeUsed)
 {
     Docs({"current.odt", "changed.odt", "new.odt", "closed/b.odt"});
     chmod(dir.PathOf("closed").c_str(), 0);
-    const std::string original = Image({SampleRecord("current.odt"), SampleRecord("changed.odt"),
-                                        SampleRecord("gone.odt")});
+    const std::string original = Image({SampleRecord("current.odt"), SampleRecord("changed.odt"), SampleRecord("gone.odt")});
     source.known["changed.odt"] = Named("changed.odt");
     const Names all = {"changed.odt", "current.odt", "new.odt"};
     // Modes of the folder and of the index; the listing runs as an ordinary user.
-    const struct { const char* what; mode_t folder, index; int reads; Names rows; bool kept; } cases[] = {
+    const struct {
+        const char* what;
+        mode_t folder, index;
+        int reads;
+        Names rows;
+        bool kept;
+    } cases[] = {
         {"read-only folder: its index is used, a closed subfolder skipped", 0555, 0644, 1, all, true},
         {"neither readable nor deletable index: the files are read", 0555, 0, 2, all, true},
         {"unreadable index: nothing listed once, and deleted", 0777, 0, 1, {}, false},
@@ -124,19 +130,20 @@ TEST_F(IndexTest, FoldersAndIndexesThatCannotBeUsed)
         dir.SetMTime("changed.odt", NEWER + 1);
         chmod(dir.PathOf(INDEX).c_str(), c.index);
         chmod(dir.Path().c_str(), c.folder);
-        const int status = InChild([&] {
-            if (c.folder == 0555 && access(dir.Path().c_str(), W_OK) == 0)
-                return 100;
-            for (int i = 0; i < c.reads; ++i)
-                ReadDir(c.index != 0);
-            Names names = RowNames();
-            std::sort(names.begin(), names.end());
-            if (names != c.rows)
-                return 1;
-            // A readable index: the current record is used, the changed one read again.
-            return c.index == 0 || (source.CallsFor(dir.PathOf("current.odt")) == 0 &&
-                                    rows.Row(1).comment == "changed.odt") ? 0 : 2;
-        }, true);
+        const int status = InChild(
+            [&] {
+                if (c.folder == 0555 && access(dir.Path().c_str(), W_OK) == 0)
+                    return 100;
+                for (int i = 0; i < c.reads; ++i)
+                    ReadDir(c.index != 0);
+                Names names = RowNames();
+                std::sort(names.begin(), names.end());
+                if (names != c.rows)
+                    return 1;
+                // A readable index: the current record is used, the changed one read again.
+                return c.index == 0 || (source.CallsFor(dir.PathOf("current.odt")) == 0 && rows.Row(1).comment == "changed.odt") ? 0 : 2;
+            },
+            true);
         chmod(dir.Path().c_str(), 0755);
         if (status == 100)
             GTEST_SKIP() << "permissions do not apply here";
@@ -149,8 +156,7 @@ TEST_F(IndexTest, DocumentReplacedDuringAListingIsReadAgainNextTime)
 {
     // A full rewrite (no index), an update in place (a stale record) and an append (a
     // new file): each leaves an index that is not younger than the replaced document.
-    const std::vector<std::string> indexes = {"", Image({SampleRecord("a.odt")}),
-                                              Image({SampleRecord("z.odt")})};
+    const std::vector<std::string> indexes = {"", Image({SampleRecord("a.odt")}), Image({SampleRecord("z.odt")})};
     for (const std::string& index : indexes) {
         dir.Remove(INDEX);
         Docs({"a.odt", "z.odt"});
@@ -181,7 +187,7 @@ TEST_F(IndexTest, AnythingButAPlainFileUnderTheIndexNameIsLeftAlone)
     const std::string valid = Image({SampleRecord("a.odt")});
     dir.MakeFile("real-index", valid, NEWER);
     const std::vector<std::function<void()>> makers = {
-        [&] { dir.MakeFile(std::string(INDEX) + "/inside", "x"); },  // a non-empty folder
+        [&] { dir.MakeFile(std::string(INDEX) + "/inside", "x"); },      // a non-empty folder
         [&] { ASSERT_EQ(mkfifo(dir.PathOf(INDEX).c_str(), 0600), 0); },  // a pipe would block a read
         [&] { dir.MakeLink(INDEX, dir.PathOf("real-index")); },
     };

@@ -44,8 +44,7 @@ TEST_F(IndexTest, MissingIndexIsWrittenAndNonDocumentsAreNotAskedAgain)
 TEST_F(IndexTest, ChangedDocumentIsOverwrittenInPlace)
 {
     Docs({"a.odt", "b.odt", "c.odt", "x.odt"});
-    const std::string original = Image({SampleRecord("c.odt"), SampleRecord("b.odt"), SampleRecord("a.odt"),
-                                        SampleRecord("x.odt")});
+    const std::string original = Image({SampleRecord("c.odt"), SampleRecord("b.odt"), SampleRecord("a.odt"), SampleRecord("x.odt")});
     WriteIndex(original, NEWER, 499);
     // b changed after the index was written; a was saved in the same nanosecond as the
     // index, which does not make the index younger; x changed and is no document now.
@@ -84,19 +83,24 @@ TEST_F(IndexTest, DamagedForeignOrOversizedIndexes)
 {
     Doc("a.odt");
     const std::string good = Image({SampleRecord("a.odt")});
-    const std::string foreign =
-        indeximage::Header(255, 106, std::string_view("KIDY\0", 5)) + SampleRecord("a.odt").Bytes();
+    const std::string foreign = indeximage::Header(255, 106, std::string_view("KIDY\0", 5)) + SampleRecord("a.odt").Bytes();
     const std::string fifth = std::string(good).replace(4, 1, "!");
     const Names a = {"a.odt"};
     // An empty `after` means the index is deleted.
-    const struct { const char* what; std::string bytes; const char* pattern; off_t size;
-                   Names rows; int calls; std::string after; } cases[] = {
+    const struct {
+        const char* what;
+        std::string bytes;
+        const char* pattern;
+        off_t size;
+        Names rows;
+        int calls;
+        std::string after;
+    } cases[] = {
         {"short of magic and version: nothing listed once", "KIDX\0\xFF"s, "*", 0, {}, 0, ""},
         {"foreign: probed and kept", foreign, "*", 0, a, 1, foreign},
         {"nothing listed: even a foreign file goes", foreign, "*.none", 0, {}, 0, ""},
         {"the fifth byte is not looked at", fifth, "*", 0, a, 0, fifth},
-        {"wrong version: probed and rewritten", indeximage::Header(254, 4) + SampleRecord("a.odt").Bytes(),
-         "*", 0, a, 1, good},
+        {"wrong version: probed and rewritten", indeximage::Header(254, 4) + SampleRecord("a.odt").Bytes(), "*", 0, a, 1, good},
         // A sparse file of 64 GiB: reading it whole would not fit in memory.
         {"oversized: probed and rewritten", good, "*", off_t(64) << 30, a, 1, good},
     };
@@ -121,7 +125,11 @@ TEST_F(IndexTest, TruncatedLastRecordIsLeftDuplicateOrVanishedRecordsCauseOneRew
     Record firstA = SampleRecord("a.odt");
     firstA.Text(indeximage::TITLE, 63, "first");
     const std::string truncated = Image({SampleRecord("a.odt")}) + SampleRecord("b.odt").Bytes().substr(0, 727);
-    const struct { std::string index; int calls; std::string after; } cases[] = {
+    const struct {
+        std::string index;
+        int calls;
+        std::string after;
+    } cases[] = {
         {truncated, 1, truncated + SampleRecord("b.odt").Bytes()},  // b read and appended
         {Image({firstA, SampleRecord("gone.odt"), SampleRecord("a.odt"), SampleRecord("b.odt")}), 0,
          Image({firstA, SampleRecord("b.odt")})},  // the first of two records counts
@@ -159,4 +167,3 @@ TEST_F(IndexTest, TruncatedLastRecordIsLeftDuplicateOrVanishedRecordsCauseOneRew
     ReadDir();
     EXPECT_EQ(Index().size(), indeximage::RecordOffset(2));
 }
-

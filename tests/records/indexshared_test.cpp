@@ -25,7 +25,11 @@ TEST_F(IndexTest, PrivateDocumentsGetNoRecordAndEveryReaderOfTheFolderMayReadThe
     WriteIndex(Image({SampleRecord("open.odt"), SampleRecord("secret.odt")}));
 
     const mode_t umaskBefore = umask(077);
-    const struct { mode_t folder; mode_t index; Names recorded; } cases[] = {
+    const struct {
+        mode_t folder;
+        mode_t index;
+        Names recorded;
+    } cases[] = {
         {0755, 0644, {"open.odt", "shared-link.odt"}},
         {0750, 0640, {"group.odt", "open.odt", "shared-link.odt"}},
     };
@@ -39,8 +43,7 @@ TEST_F(IndexTest, PrivateDocumentsGetNoRecordAndEveryReaderOfTheFolderMayReadThe
         std::sort(names.begin(), names.end());
         EXPECT_EQ(names, (Names{"group.odt", "hidden-link.odt", "open.odt", "secret.odt", "shared-link.odt"}));
         const std::string index = Index();
-        for (size_t at = indeximage::HEADER_SIZE; at + indeximage::RECORD_SIZE <= index.size();
-             at += indeximage::RECORD_SIZE)
+        for (size_t at = indeximage::HEADER_SIZE; at + indeximage::RECORD_SIZE <= index.size(); at += indeximage::RECORD_SIZE)
             recorded.push_back(index.substr(at, index.find(' ', at) - at));
         std::sort(recorded.begin(), recorded.end());
         EXPECT_EQ(recorded, c.recorded);

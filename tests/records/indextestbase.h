@@ -32,20 +32,14 @@ protected:
         rows.ReadWriteDocInfos(dir.Path(), withSubdirs);
     }
 
-    std::string Doc(const std::string& name, const std::string& contents = "content")
-    {
-        return dir.MakeFile(name, contents, OLD);
-    }
+    std::string Doc(const std::string& name, const std::string& contents = "content") { return dir.MakeFile(name, contents, OLD); }
     void Docs(std::initializer_list<const char*> names)
     {
         for (const char* name : names)
             Doc(name);
     }
 
-    void WriteIndex(const std::string& bytes, int64_t seconds = NEWER, long ns = 0)
-    {
-        dir.MakeFile(INDEX, bytes, seconds, ns);
-    }
+    void WriteIndex(const std::string& bytes, int64_t seconds = NEWER, long ns = 0) { dir.MakeFile(INDEX, bytes, seconds, ns); }
 
     std::string Index() const { return dir.Read(INDEX); }
 

@@ -13,8 +13,7 @@ protected:
     DocGroupConfig& group = config.WorkingGroup();
 
     // Condition row r: field, condition and the value of its kind.
-    void Row(size_t r, uint16_t field, int condition, const std::string& value = {},
-             uint32_t date = 0, int32_t time = 0)
+    void Row(size_t r, uint16_t field, int condition, const std::string& value = {}, uint32_t date = 0, int32_t time = 0)
     {
         group.filterField[r] = field;
         group.filterCondition[r] = condition;
@@ -49,13 +48,21 @@ TEST_F(MatchesTest, TextFiltersCaseWhatPutsAFilterInForceAndTheConditionKinds)
     EXPECT_TRUE(FilterInForce(group));
 
     // Upper-casing is not ASCII-only; keywords are alternatives split at ";", else at ",".
-    const struct { bool sensitive; const char* title; const char* keywords; const char* docTitle;
-                   const char* docKeywords; bool passes; } cases[] = {
-        {true, "Plan", "", "Plan", "", true},   {true, "Plan", "", "plan", "", false},
-        {false, "Plan", "", "PLAN", "", true},  {false, "Plan", "", "Plans", "", false},
-        {false, "*\xC3\xA9t\xC3\xA9*", "", "Un \xC3\x89T\xC3\x89 chaud", "", true},
-        {false, "", "alpha;beta", "x", "beta", true}, {false, "", "alpha,beta", "x", "beta", true},
-        {false, "", "alpha,beta", "x", "alpha beta", false}};
+    const struct {
+        bool sensitive;
+        const char* title;
+        const char* keywords;
+        const char* docTitle;
+        const char* docKeywords;
+        bool passes;
+    } cases[] = {{true, "Plan", "", "Plan", "", true},
+                 {true, "Plan", "", "plan", "", false},
+                 {false, "Plan", "", "PLAN", "", true},
+                 {false, "Plan", "", "Plans", "", false},
+                 {false, "*\xC3\xA9t\xC3\xA9*", "", "Un \xC3\x89T\xC3\x89 chaud", "", true},
+                 {false, "", "alpha;beta", "x", "beta", true},
+                 {false, "", "alpha,beta", "x", "beta", true},
+                 {false, "", "alpha,beta", "x", "alpha beta", false}};
     for (const auto& c : cases) {
         group.filterSensitive = c.sensitive;
         group.filterTitle = c.title;
@@ -71,8 +78,16 @@ TEST_F(MatchesTest, TextFiltersCaseWhatPutsAFilterInForceAndTheConditionKinds)
     stamped.createdTime = Time(12, 0, 0);
     stamped.printedTime = Time(-int32_t(Time(1, 0, 0).GetTime()));
     DocInfo never = Doc("x");  // never modified: date 0
-    const struct { const char* what; uint16_t field; int condition; std::string value;
-                   uint32_t date; int32_t time; DocInfo doc; bool passes; } kinds[] = {
+    const struct {
+        const char* what;
+        uint16_t field;
+        int condition;
+        std::string value;
+        uint32_t date;
+        int32_t time;
+        DocInfo doc;
+        bool passes;
+    } kinds[] = {
         {"size, the star is lost: equality", 2, 6, "1*", 0, 0, Doc("x", 1), true},
         {"size, the star is lost", 2, 6, "1*", 0, 0, Doc("x", 10), false},
         {"date 0 is less than any date", 8, 4, {}, 19990101, 0, never, true},
@@ -120,17 +135,19 @@ TEST_F(MatchesTest, ThreeRowsBindAndTighterThanOrAndConditionsAboveSixKeepTheRes
     Row(1, 2, 0, "1");
     Row(2, 7, 0, "Z");
     // Links 1 = AND, others OR: {2, 1} is r0 OR (r1 AND r2), {1, 2} is (r0 AND r1) OR r2.
-    const struct { std::array<int32_t, 2> link; DocInfo doc; bool passes; } cases[] = {
-        {{2, 1}, Doc("A", 0), true},       {{2, 1}, Doc("B", 1), false},
-        {{2, 1}, Doc("B", 1, "Z"), true},  {{1, 2}, Doc("A", 0), false},
-        {{1, 2}, Doc("A", 1), true},       {{1, 2}, Doc("B", 0, "Z"), true},
-        {{1, 1}, Doc("A", 1), false},      {{1, 1}, Doc("A", 1, "Z"), true},
-        {{3, 3}, Doc("B", 0, "Z"), true},  {{3, 3}, Doc("B", 0, "Y"), false},
+    const struct {
+        std::array<int32_t, 2> link;
+        DocInfo doc;
+        bool passes;
+    } cases[] = {
+        {{2, 1}, Doc("A", 0), true},       {{2, 1}, Doc("B", 1), false},     {{2, 1}, Doc("B", 1, "Z"), true},
+        {{1, 2}, Doc("A", 0), false},      {{1, 2}, Doc("A", 1), true},      {{1, 2}, Doc("B", 0, "Z"), true},
+        {{1, 1}, Doc("A", 1), false},      {{1, 1}, Doc("A", 1, "Z"), true}, {{3, 3}, Doc("B", 0, "Z"), true},
+        {{3, 3}, Doc("B", 0, "Y"), false},
     };
     for (const auto& c : cases) {
         group.filterLink = c.link;
-        EXPECT_EQ(Passes(c.doc), c.passes)
-            << c.link[0] << "," << c.link[1] << " " << c.doc.title << c.doc.size << c.doc.author;
+        EXPECT_EQ(Passes(c.doc), c.passes) << c.link[0] << "," << c.link[1] << " " << c.doc.title << c.doc.size << c.doc.author;
     }
 
     // A condition above six keeps the previous result; a first row has none to keep.

@@ -8,7 +8,7 @@
 struct GroupSpec {
     std::string name{};
     std::string section = "Tests";
-    std::string paths{};  // ";"-separated
+    std::string paths{};     // ";"-separated
     std::string guis = "1";  // one flag per path
     std::string filterTitle{};
     std::string filterFiles = "*.odt;*.docx;*.pdf";

@@ -18,10 +18,12 @@ constexpr size_t PRINTED_DATE = 233, PRINTED_TIME = 236, PRINTED_BY = 239;
 constexpr size_t COMMENT = 270, KEYWORDS = 525, INFO0 = 652, INFO_STEP = 19;
 
 // "KIDX" NUL, the version (little-endian 16 bits), the character set (32 bits).
-std::string Header(uint16_t version = 255, uint32_t charSet = 106,
-                   std::string_view magic = std::string_view("KIDX\0", 5));
+std::string Header(uint16_t version = 255, uint32_t charSet = 106, std::string_view magic = std::string_view("KIDX\0", 5));
 
-constexpr size_t RecordOffset(size_t i) { return HEADER_SIZE + RECORD_SIZE * i; }
+constexpr size_t RecordOffset(size_t i)
+{
+    return HEADER_SIZE + RECORD_SIZE * i;
+}
 
 // One record; starts as the image of an empty DocInfo with the given name: blanks,
 // hasInfo as given, every date "unset" (0, 0, 148) and every time 0.

@@ -119,7 +119,11 @@ protected:
         return names;
     }
 
-    template <class W> W* Child(const char* name) { return In<W>(*host, name); }
+    template <class W>
+    W* Child(const char* name)
+    {
+        return In<W>(*host, name);
+    }
 
     // The child `name` of a dialog or other widget.
     template <class W>

@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 
 void testfs::WaitForFileClock()
 {
-    timespec now {}, coarse {};
+    timespec now{}, coarse{};
     clock_gettime(CLOCK_REALTIME, &now);
     do {
         usleep(1000);
@@ -70,8 +70,7 @@ std::string TempDir::MakeFile(const std::string& relative, const std::string& co
     return PathOf(relative);
 }
 
-std::string TempDir::MakeFile(const std::string& relative, const std::string& contents,
-                              int64_t seconds, long nanoseconds)
+std::string TempDir::MakeFile(const std::string& relative, const std::string& contents, int64_t seconds, long nanoseconds)
 {
     MakeFile(relative, contents);
     SetMTime(relative, seconds, nanoseconds);

@@ -29,8 +29,7 @@ public:
     // Writes a file (parent directories created, an existing file replaced); returns its path.
     std::string MakeFile(const std::string& relative, const std::string& contents = {});
     // Same, and gives it the modification time `seconds` since the epoch.
-    std::string MakeFile(const std::string& relative, const std::string& contents,
-                         int64_t seconds, long nanoseconds = 0);
+    std::string MakeFile(const std::string& relative, const std::string& contents, int64_t seconds, long nanoseconds = 0);
     std::string MakeDir(const std::string& relative);
     // A symbolic link at `relative` pointing to `target` (taken as it stands).
     std::string MakeLink(const std::string& relative, const std::string& target);

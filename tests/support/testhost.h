@@ -56,8 +56,5 @@ public:
         return info;
     }
 
-    bool ChangeDocInfo(QWidget*, const std::string&) override
-    {
-        return changeResult;
-    }
+    bool ChangeDocInfo(QWidget*, const std::string&) override { return changeResult; }
 };

@@ -87,9 +87,10 @@ TEST_F(ConfigFile, MissingFileIsEmptyWritesMakeSectionsGarbageIsReadWithoutHarmA
     dir.MakeFile("readonly/docmgr.cfg", "[A]\nK=old\n");
     chmod(dir.PathOf("readonly").c_str(), 0555);
     const bool root = geteuid() == 0;
-    const struct { std::string file; bool loads; } cases[] = {
-        {dir.PathOf("folder.cfg"), false}, {dir.PathOf("missing/docmgr.cfg"), true},
-        {dir.PathOf("readonly/docmgr.cfg"), true}};
+    const struct {
+        std::string file;
+        bool loads;
+    } cases[] = {{dir.PathOf("folder.cfg"), false}, {dir.PathOf("missing/docmgr.cfg"), true}, {dir.PathOf("readonly/docmgr.cfg"), true}};
     for (const auto& c : cases) {
         if (root && c.file == cases[2].file)
             continue;
@@ -103,4 +104,3 @@ TEST_F(ConfigFile, MissingFileIsEmptyWritesMakeSectionsGarbageIsReadWithoutHarmA
     EXPECT_TRUE(std::filesystem::is_directory(dir.PathOf("folder.cfg")));
     EXPECT_EQ(dir.Read("readonly/docmgr.cfg"), "[A]\nK=old\n");
 }
-

@@ -56,7 +56,12 @@ TEST_F(Files, CopyAndMoveNeverOverwriteNorLoseAFile)
     tmp.MakeFile("source", text);
     chmod(At("source").c_str(), 0640);
     using Op = int (*)(const std::string&, const std::string&);
-    const struct { const char* what; Op op; std::string from, to; int result; } cases[] = {
+    const struct {
+        const char* what;
+        Op op;
+        std::string from, to;
+        int result;
+    } cases[] = {
         {"copy onto a file", fsutil::CopyFile, At("source"), At("target"), EEXIST},
         {"move onto a file", fsutil::MoveFile, At("source"), At("target"), EEXIST},
         {"copy of nothing", fsutil::CopyFile, At("nothing"), At("x"), ENOENT},
@@ -98,9 +103,9 @@ TEST_F(Files, FolderNamesStayBelowTheBaseAndAMoveAcrossDevicesCopiesThenRemoves)
     // A move across devices copies (more than one buffer), then removes.
     QTemporaryDir shm(QStringLiteral("/dev/shm/docmgr-test-XXXXXX"));
     const std::string other = shm.path().toStdString();
-    struct stat here {}, there {};
-    if (!shm.isValid() || stat(dir.c_str(), &here) != 0 || stat(other.c_str(), &there) != 0
-        || here.st_dev == there.st_dev)
+    struct stat here {
+    }, there{};
+    if (!shm.isValid() || stat(dir.c_str(), &here) != 0 || stat(other.c_str(), &there) != 0 || here.st_dev == there.st_dev)
         GTEST_SKIP() << "no writable /dev/shm on another device";
     const std::string contents(300000, 'z');
     ASSERT_EQ(docfileops::MoveInto(tmp.MakeFile("a.odt", contents), other), 0);
@@ -147,7 +152,11 @@ TEST_F(Files, TemporaryFilesOfAKilledWriterAreKnownAndThoseOfOtherHostsLeftWhile
     // A process id that no process has: far beyond any pid_max.
     const std::string dead = "1073741000", alive = std::to_string(getpid());
     const int64_t now = time(nullptr);
-    const struct { std::string name; int64_t age; bool abandoned; } cases[] = {
+    const struct {
+        std::string name;
+        int64_t age;
+        bool abandoned;
+    } cases[] = {
         {".docindex.tmp-" + tag + "-" + dead + "-0-77", 0, true},
         {".docindex.tmp-" + tag + "-" + alive + "-0-77", 7200, false},
         {".docindex.tmp-" + dead + "-0-77", 0, true},  // written before the host was named

@@ -1,3 +1,6 @@
 #include "tests/support/testmain.h"
 
-int main(int argc, char** argv) { return TestMain(argc, argv); }
+int main(int argc, char** argv)
+{
+    return TestMain(argc, argv);
+}

@@ -10,7 +10,10 @@
 #include "docmgr/view/frozencolumns.h"
 #include "tests/support/managerfixture.h"
 
-static int ColumnOf(DocBrowser& browser, uint16_t id) { return browser.GetModel()->ColumnOf(id); }
+static int ColumnOf(DocBrowser& browser, uint16_t id)
+{
+    return browser.GetModel()->ColumnOf(id);
+}
 
 TEST_F(ManagerTest, ColumnsComeFromTheWorkingGroupsSlotsAndCellsAreAlignedByKind)
 {
@@ -28,8 +31,7 @@ TEST_F(ManagerTest, ColumnsComeFromTheWorkingGroupsSlotsAndCellsAreAlignedByKind
     for (const auto& [id, xs] : {std::pair{COL_NAME, 10}, {COL_SIZE, 8}, {COL_TITLE, 15}, {COL_DIRECTORY, 20}})
         EXPECT_EQ(browser.columnWidth(ColumnOf(browser, id)), xs * x) << id;
     EXPECT_EQ(browser.columnWidth(ColumnOf(browser, COL_TOPIC)), 50);  // "Topic" + 10 is narrower
-    EXPECT_EQ(browser.columnWidth(ColumnOf(browser, COL_MODIFIED_BY)),
-              std::max(50, metrics.horizontalAdvance("Modified by") + 10));
+    EXPECT_EQ(browser.columnWidth(ColumnOf(browser, COL_MODIFIED_BY)), std::max(50, metrics.horizontalAdvance("Modified by") + 10));
 
     // A stored width is taken as it stands, 0 included; ids need not be in order.
     Working().columnWidth[0] = 0;
@@ -71,8 +73,7 @@ TEST_F(ManagerTest, HeaderDoubleClickFitsTheColumnWidthsAreStoredFrozenColumnsSt
     QHeaderView* header = browser.horizontalHeader();
     const int x = header->sectionViewportPosition(titleColumn) + header->sectionSize(titleColumn) / 2;
     QTest::mouseDClick(header->viewport(), Qt::LeftButton, {}, QPoint(x, header->height() / 2));
-    const int widest = QFontMetrics(browser.font()).horizontalAdvance("A somewhat longer title") +
-                       2 * DocCellDelegate::TEXT_MARGIN;
+    const int widest = QFontMetrics(browser.font()).horizontalAdvance("A somewhat longer title") + 2 * DocCellDelegate::TEXT_MARGIN;
     EXPECT_EQ(browser.columnWidth(titleColumn), widest + 2);
 
     // Wider than half the data area: half of it less one, + 2.

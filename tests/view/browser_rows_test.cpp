@@ -27,11 +27,9 @@ TEST_F(ManagerTest, RowsAreSelectedByKeysWalkedInRowOrderKeptThroughASortAndShow
 
     // Selected in reverse order, in two runs; sorting anew keeps the selection.
     Browser().ClearSelection();
-    Browser().selectionModel()->select(Browser().model()->index(4, 0),
+    Browser().selectionModel()->select(Browser().model()->index(4, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    Browser().selectionModel()->select(QItemSelection(Browser().model()->index(1, 0), Browser().model()->index(2, 0)),
                                        QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    Browser().selectionModel()->select(
-        QItemSelection(Browser().model()->index(1, 0), Browser().model()->index(2, 0)),
-        QItemSelectionModel::Select | QItemSelectionModel::Rows);
     EXPECT_EQ(host->SelectedDocs(), (std::vector<std::string>{docs + "/b.odt", docs + "/c.odt", docs + "/e.odt"}));
     Working().sortAscending = false;
     Browser().SortFiles(true);
@@ -73,8 +71,8 @@ TEST_F(ManagerTest, ALongCollectionShowsHowFarItHasGotADoubleClickOnARowOpensIt)
         const QRect cell = browser.visualRect(browser.model()->index(1, 4));
         QWidget* viewport = browser.viewport();
         QTest::mouseClick(viewport, Qt::LeftButton, {}, cell.center());
-        QMouseEvent doubleClick(QEvent::MouseButtonDblClick, cell.center(), viewport->mapToGlobal(cell.center()),
-                                Qt::LeftButton, Qt::LeftButton, {});
+        QMouseEvent doubleClick(QEvent::MouseButtonDblClick, cell.center(), viewport->mapToGlobal(cell.center()), Qt::LeftButton,
+                                Qt::LeftButton, {});
         QApplication::sendEvent(viewport, &doubleClick);
         if (host->isVisible())
             host->done(0);
