@@ -19,8 +19,6 @@ bool KxFileStream::Open(const std::string& path, Mode mode)
     switch (mode) {
     case Mode::Read: flags |= O_RDONLY; break;
     case Mode::ReadWrite: flags |= O_RDWR; break;
-    case Mode::ReadWriteCreate: flags |= O_RDWR | O_CREAT; break;
-    case Mode::WriteTruncate: flags |= O_WRONLY | O_CREAT | O_TRUNC; break;
     }
     fd_ = open(path.c_str(), flags, 0666);
     position_ = 0;
@@ -88,21 +86,10 @@ bool KxFileStream::Status(uint64_t& size, int64_t& mtimeNs) const
     return true;
 }
 
-bool KxFileStream::Truncate(uint64_t size)
-{
-    return fd_ >= 0 && ftruncate(fd_, off_t(size)) == 0;
-}
-
-bool KxFileStream::SetModified(int64_t mtimeNs)
-{
-    const struct timespec times[2] = {{0, UTIME_OMIT}, {time_t(mtimeNs / 1000000000), long(mtimeNs % 1000000000)}};
-    return fd_ >= 0 && futimens(fd_, times) == 0;
-}
-
 bool KxFileStream::IsFileAt(const std::string& path) const
 {
-    struct stat open {
-    }, named{};
+    struct stat open {};
+    struct stat named {};
     return fd_ >= 0 && fstat(fd_, &open) == 0 && lstat(path.c_str(), &named) == 0 && open.st_dev == named.st_dev &&
            open.st_ino == named.st_ino;
 }

@@ -7,7 +7,7 @@
 
 class KxFileStream {
 public:
-    enum class Mode { Read, ReadWrite, ReadWriteCreate, WriteTruncate };
+    enum class Mode { Read, ReadWrite };
 
     KxFileStream() = default;
     ~KxFileStream();
@@ -28,10 +28,6 @@ public:
     // Size and modification time of the open file (not of whatever its name holds now).
     bool Status(uint64_t& size, int64_t& mtimeNs) const;
 
-    // Cuts or extends the file to `size` bytes.
-    bool Truncate(uint64_t size);
-    // Sets the modification time, in ns since the epoch.
-    bool SetModified(int64_t mtimeNs);
     // True while `path` still names the open file (it was not replaced or removed).
     bool IsFileAt(const std::string& path) const;
     // Exclusive lock on the whole file, waiting at most `waitMs`; false if not had.

@@ -103,8 +103,8 @@ TEST_F(Files, FolderNamesStayBelowTheBaseAndAMoveAcrossDevicesCopiesThenRemoves)
     // A move across devices copies (more than one buffer), then removes.
     QTemporaryDir shm(QStringLiteral("/dev/shm/docmgr-test-XXXXXX"));
     const std::string other = shm.path().toStdString();
-    struct stat here {
-    }, there{};
+    struct stat here {};
+    struct stat there {};
     if (!shm.isValid() || stat(dir.c_str(), &here) != 0 || stat(other.c_str(), &there) != 0 || here.st_dev == there.st_dev)
         GTEST_SKIP() << "no writable /dev/shm on another device";
     const std::string contents(300000, 'z');
