@@ -52,9 +52,9 @@ void DocReadAhead::Work()
         states_[i] = State::Reading;
         ++reading_;
         lock.unlock();
-        std::unique_ptr<DocInfo> info = ReadDocInfo(paths_[i]);
+        DocReading reading = ReadDocument(paths_[i]);
         lock.lock();
-        results_[i] = std::move(info);
+        results_[i] = std::move(reading);
         states_[i] = State::Read;
         --reading_;
         read_.notify_all();
@@ -63,17 +63,22 @@ void DocReadAhead::Work()
 
 std::unique_ptr<DocInfo> DocReadAhead::Take(const std::string& path)
 {
+    return TakeReading(path).info;
+}
+
+DocReading DocReadAhead::TakeReading(const std::string& path)
+{
     std::unique_lock lock(mutex_);
     const auto found = index_.find(path);
     // Not planned, or asked again: read here, as without the pool.
     if (found == index_.end()) {
         lock.unlock();
-        return ReadDocInfo(path);
+        return ReadDocument(path);
     }
     const size_t i = found->second;
     index_.erase(found);
     const bool readHere = states_[i] == State::Waiting;
-    std::unique_ptr<DocInfo> read;
+    DocReading read;
     if (readHere) {
         states_[i] = State::Read;  // no worker starts it now
     } else {
@@ -83,15 +88,17 @@ std::unique_ptr<DocInfo> DocReadAhead::Take(const std::string& path)
     // The last one taken, and no worker busy (a path planned twice): the plan goes whole.
     if (index_.empty() && reading_ == 0) {
         std::vector<std::string>().swap(paths_);
-        std::vector<std::unique_ptr<DocInfo>>().swap(results_);
+        std::vector<DocReading>().swap(results_);
         std::vector<State>().swap(states_);
     } else {
         std::string().swap(paths_[i]);
     }
     lock.unlock();
     if (readHere)
-        return ReadDocInfo(path);
+        return ReadDocument(path);
     // Copied on this thread, to the texts' lengths: the reader's strings, grown among its
     // scratch buffers in its own arena, would pin that memory for as long as the row lives.
-    return read ? std::make_unique<DocInfo>(*read) : nullptr;
+    if (read.info)
+        read.info = std::make_unique<DocInfo>(*read.info);
+    return read;
 }

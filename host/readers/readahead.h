@@ -1,7 +1,7 @@
 #pragma once
 // Reads the documents of a directory on every core ahead of their turn, so that the row
 // list, which asks for them one by one on its own thread, mostly finds them read. What it
-// hands out is exactly what ReadDocInfo returns.
+// hands out is exactly what ReadDocument returns.
 #include <condition_variable>
 #include <memory>
 #include <mutex>
@@ -11,7 +11,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "docmgr/records/docinfo.h"
+#include "host/readers/docreader.h"
 
 class DocReadAhead {
 public:
@@ -26,6 +26,8 @@ public:
     // The information of `path`: taken from the pool (waiting while it is being read), or
     // read here when it was not planned, not yet begun or already taken.
     std::unique_ptr<DocInfo> Take(const std::string& path);
+    // The same with the reason a document could not be read in full.
+    DocReading TakeReading(const std::string& path);
 
 private:
     enum class State : unsigned char { Waiting, Reading, Read };
@@ -36,7 +38,7 @@ private:
     // large directory the plan costs next to nothing beside the rows it became.
     std::vector<std::string> paths_;
     std::unordered_map<std::string_view, size_t> index_;  // into paths_; the ones not yet taken
-    std::vector<std::unique_ptr<DocInfo>> results_;
+    std::vector<DocReading> results_;
     std::vector<State> states_;
     size_t next_ = 0;
     size_t reading_ = 0;  // documents a worker is reading now

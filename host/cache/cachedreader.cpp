@@ -1,0 +1,131 @@
+#include "host/cache/cachedreader.h"
+
+#include <ctime>
+
+#include "docmgr/tools/fsutil.h"
+
+namespace {
+
+// Pending writes of a long-running window go out in batches of about this many.
+constexpr size_t kFlushAt = 5000;
+
+int64_t NowNs()
+{
+    timespec now {};
+    clock_gettime(CLOCK_REALTIME, &now);
+    return int64_t(now.tv_sec) * 1000000000 + now.tv_nsec;
+}
+
+}  // namespace
+
+bool CachedReader::Settled(const std::string& path, const FileIdentity& id)
+{
+    const std::string dir = fsutil::DirName(path);
+    if (dir != slackDir_) {
+        slackDir_ = dir;
+        // Network and FUSE mounts show the server's times, late and coarse.
+        slackNs_ = fsutil::CachesFileTimes(dir) ? 3000000000 : 100000000;
+    }
+    const int64_t limit = NowNs() - slackNs_;
+    return id.mtimeNs < limit && id.ctimeNs < limit;
+}
+
+bool CachedReader::Lookup(const std::string& path, const FileIdentity& id, DocReading& reading)
+{
+    DocCache::Entry entry;
+    if (!cache_ || !cache_->Find(path, entry) || !(entry.id == id))
+        return false;
+    if (entry.seenDay != DocCache::Today())
+        cache_->Seen(path);
+    reading = std::move(entry.reading);
+    return true;
+}
+
+void CachedReader::ReadAhead(const std::vector<std::string>& paths)
+{
+    hits_.clear();
+    planned_.clear();
+    if (!cache_) {
+        readAhead_.Start(paths);
+        return;
+    }
+    if (cache_->Pending() >= kFlushAt)
+        cache_->Flush();
+    std::vector<std::string> toRead;
+    std::string dir;
+    std::unordered_map<std::string, DocCache::Entry> folder;
+    const int64_t today = DocCache::Today();
+    for (const std::string& path : paths) {
+        FileIdentity id;
+        if (!IdentityOf(path, id)) {
+            toRead.push_back(path);
+            continue;
+        }
+        const std::string pathDir = fsutil::DirName(path);
+        if (pathDir != dir) {
+            dir = pathDir;
+            folder = cache_->Folder(dir);
+        }
+        const auto found = folder.find(fsutil::FileName(path));
+        if (found != folder.end() && found->second.id == id) {
+            if (found->second.seenDay != today)
+                cache_->Seen(path);
+            DocReading& reading = found->second.reading;
+            if (reading.info)
+                reading.info->entry = path;
+            hits_.emplace(path, std::move(reading));
+            continue;
+        }
+        planned_.emplace(path, id);
+        toRead.push_back(path);
+    }
+    readAhead_.Start(toRead);
+}
+
+std::unique_ptr<DocInfo> CachedReader::Take(const std::string& path)
+{
+    if (const auto hit = hits_.find(path); hit != hits_.end()) {
+        std::unique_ptr<DocInfo> info = std::move(hit->second.info);
+        hits_.erase(hit);
+        return info;
+    }
+    if (!cache_)
+        return readAhead_.Take(path);
+    FileIdentity id;
+    bool known = false;
+    if (const auto plan = planned_.find(path); plan != planned_.end()) {
+        id = plan->second;
+        known = true;
+        planned_.erase(plan);
+    } else if (IdentityOf(path, id)) {
+        known = true;
+        DocReading reading;
+        if (Lookup(path, id, reading))
+            return std::move(reading.info);
+    }
+    // The identity is taken before the read: a change while reading makes the entry stale
+    // by its own identity, never a current-looking one.
+    DocReading reading = readAhead_.TakeReading(path);
+    if (known && Settled(path, id))
+        cache_->Store(path, id, reading);
+    return std::move(reading.info);
+}
+
+ReadProblem CachedReader::Problem(const std::string& path)
+{
+    FileIdentity id;
+    const bool known = cache_ && IdentityOf(path, id);
+    DocReading reading;
+    if (known && Lookup(path, id, reading))
+        return reading.problem;
+    reading = ReadDocument(path);
+    if (known && Settled(path, id))
+        cache_->Store(path, id, reading);
+    return reading.problem;
+}
+
+void CachedReader::Flush()
+{
+    if (cache_)
+        cache_->Flush();
+}
