@@ -140,9 +140,9 @@ bool DocCache::Open()
     // A private folder and file: the store holds titles and authors of every document read.
     const size_t slash = file_.rfind('/');
     const std::string folder = file_.substr(0, slash);
-    const std::string parent = folder.substr(0, folder.rfind('/'));
-    if (!parent.empty())
-        ::mkdir(parent.c_str(), 0700);
+    // The base folder ($XDG_CACHE_HOME) is made as the base directory rules ask, 0700.
+    for (size_t at = folder.find('/', 1); at != std::string::npos; at = folder.find('/', at + 1))
+        ::mkdir(folder.substr(0, at).c_str(), 0700);
     if (::mkdir(folder.c_str(), 0700) != 0 && errno != EEXIST)
         return false;
     struct stat st {};
