@@ -1,6 +1,7 @@
 #include "host/app/hostmanager.h"
 
 #include <QMessageBox>
+#include <QTimer>
 #include <iostream>
 
 #include "host/app/docpropertiesdialog.h"
@@ -15,6 +16,9 @@ void HostManager::UseCache()
 {
     reader_.SetCache(std::make_unique<DocCache>(DocCache::DefaultFile(),
                                                 [](const std::string& line) { std::cerr << line << '\n'; }));
+    // The listing runs without returning to the event loop: back there, it has ended, and
+    // its writes are committed so that other processes may write again.
+    reader_.OnFirstWrite([this] { QTimer::singleShot(0, this, [this] { reader_.Flush(); }); });
 }
 
 std::unique_ptr<DocInfo> HostManager::CreateDocInfo(const std::string& file)

@@ -1,20 +1,11 @@
 #include "host/cache/cachedreader.h"
 
-#include <ctime>
-
 #include "docmgr/tools/fsutil.h"
 
 namespace {
 
-// Pending writes of a long-running window go out in batches of about this many.
+// A long listing commits its writes in batches of about this many.
 constexpr size_t kFlushAt = 5000;
-
-int64_t NowNs()
-{
-    timespec now {};
-    clock_gettime(CLOCK_REALTIME, &now);
-    return int64_t(now.tv_sec) * 1000000000 + now.tv_nsec;
-}
 
 }  // namespace
 
@@ -26,7 +17,7 @@ bool CachedReader::Settled(const std::string& path, const FileIdentity& id)
         // Network and FUSE mounts show the server's times, late and coarse.
         slackNs_ = fsutil::CachesFileTimes(dir) ? 3000000000 : 100000000;
     }
-    const int64_t limit = NowNs() - slackNs_;
+    const int64_t limit = id.takenNs - slackNs_;
     return id.mtimeNs < limit && id.ctimeNs < limit;
 }
 
@@ -51,23 +42,21 @@ void CachedReader::ReadAhead(const std::vector<std::string>& paths)
     }
     if (cache_->Pending() >= kFlushAt)
         cache_->Flush();
+    // Only files the cache knows are stat'ed here; the pool stats the others as it reads
+    // them, so a folder new to the cache starts reading at once.
     std::vector<std::string> toRead;
     std::string dir;
     std::unordered_map<std::string, DocCache::Entry> folder;
     const int64_t today = DocCache::Today();
     for (const std::string& path : paths) {
-        FileIdentity id;
-        if (!IdentityOf(path, id)) {
-            toRead.push_back(path);
-            continue;
-        }
         const std::string pathDir = fsutil::DirName(path);
         if (pathDir != dir) {
             dir = pathDir;
             folder = cache_->Folder(dir);
         }
-        const auto found = folder.find(fsutil::FileName(path));
-        if (found != folder.end() && found->second.id == id) {
+        FileIdentity id;
+        const auto found = folder.empty() ? folder.end() : folder.find(fsutil::FileName(path));
+        if (found != folder.end() && IdentityOf(path, id) && found->second.id == id) {
             if (found->second.seenDay != today)
                 cache_->Seen(path);
             DocReading& reading = found->second.reading;
@@ -76,10 +65,19 @@ void CachedReader::ReadAhead(const std::vector<std::string>& paths)
             hits_.emplace(path, std::move(reading));
             continue;
         }
-        planned_.emplace(path, id);
+        planned_.insert(path);
         toRead.push_back(path);
     }
-    readAhead_.Start(toRead);
+    readAhead_.Start(toRead, true);
+    Written();
+}
+
+void CachedReader::Written()
+{
+    if (!flushAsked_ && cache_->Pending() > 0 && onFirstWrite_) {
+        flushAsked_ = true;
+        onFirstWrite_();
+    }
 }
 
 std::unique_ptr<DocInfo> CachedReader::Take(const std::string& path)
@@ -91,23 +89,21 @@ std::unique_ptr<DocInfo> CachedReader::Take(const std::string& path)
     }
     if (!cache_)
         return readAhead_.Take(path);
-    FileIdentity id;
-    bool known = false;
-    if (const auto plan = planned_.find(path); plan != planned_.end()) {
-        id = plan->second;
-        known = true;
-        planned_.erase(plan);
-    } else if (IdentityOf(path, id)) {
-        known = true;
+    if (planned_.erase(path) == 0) {
+        FileIdentity id;
         DocReading reading;
-        if (Lookup(path, id, reading))
+        if (IdentityOf(path, id) && Lookup(path, id, reading))
             return std::move(reading.info);
     }
     // The identity is taken before the read: a change while reading makes the entry stale
     // by its own identity, never a current-looking one.
-    DocReading reading = readAhead_.TakeReading(path);
-    if (known && Settled(path, id))
+    FileIdentity id;
+    bool known = false;
+    DocReading reading = readAhead_.TakeReading(path, &id, &known);
+    if (known && Settled(path, id)) {
         cache_->Store(path, id, reading);
+        Written();
+    }
     return std::move(reading.info);
 }
 
@@ -126,6 +122,7 @@ ReadProblem CachedReader::Problem(const std::string& path)
 
 void CachedReader::Flush()
 {
+    flushAsked_ = false;
     if (cache_)
         cache_->Flush();
 }

@@ -86,19 +86,6 @@ bool IsDamage(int rc)
 
 }  // namespace
 
-bool IdentityOf(const std::string& path, FileIdentity& id)
-{
-    struct stat st {};
-    if (::stat(path.c_str(), &st) != 0)
-        return false;
-    id.dev = uint64_t(st.st_dev);
-    id.ino = uint64_t(st.st_ino);
-    id.size = int64_t(st.st_size);
-    id.mtimeNs = int64_t(st.st_mtim.tv_sec) * 1000000000 + st.st_mtim.tv_nsec;
-    id.ctimeNs = int64_t(st.st_ctim.tv_sec) * 1000000000 + st.st_ctim.tv_nsec;
-    return true;
-}
-
 DocCache::DocCache(std::string file, Warn warn) : file_(std::move(file)), warn_(std::move(warn)) {}
 
 DocCache::~DocCache()
@@ -163,6 +150,8 @@ bool DocCache::Open()
         return false;
     }
     sqlite3_busy_timeout(db_, kBusyMs);
+    // The log is folded in by the automatic checkpoints, not by a sync at every exit.
+    sqlite3_db_config(db_, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
     sqlite3_stmt* version = nullptr;
     int rc = sqlite3_prepare_v2(db_, "PRAGMA user_version", -1, &version, nullptr);
     int have = -1;
@@ -178,7 +167,7 @@ bool DocCache::Open()
         Failed(rc);
         return db_ != nullptr;
     }
-    if (!Exec("PRAGMA journal_mode=WAL") || !Exec("PRAGMA synchronous=NORMAL"))
+    if (!Exec("PRAGMA journal_mode=WAL") || !Exec("PRAGMA synchronous=NORMAL") || !Exec("PRAGMA mmap_size=268435456"))
         return db_ != nullptr;
     if (have != kVersion) {
         const std::string schema =
@@ -188,7 +177,7 @@ bool DocCache::Open()
               " seen INTEGER, isdoc INTEGER, problem INTEGER, docsize INTEGER, title BLOB, topic BLOB,"
               " author BLOB, cdate INTEGER, ctime_of_day INTEGER, author_mod BLOB, mdate INTEGER,"
               " mtime_of_day INTEGER, pdate INTEGER, ptime_of_day INTEGER, printedby BLOB, comment BLOB,"
-              " keywords BLOB, info0 BLOB, info1 BLOB, info2 BLOB, info3 BLOB, PRIMARY KEY(dir, name));"
+              " keywords BLOB, info0 BLOB, info1 BLOB, info2 BLOB, info3 BLOB, PRIMARY KEY(dir, name)) WITHOUT ROWID;"
               "CREATE TABLE meta(key TEXT PRIMARY KEY, value INTEGER);"
               "PRAGMA user_version="
             + std::to_string(kVersion) + "; COMMIT;";
@@ -212,6 +201,7 @@ bool DocCache::Open()
 
 void DocCache::Close()
 {
+    inTransaction_ = false;
     for (sqlite3_stmt** stmt : {&folder_, &one_, &insert_, &seen_stmt_}) {
         sqlite3_finalize(*stmt);
         *stmt = nullptr;
@@ -303,98 +293,99 @@ bool DocCache::Find(const std::string& path, Entry& entry)
     return rc == SQLITE_ROW;
 }
 
+// Writes go into one transaction, begun with the first and committed by Flush, so that a
+// listing holds no copies of what it wrote and pays for one commit.
+bool DocCache::Begin()
+{
+    if (inTransaction_)
+        return true;
+    if (!Ready() || !Exec("BEGIN IMMEDIATE"))
+        return false;
+    inTransaction_ = true;
+    inserted_ = 0;
+    return true;
+}
+
 void DocCache::Store(const std::string& path, const FileIdentity& id, const DocReading& reading)
 {
-    if (file_.empty())
+    if (!Begin())
         return;
-    Store_ store{path, id, {}};
-    store.reading.problem = reading.problem;
-    if (reading.info)
-        store.reading.info = std::make_unique<DocInfo>(*reading.info);
-    stores_.push_back(std::move(store));
+    std::string dir, name;
+    SplitPath(path, dir, name);
+    sqlite3_stmt* st = insert_;
+    BindBlob(st, 1, dir);
+    BindBlob(st, 2, name);
+    sqlite3_bind_int64(st, 3, int64_t(id.dev));
+    sqlite3_bind_int64(st, 4, int64_t(id.ino));
+    sqlite3_bind_int64(st, 5, id.size);
+    sqlite3_bind_int64(st, 6, id.mtimeNs);
+    sqlite3_bind_int64(st, 7, id.ctimeNs);
+    sqlite3_bind_int64(st, 8, Today());
+    sqlite3_bind_int(st, 9, reading.info ? 1 : 0);
+    sqlite3_bind_int(st, 10, int(reading.problem));
+    if (const DocInfo* info = reading.info.get()) {
+        sqlite3_bind_int64(st, 11, info->size);
+        BindBlob(st, 12, info->title);
+        BindBlob(st, 13, info->topic);
+        BindBlob(st, 14, info->author);
+        sqlite3_bind_int64(st, 15, info->createdDate.GetDate());
+        sqlite3_bind_int(st, 16, info->createdTime.GetTime());
+        BindBlob(st, 17, info->modifiedBy);
+        sqlite3_bind_int64(st, 18, info->modifiedDate.GetDate());
+        sqlite3_bind_int(st, 19, info->modifiedTime.GetTime());
+        sqlite3_bind_int64(st, 20, info->printedDate.GetDate());
+        sqlite3_bind_int(st, 21, info->printedTime.GetTime());
+        BindBlob(st, 22, info->printedBy);
+        BindBlob(st, 23, info->comment);
+        BindBlob(st, 24, info->keywords);
+        for (int i = 0; i < 4; ++i)
+            BindBlob(st, 25 + i, info->info[size_t(i)]);
+    }
+    const int rc = sqlite3_step(st);
+    sqlite3_reset(st);
+    sqlite3_clear_bindings(st);
+    if (rc != SQLITE_DONE)
+        Abandon(rc);
+    else
+        ++inserted_;
 }
 
 void DocCache::Seen(const std::string& path)
 {
-    if (!file_.empty())
-        seen_.push_back(path);
+    if (!Begin())
+        return;
+    std::string dir, name;
+    SplitPath(path, dir, name);
+    BindBlob(seen_stmt_, 1, dir);
+    BindBlob(seen_stmt_, 2, name);
+    sqlite3_bind_int64(seen_stmt_, 3, Today());
+    const int rc = sqlite3_step(seen_stmt_);
+    sqlite3_reset(seen_stmt_);
+    if (rc != SQLITE_DONE)
+        Abandon(rc);
+}
+
+void DocCache::Abandon(int rc)
+{
+    sqlite3_exec(db_, "ROLLBACK", nullptr, nullptr, nullptr);
+    inTransaction_ = false;
+    Failed(rc);
 }
 
 void DocCache::Flush()
 {
-    if (stores_.empty() && seen_.empty())
+    if (!inTransaction_ || !db_)
         return;
-    std::vector<Store_> stores = std::move(stores_);
-    std::vector<std::string> seen = std::move(seen_);
-    stores_.clear();
-    seen_.clear();
-    if (!Ready() || !Exec("BEGIN IMMEDIATE"))
-        return;
-    const int64_t today = Today();
-    int rc = SQLITE_DONE;
-    std::string dir, name;
-    for (const Store_& s : stores) {
-        if (rc != SQLITE_DONE)
-            break;
-        SplitPath(s.path, dir, name);
-        sqlite3_stmt* st = insert_;
-        BindBlob(st, 1, dir);
-        BindBlob(st, 2, name);
-        sqlite3_bind_int64(st, 3, int64_t(s.id.dev));
-        sqlite3_bind_int64(st, 4, int64_t(s.id.ino));
-        sqlite3_bind_int64(st, 5, s.id.size);
-        sqlite3_bind_int64(st, 6, s.id.mtimeNs);
-        sqlite3_bind_int64(st, 7, s.id.ctimeNs);
-        sqlite3_bind_int64(st, 8, today);
-        sqlite3_bind_int(st, 9, s.reading.info ? 1 : 0);
-        sqlite3_bind_int(st, 10, int(s.reading.problem));
-        if (const DocInfo* info = s.reading.info.get()) {
-            sqlite3_bind_int64(st, 11, info->size);
-            BindBlob(st, 12, info->title);
-            BindBlob(st, 13, info->topic);
-            BindBlob(st, 14, info->author);
-            sqlite3_bind_int64(st, 15, info->createdDate.GetDate());
-            sqlite3_bind_int(st, 16, info->createdTime.GetTime());
-            BindBlob(st, 17, info->modifiedBy);
-            sqlite3_bind_int64(st, 18, info->modifiedDate.GetDate());
-            sqlite3_bind_int(st, 19, info->modifiedTime.GetTime());
-            sqlite3_bind_int64(st, 20, info->printedDate.GetDate());
-            sqlite3_bind_int(st, 21, info->printedTime.GetTime());
-            BindBlob(st, 22, info->printedBy);
-            BindBlob(st, 23, info->comment);
-            BindBlob(st, 24, info->keywords);
-            for (int i = 0; i < 4; ++i)
-                BindBlob(st, 25 + i, info->info[size_t(i)]);
-        }
-        rc = sqlite3_step(st);
-        sqlite3_reset(st);
-        sqlite3_clear_bindings(st);
-    }
-    for (const std::string& path : seen) {
-        if (rc != SQLITE_DONE)
-            break;
-        SplitPath(path, dir, name);
-        BindBlob(seen_stmt_, 1, dir);
-        BindBlob(seen_stmt_, 2, name);
-        sqlite3_bind_int64(seen_stmt_, 3, today);
-        rc = sqlite3_step(seen_stmt_);
-        sqlite3_reset(seen_stmt_);
-    }
-    if (rc != SQLITE_DONE) {
-        sqlite3_exec(db_, "ROLLBACK", nullptr, nullptr, nullptr);
-        Failed(rc);
-        return;
-    }
-    const std::string count = "INSERT INTO meta VALUES('inserts', " + std::to_string(stores.size())
+    const std::string count = "INSERT INTO meta VALUES('inserts', " + std::to_string(inserted_)
         + ") ON CONFLICT(key) DO UPDATE SET value = value + excluded.value";
-    if (!Exec(count.c_str()))
+    if (sqlite3_exec(db_, count.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
+        return Abandon(sqlite3_errcode(db_));
+    Prune(Today());
+    if (!db_)
         return;
-    Prune(today);
-    if (db_ && sqlite3_exec(db_, "COMMIT", nullptr, nullptr, nullptr) != SQLITE_OK) {
-        const int commit = sqlite3_errcode(db_);
-        sqlite3_exec(db_, "ROLLBACK", nullptr, nullptr, nullptr);
-        Failed(commit);
-    }
+    if (sqlite3_exec(db_, "COMMIT", nullptr, nullptr, nullptr) != SQLITE_OK)
+        return Abandon(sqlite3_errcode(db_));
+    inTransaction_ = false;
 }
 
 // At most once a day, or after many inserts: files not seen for kKeepDays go, then the
@@ -402,9 +393,11 @@ void DocCache::Flush()
 void DocCache::Prune(int64_t today)
 {
     int64_t pruned = -1, inserts = 0;
-    sqlite3_stmt* meta = Prepare("SELECT key, value FROM meta");
-    if (!meta)
-        return;
+    sqlite3_stmt* meta = nullptr;
+    if (sqlite3_prepare_v2(db_, "SELECT key, value FROM meta", -1, &meta, nullptr) != SQLITE_OK) {
+        sqlite3_finalize(meta);
+        return Abandon(sqlite3_errcode(db_));
+    }
     while (sqlite3_step(meta) == SQLITE_ROW) {
         const std::string key = reinterpret_cast<const char*>(sqlite3_column_text(meta, 0));
         if (key == "pruned")
@@ -416,9 +409,10 @@ void DocCache::Prune(int64_t today)
     if (pruned == today && inserts < kPruneAfterInserts)
         return;
     const std::string sql = "DELETE FROM doc WHERE seen < " + std::to_string(today - kKeepDays) + ";"
-        "DELETE FROM doc WHERE rowid IN (SELECT rowid FROM doc ORDER BY seen, rowid LIMIT "
+        "DELETE FROM doc WHERE (dir, name) IN (SELECT dir, name FROM doc ORDER BY seen LIMIT "
         "max(0, (SELECT count(*) FROM doc) - " + std::to_string(kMaxEntries) + "));"
         "INSERT OR REPLACE INTO meta VALUES('pruned', " + std::to_string(today) + ");"
         "INSERT OR REPLACE INTO meta VALUES('inserts', 0);";
-    Exec(sql.c_str());
+    if (sqlite3_exec(db_, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
+        Abandon(sqlite3_errcode(db_));
 }

@@ -9,22 +9,12 @@
 #include <functional>
 #include <string>
 #include <unordered_map>
-#include <vector>
 
 #include "host/readers/docreader.h"
+#include "host/readers/fileidentity.h"
 
 struct sqlite3;
 struct sqlite3_stmt;
-
-// What says a file is still the one that was read: a new inode, size or time is another.
-struct FileIdentity {
-    uint64_t dev = 0, ino = 0;
-    int64_t size = 0, mtimeNs = 0, ctimeNs = 0;
-    friend bool operator==(const FileIdentity&, const FileIdentity&) = default;
-};
-// The identity of the file `path` leads to (links followed, as the readers do); false
-// when it cannot be stat'ed.
-bool IdentityOf(const std::string& path, FileIdentity& id);
 
 class DocCache {
 public:
@@ -48,26 +38,24 @@ public:
     // Every entry of the folder `dir`, by file name; nothing when the store is off.
     std::unordered_map<std::string, Entry> Folder(const std::string& dir);
     bool Find(const std::string& path, Entry& entry);
-    // Kept for the next Flush.
+    // Written in the open transaction (begun here when none is).
     void Store(const std::string& path, const FileIdentity& id, const DocReading& reading);
     void Seen(const std::string& path);
-    // Writes what was kept in one transaction, and prunes when it is due.
+    // Commits the open transaction, pruning first when it is due.
     void Flush();
-    size_t Pending() const { return stores_.size() + seen_.size(); }
+    size_t Pending() const { return inTransaction_ ? inserted_ + 1 : 0; }
     static int64_t Today();
 
 private:
-    struct Store_ {
-        std::string path;
-        FileIdentity id;
-        DocReading reading;
-    };
     bool Ready();
     bool Open();
     void Close();
     // Handles a failed call: a damaged file is moved aside and rebuilt, anything else
     // turns the store off for a while.
     void Failed(int rc);
+    bool Begin();
+    // Rolls the open transaction back, then as Failed.
+    void Abandon(int rc);
     void MoveAside();
     bool Exec(const char* sql);
     sqlite3_stmt* Prepare(const char* sql);
@@ -82,6 +70,6 @@ private:
     sqlite3_stmt* seen_stmt_ = nullptr;
     bool movedAside_ = false;
     std::chrono::steady_clock::time_point offUntil_{};
-    std::vector<Store_> stores_;
-    std::vector<std::string> seen_;
+    bool inTransaction_ = false;
+    size_t inserted_ = 0;
 };
