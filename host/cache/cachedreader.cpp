@@ -45,23 +45,32 @@ void CachedReader::ReadAhead(const std::vector<std::string>& paths)
     // Only files the cache knows are stat'ed here; the pool stats the others as it reads
     // them, so a folder new to the cache starts reading at once.
     std::vector<std::string> toRead;
-    std::string dir;
+    std::string dir, name;
+    bool loaded = false;
     std::unordered_map<std::string, DocCache::Entry> folder;
     const int64_t today = DocCache::Today();
     for (const std::string& path : paths) {
-        const std::string pathDir = fsutil::DirName(path);
-        if (pathDir != dir) {
-            dir = pathDir;
+        // Split in place: the paths are absolute, and the hits are thousands per listing.
+        const size_t slash = path.rfind('/');
+        if (slash == std::string::npos) {
+            planned_.insert(path);
+            toRead.push_back(path);
+            continue;
+        }
+        if (!loaded || dir.size() != slash || path.compare(0, slash, dir) != 0) {
+            loaded = true;
+            dir.assign(path, 0, slash);
             folder = cache_->Folder(dir);
         }
+        name.assign(path, slash + 1);
         FileIdentity id;
-        const auto found = folder.empty() ? folder.end() : folder.find(fsutil::FileName(path));
+        const auto found = folder.empty() ? folder.end() : folder.find(name);
         if (found != folder.end() && IdentityOf(path, id) && found->second.id == id) {
             if (found->second.seenDay != today)
                 cache_->Seen(path);
             DocReading& reading = found->second.reading;
             if (reading.info)
-                reading.info->entry = path;
+                reading.info->entry = path;  // Folder leaves it to the one asking
             hits_.emplace(path, std::move(reading));
             continue;
         }

@@ -265,7 +265,7 @@ std::unordered_map<std::string, DocCache::Entry> DocCache::Folder(const std::str
     int rc;
     while ((rc = sqlite3_step(folder_)) == SQLITE_ROW) {
         std::string name = Blob(folder_, 0);
-        Entry entry = EntryOf(folder_, dir + "/" + name);
+        Entry entry = EntryOf(folder_, std::string());
         entries.emplace(std::move(name), std::move(entry));
     }
     sqlite3_reset(folder_);

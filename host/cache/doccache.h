@@ -35,7 +35,8 @@ public:
     // neither is known.
     static std::string DefaultFile();
 
-    // Every entry of the folder `dir`, by file name; nothing when the store is off.
+    // Every entry of the folder `dir`, by file name (their `entry` paths left empty);
+    // nothing when the store is off.
     std::unordered_map<std::string, Entry> Folder(const std::string& dir);
     bool Find(const std::string& path, Entry& entry);
     // Written in the open transaction (begun here when none is).
