@@ -1,5 +1,8 @@
 #include "host/cache/cachedreader.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include "docmgr/tools/fsutil.h"
 
 namespace {
@@ -47,6 +50,7 @@ void CachedReader::ReadAhead(const std::vector<std::string>& paths)
     std::vector<std::string> toRead;
     std::string dir, name;
     bool loaded = false;
+    int dirFd = -1;
     std::unordered_map<std::string, DocCache::Entry> folder;
     const int64_t today = DocCache::Today();
     for (const std::string& path : paths) {
@@ -61,11 +65,15 @@ void CachedReader::ReadAhead(const std::vector<std::string>& paths)
             loaded = true;
             dir.assign(path, 0, slash);
             folder = cache_->Folder(dir);
+            if (dirFd >= 0)
+                ::close(dirFd);
+            dirFd = folder.empty() ? -1 : ::open(dir.empty() ? "/" : dir.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC);
         }
         name.assign(path, slash + 1);
         FileIdentity id;
         const auto found = folder.empty() ? folder.end() : folder.find(name);
-        if (found != folder.end() && IdentityOf(path, id) && found->second.id == id) {
+        if (found != folder.end() && (dirFd >= 0 ? IdentityAt(dirFd, name.c_str(), id) : IdentityOf(path, id))
+            && found->second.id == id) {
             if (found->second.seenDay != today)
                 cache_->Seen(path);
             DocReading& reading = found->second.reading;
@@ -77,6 +85,8 @@ void CachedReader::ReadAhead(const std::vector<std::string>& paths)
         planned_.insert(path);
         toRead.push_back(path);
     }
+    if (dirFd >= 0)
+        ::close(dirFd);
     readAhead_.Start(toRead, true);
     Written();
 }

@@ -18,3 +18,6 @@ struct FileIdentity {
 // The identity of the file `path` leads to (links followed, as the readers do); false
 // when it cannot be stat'ed.
 bool IdentityOf(const std::string& path, FileIdentity& id);
+// The same for `name` in the folder open as `dirFd` (a short walk for the many files of
+// one folder).
+bool IdentityAt(int dirFd, const char* name, FileIdentity& id);
