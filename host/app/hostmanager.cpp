@@ -1,17 +1,33 @@
 #include "host/app/hostmanager.h"
 
 #include <QMessageBox>
+#include <QTimer>
+#include <iostream>
 
 #include "host/app/docpropertiesdialog.h"
 
+HostManager::~HostManager()
+{
+    reader_.Flush();
+}
+
+void HostManager::UseCache()
+{
+    reader_.SetCache(std::make_unique<DocCache>(DocCache::DefaultFile(),
+                                                [](const std::string& line) { std::cerr << line << '\n'; }));
+    // The listing runs without returning to the event loop: back there, it has ended, and
+    // its writes are committed so that other processes may write again.
+    reader_.OnFirstWrite([this] { QTimer::singleShot(0, this, [this] { reader_.Flush(); }); });
+}
+
 std::unique_ptr<DocInfo> HostManager::CreateDocInfo(const std::string& file)
 {
-    return readAhead_.Take(file);
+    return reader_.Take(file);
 }
 
 void HostManager::ReadAhead(const std::vector<std::string>& files)
 {
-    readAhead_.Start(files);
+    reader_.ReadAhead(files);
 }
 
 bool HostManager::ChangeDocInfo(QWidget* parent, const std::string& file)

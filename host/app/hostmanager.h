@@ -2,13 +2,16 @@
 // The reference host's document manager: document information comes from the readers,
 // and is edited in the document properties dialog.
 #include "docmgr/manager/docmanager.h"
-#include "host/readers/readahead.h"
+#include "host/cache/cachedreader.h"
 
 class HostManager : public DocManager {
     Q_OBJECT
 public:
     using DocManager::DocManager;
+    ~HostManager() override;
 
+    // Reads documents through the per-user cache (see CachedReader).
+    void UseCache();
     std::unique_ptr<DocInfo> CreateDocInfo(const std::string& file) override;
     // Reads a directory's new and changed documents on every core.
     void ReadAhead(const std::vector<std::string>& files) override;
@@ -16,5 +19,5 @@ public:
     bool ChangeDocInfo(QWidget* parent, const std::string& file) override;
 
 private:
-    DocReadAhead readAhead_;
+    CachedReader reader_;
 };

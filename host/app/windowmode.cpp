@@ -66,6 +66,8 @@ int RunManager(const CommandLine& cmd, Config& config)
     HostManager manager(nullptr, &config, JoinStartPaths(cmd.startPaths), true);
     if (!cmd.indexName.empty())
         manager.SetDirFileName(cmd.indexName);
+    if (!cmd.noCache)
+        manager.UseCache();
     const short result = manager.Execute();
     if (result == 1)
         return OpenChosen(ChosenDocuments(manager), manager.IsReadOnly(), cmd.printPaths);

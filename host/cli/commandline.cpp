@@ -25,7 +25,7 @@ std::string ToBytes(const QString& text)
     return text.toLatin1().toStdString();
 }
 
-const char* const kSwitches[] = {"list", "export-config", "print-paths"};  // and -h, --help
+const char* const kSwitches[] = {"list", "export-config", "print-paths", "no-cache"};  // and -h, --help
 const char* const kValueOptions[] = {"config", "group", "index-name", "columns", "format"};
 
 template <size_t N>
@@ -134,6 +134,8 @@ bool CheckModeOptions(const CommandLine& out, bool formatGiven, std::string& err
         error = "--print-paths is only used when the window is opened";
     else if (out.mode == RunMode::ExportConfig && !out.indexName.empty())
         error = "--index-name is not used with --export-config";
+    else if (out.mode == RunMode::ExportConfig && out.noCache)
+        error = "--no-cache is not used with --export-config";
     else if (out.mode == RunMode::ExportConfig && !out.startPaths.empty())
         error = "--export-config takes no paths";
     return error.empty();
@@ -161,6 +163,8 @@ bool TakeOption(const QString& name, const std::string& value, Reading& reading,
         reading.modeGiven = true;
     } else if (name == "print-paths") {
         out.printPaths = true;
+    } else if (name == "no-cache") {
+        out.noCache = true;
     } else if (name == "config") {
         if (value.empty()) {
             error = "--config needs a file name";
@@ -251,14 +255,15 @@ bool ParseCommandLine(const std::vector<std::string>& args, CommandLine& out, st
 std::string UsageText()
 {
     return "Usage:\n"
-           "  docmanager [--config FILE] [--index-name NAME] [--print-paths] [START_PATH...]\n"
-           "  docmanager --list [--config FILE] [--group NAME] [--index-name NAME]\n"
+           "  docmanager [--config FILE] [--index-name NAME] [--no-cache] [--print-paths] [START_PATH...]\n"
+           "  docmanager --list [--config FILE] [--group NAME] [--index-name NAME] [--no-cache]\n"
            "                    [--columns ID,ID,...] [--format text|tsv|json|csv] [START_PATH...]\n"
            "  docmanager --export-config [--config FILE]\n"
            "\n"
            "Without --list or --export-config the document manager window opens.\n"
            "A START_PATH ending in \"/**\" includes its subdirectories; the paths are used\n"
            "when the group in force has no active directory.\n"
+           "--no-cache reads the documents without the per-user cache (~/.cache/docmanager).\n"
            "Column ids: 1 file name, 2 size, 3 title, 4 topic, 5/6 created date/time,\n"
            "7 author, 8/9/10 modified date/time/by, 11/12/13 printed date/time/by,\n"
            "14 comment, 15 keywords, 16-19 information fields, 20 directory.\n";

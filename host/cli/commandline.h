@@ -15,6 +15,7 @@ struct CommandLine {
     std::string indexName;          // --index-name; empty: the module's default
     std::vector<uint16_t> columns;  // --columns; empty: the working group's slots
     ListFormat format = ListFormat::Text;
+    bool noCache = false;                 // --no-cache: read documents without the per-user cache
     bool printPaths = false;              // window: print the chosen paths instead of opening
     std::vector<std::string> startPaths;  // START_PATH arguments in the order given
 };

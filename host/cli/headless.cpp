@@ -64,6 +64,9 @@ std::string MissingDirectories(const std::string& pathList)
 // Folders that exist but cannot be read would otherwise list as empty without a word.
 class ListingSource : public ReaderDocSource, public CollectObserver {
 public:
+    explicit ListingSource(bool useCache)
+        : ReaderDocSource(useCache, [this](const std::string& line) { warnings += line + "\n"; })
+    {}
     void DirectoryUnreadable(const std::string& dir, int error) override
     {
         warnings += "docmanager: the directory " + dir + " cannot be read (" + std::strerror(error) + "); skipped\n";
@@ -88,14 +91,15 @@ HeadlessResult List(const CommandLine& cmd, ImplDocConfig& settings, std::string
                "\" has no active directory and no START_PATH was given; nothing to list\n";
     err += MissingDirectories(pathList);
 
-    ListingSource source;
+    ListingSource source(!cmd.noCache);
     DocRowList rows(source, &source);
     rows.SetConfig(&settings);
     rows.SetDirFileName(cmd.indexName.empty() ? ResString(STR_INDEX_NAME) : cmd.indexName);
     rows.CollectFiles(pathList);
+    source.Flush();
 
     errOut << err << source.warnings;
-    ListSink sink(out);
+    ListSink sink(out, [&source](const std::string& path) { return source.Problem(path); });
     WriteList(cmd.format, sink, rows.Rows(), ListColumns(group, cmd.columns), group);
     return {};
 }

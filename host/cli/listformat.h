@@ -2,6 +2,7 @@
 // The collected rows as text for standard output: a padded table, tab-separated values
 // or a JSON array.
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -9,6 +10,7 @@
 
 #include "docmgr/records/docinfo.h"
 #include "host/cli/commandline.h"
+#include "host/readers/readproblem.h"
 
 class DocGroupConfig;
 
@@ -22,12 +24,15 @@ std::vector<uint16_t> ListColumns(const DocGroupConfig& group, const std::vector
 // pieces, so that the whole listing is never held beside the rows.
 class ListSink {
 public:
-    explicit ListSink(std::ostream& out) : out_(out) {}
+    // Why a document could not be read; without it the document is read again to tell.
+    using ProblemOf = std::function<ReadProblem(const std::string& path)>;
+    explicit ListSink(std::ostream& out, ProblemOf problemOf = {}) : out_(out), problemOf_(std::move(problemOf)) {}
     ~ListSink() { Flush(); }
     ListSink(const ListSink&) = delete;
     ListSink& operator=(const ListSink&) = delete;
 
     std::string& Text() { return text_; }
+    const ProblemOf& Problems() const { return problemOf_; }
     // A row is complete: what has gathered goes on once it is large.
     void RowDone()
     {
@@ -42,6 +47,7 @@ public:
 
 private:
     std::ostream& out_;
+    ProblemOf problemOf_;
     std::string text_;
 };
 

@@ -69,7 +69,7 @@ void AppendTextField(std::string& out, const char* key, const std::string& value
     out += ",\n";
 }
 
-void AppendRow(std::string& out, const DocInfo& info)
+void AppendRow(std::string& out, const DocInfo& info, const ListSink::ProblemOf& problemOf)
 {
     out += "  {\n";
     AppendTextField(out, "path", info.entry);
@@ -95,7 +95,7 @@ void AppendRow(std::string& out, const DocInfo& info)
     AppendTextField(out, "comment", info.comment);
     AppendTextField(out, "keywords", info.keywords);
     AppendKey(out, "problem");
-    if (const std::string problem = ProblemOfRow(info); problem.empty())
+    if (const std::string problem = ProblemOfRow(info, problemOf); problem.empty())
         out += "null";
     else
         AppendString(out, problem);
@@ -134,7 +134,7 @@ void WriteJsonList(ListSink& sink, const DocRows& rows)
     for (size_t i = 0; i < rows.size(); ++i) {
         if (i > 0)
             out += ",\n";
-        AppendRow(out, *rows[i]);
+        AppendRow(out, *rows[i], sink.Problems());
         sink.RowDone();
     }
     out += "\n]\n";

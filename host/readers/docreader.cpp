@@ -1,6 +1,7 @@
 #include "host/readers/docreader.h"
 
 #include <algorithm>
+#include <atomic>
 #include <filesystem>
 
 #include "host/readers/docformat.h"
@@ -102,8 +103,18 @@ std::string_view ProblemText(ReadProblem problem)
     return {};
 }
 
+namespace {
+std::atomic<size_t> documentsRead{0};
+}  // namespace
+
+size_t DocumentsRead()
+{
+    return documentsRead.load();
+}
+
 DocReading ReadDocument(const std::string& path)
 {
+    documentsRead.fetch_add(1, std::memory_order_relaxed);
     DocReading reading;
     try {
         std::error_code ec;

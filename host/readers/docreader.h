@@ -3,6 +3,7 @@
 // templates) and flat ODF (.fodt .fods .fodp .fodg), OOXML packages (.docx .xlsx .pptx
 // and their macro and template variants), legacy Office files (.doc .xls .ppt .dot .xlt
 // .pot), RTF and PDF.
+#include <cstddef>
 #include <memory>
 #include <string>
 
@@ -21,6 +22,9 @@ struct DocReading {
 // be read, and the problem says why. `info` is null only for a file that is a document
 // neither by name nor by content, and for a path that is not a regular file. Never throws.
 DocReading ReadDocument(const std::string& path);
+// How many documents ReadDocument has been asked to read in this process (the cache's
+// tests count what a listing reads).
+size_t DocumentsRead();
 // ReadDocument's information alone.
 std::unique_ptr<DocInfo> ReadDocInfo(const std::string& path);
 // True when no field of `info` holds anything (the file's path and size aside).

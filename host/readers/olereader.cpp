@@ -206,7 +206,10 @@ void FillFrom(GsfInfile* ole, GsfDocMetaData* meta, DocInfo& info)
     info.modifiedBy = Property(meta, GSF_META_NAME_LAST_SAVED_BY);
     Stamp(meta, GSF_META_NAME_DATE_CREATED, info.createdDate, info.createdTime);
     Stamp(meta, GSF_META_NAME_DATE_MODIFIED, info.modifiedDate, info.modifiedTime);
-    Stamp(meta, GSF_META_NAME_LAST_PRINTED, info.printedDate, info.printedTime);
+    // A zero last-printed time means never printed, as an absent one does.
+    constexpr uint32_t kLastPrinted = 11;  // PIDSI_LASTPRINTED
+    if (!ZeroFileTime(StreamBytes(ole, kSummary), kLastPrinted))
+        Stamp(meta, GSF_META_NAME_LAST_PRINTED, info.printedDate, info.printedTime);
     ReadUserProperties(ole, meta, info);
 }
 

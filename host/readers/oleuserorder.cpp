@@ -115,3 +115,24 @@ std::vector<std::string> UserPropertyOrder(std::string_view stream)
             order.push_back(it->second);
     return order;
 }
+
+bool ZeroFileTime(std::string_view stream, uint32_t id)
+{
+    constexpr uint32_t kFileTimeType = 64;  // VT_FILETIME
+    uint32_t sectionAt = 0, count = 0;
+    if (!U32(stream, 28 + 16, sectionAt) || sectionAt >= stream.size())
+        return false;
+    const std::string_view section = stream.substr(sectionAt);
+    if (!U32(section, 4, count))
+        return false;
+    for (uint32_t i = 0; i < count && i < kMaxEntries; ++i) {
+        uint32_t entryId = 0, offset = 0, type = 0, low = 0, high = 0;
+        if (!U32(section, 8 + size_t(i) * 8, entryId) || !U32(section, 12 + size_t(i) * 8, offset))
+            return false;
+        if (entryId == id)
+            return U32(section, offset, type) && (type & 0xFFFF) == kFileTimeType &&
+                   U32(section, size_t(offset) + 4, low) && U32(section, size_t(offset) + 8, high) && low == 0 &&
+                   high == 0;
+    }
+    return false;
+}

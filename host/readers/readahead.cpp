@@ -26,9 +26,10 @@ void DocReadAhead::Stop()
     stopping_ = false;
 }
 
-void DocReadAhead::Start(const std::vector<std::string>& paths)
+void DocReadAhead::Start(const std::vector<std::string>& paths, bool identify)
 {
     Stop();
+    identify_ = identify;
     if (paths.size() < 2)
         return;  // one document is read as soon as it is asked for
     paths_ = paths;
@@ -52,9 +53,9 @@ void DocReadAhead::Work()
         states_[i] = State::Reading;
         ++reading_;
         lock.unlock();
-        std::unique_ptr<DocInfo> info = ReadDocInfo(paths_[i]);
+        Result result = Read(paths_[i], identify_);
         lock.lock();
-        results_[i] = std::move(info);
+        results_[i] = std::move(result);
         states_[i] = State::Read;
         --reading_;
         read_.notify_all();
@@ -63,17 +64,37 @@ void DocReadAhead::Work()
 
 std::unique_ptr<DocInfo> DocReadAhead::Take(const std::string& path)
 {
+    return TakeReading(path).info;
+}
+
+DocReadAhead::Result DocReadAhead::Read(const std::string& path, bool identify)
+{
+    Result result;
+    result.known = identify && IdentityOf(path, result.id);
+    result.reading = ReadDocument(path);
+    return result;
+}
+
+DocReading DocReadAhead::TakeReading(const std::string& path, FileIdentity* id, bool* known)
+{
+    const auto handOut = [&](Result result) {
+        if (id)
+            *id = result.id;
+        if (known)
+            *known = result.known;
+        return std::move(result.reading);
+    };
     std::unique_lock lock(mutex_);
     const auto found = index_.find(path);
     // Not planned, or asked again: read here, as without the pool.
     if (found == index_.end()) {
         lock.unlock();
-        return ReadDocInfo(path);
+        return handOut(Read(path, id != nullptr));
     }
     const size_t i = found->second;
     index_.erase(found);
     const bool readHere = states_[i] == State::Waiting;
-    std::unique_ptr<DocInfo> read;
+    Result read;
     if (readHere) {
         states_[i] = State::Read;  // no worker starts it now
     } else {
@@ -83,15 +104,17 @@ std::unique_ptr<DocInfo> DocReadAhead::Take(const std::string& path)
     // The last one taken, and no worker busy (a path planned twice): the plan goes whole.
     if (index_.empty() && reading_ == 0) {
         std::vector<std::string>().swap(paths_);
-        std::vector<std::unique_ptr<DocInfo>>().swap(results_);
+        std::vector<Result>().swap(results_);
         std::vector<State>().swap(states_);
     } else {
         std::string().swap(paths_[i]);
     }
     lock.unlock();
     if (readHere)
-        return ReadDocInfo(path);
+        return handOut(Read(path, id != nullptr));
     // Copied on this thread, to the texts' lengths: the reader's strings, grown among its
     // scratch buffers in its own arena, would pin that memory for as long as the row lives.
-    return read ? std::make_unique<DocInfo>(*read) : nullptr;
+    if (read.reading.info)
+        read.reading.info = std::make_unique<DocInfo>(*read.reading.info);
+    return handOut(std::move(read));
 }

@@ -22,8 +22,10 @@ RunResult RunDocmanager(const QStringList& args, const std::string& configHome, 
     env.remove(QStringLiteral("DISPLAY"));
     env.remove(QStringLiteral("WAYLAND_DISPLAY"));
     env.remove(QStringLiteral("QT_QPA_PLATFORM"));
-    if (!configHome.empty())
+    if (!configHome.empty()) {
         env.insert(QStringLiteral("XDG_CONFIG_HOME"), QString::fromStdString(configHome));
+        env.insert(QStringLiteral("XDG_CACHE_HOME"), QString::fromStdString(configHome + "/cache"));
+    }
     for (const QString& entry : extraEnv)
         env.insert(entry.section('=', 0, 0), entry.section('=', 1));
 

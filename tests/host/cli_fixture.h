@@ -20,7 +20,8 @@ struct RunResult {
 std::string BinaryPath(const std::string& name);
 
 // Runs docmanager with `args`; DISPLAY, WAYLAND_DISPLAY and QT_QPA_PLATFORM are removed
-// from its environment and XDG_CONFIG_HOME is `configHome` (when not empty). With
+// from its environment, XDG_CONFIG_HOME is `configHome` and XDG_CACHE_HOME its
+// folder `cache` (when not empty). With
 // `unprivileged` a run as root runs as the user nobody, so that permissions apply.
 // `env` adds "NAME=value" entries. A run ended by a signal has the status -1.
 RunResult RunDocmanager(const QStringList& args, const std::string& configHome, bool unprivileged = false, const QStringList& env = {});

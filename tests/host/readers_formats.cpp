@@ -1,5 +1,6 @@
 // Reading document information from each format, through files the sample writer and
 // the tests build.
+#include <QDateTime>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -66,6 +67,29 @@ TEST(ReadersFormats, EachFormatGivesItsFieldsAlsoFromALargeDocument)
             std::sort(expected.begin(), expected.end());
         }
         EXPECT_EQ(infos, expected);
+    }
+
+    // Office leaves a last-printed property of zero (FILETIME 0) in never-printed files: that
+    // is no printed stamp, no more than an absent property.
+    {
+        SampleDoc doc = FullSample();
+        const QDateTime printed(QDate(2001, 2, 3), QTime(4, 5, 6), Qt::UTC);
+        doc.printed = printed;
+        WriteOle(dir.PathOf("zero.doc"), doc);
+        // The stamp as stored: 100 ns steps since 1601, little-endian; overwritten with zeros.
+        uint64_t filetime = (uint64_t(printed.toSecsSinceEpoch()) + 11644473600u) * 10000000u;
+        std::string stored;
+        for (int i = 0; i < 8; ++i, filetime >>= 8)
+            stored += char(filetime & 0xFF);
+        std::string bytes = dir.Read("zero.doc");
+        const size_t at = bytes.find(stored);
+        ASSERT_NE(at, std::string::npos);
+        bytes.replace(at, 8, std::string(8, '\0'));
+        dir.MakeFile("zero.doc", bytes);
+        auto info = ReadDocInfo(dir.PathOf("zero.doc"));
+        ASSERT_NE(info, nullptr);
+        EXPECT_TRUE(info->NeverPrinted());
+        EXPECT_EQ(info->printedBy, doc.author);
     }
 
     // Past the size read whole, the readers take the file from its path, and the heads of

@@ -17,7 +17,7 @@ trap 'rm -rf "$work"' EXIT
 desk1=$SMBSHARE_MNT1 desk2=$SMBSHARE_MNT2 server=$SMBSHARE_DIR
 failures=0
 fail() { echo "FAIL: $*" >&2; failures=$((failures + 1)); }
-list() { env -u DISPLAY -u WAYLAND_DISPLAY "$bin/docmanager" --list --format tsv --columns 1,3 "$1"; }
+list() { env -u DISPLAY -u WAYLAND_DISPLAY XDG_CACHE_HOME="$work/cache" "$bin/docmanager" --list --format tsv --columns 1,3 "$1"; }
 title_of() { list "$1" | awk -F'\t' -v n="$2" '$1 == n { print $2 }'; }
 
 "$bin/docmanager-samples" "$work/a" 12 --seed 1 >/dev/null
