@@ -77,7 +77,7 @@ const Time& TimeField(const DocInfo& info, uint16_t columnId)
                                            : info.printedTime;
 }
 
-std::string GetFieldString(const DocInfo& info, uint16_t columnId)
+std::string_view FieldView(const DocInfo& info, uint16_t columnId, std::string& scratch)
 {
     // The modified stamp is judged by what its texts show, the printed one by its values.
     if (columnId >= COL_PRINTED_DATE && columnId <= COL_PRINTED_BY && info.NeverPrinted())
@@ -87,17 +87,26 @@ std::string GetFieldString(const DocInfo& info, uint16_t columnId)
     if (columnId == COL_MODIFIED_TIME &&
         TimeKey(info.modifiedTime, info.modifiedDate) == TimeKey(info.createdTime, info.createdDate))
         return NOT_SET;
+    const std::string_view entry = info.entry;
+    const size_t slash = entry.rfind('/');
     switch (KindOfColumn(columnId)) {
-    case FieldKind::Name: return fsutil::FileName(info.entry);
-    case FieldKind::Size: return std::to_string(info.size);
+    case FieldKind::Name: return slash == std::string_view::npos ? entry : entry.substr(slash + 1);
+    case FieldKind::Size: return scratch = std::to_string(info.size);
     case FieldKind::Text: return TextField(info, columnId);
-    case FieldKind::Date: return DateText(DateField(info, columnId));
+    case FieldKind::Date: return scratch = DateText(DateField(info, columnId));
     // Each time column follows the date column of its stamp.
-    case FieldKind::Time: return TimeText(TimeField(info, columnId), DateField(info, columnId - 1));
-    case FieldKind::Directory: return fsutil::DirName(info.entry);
+    case FieldKind::Time: return scratch = TimeText(TimeField(info, columnId), DateField(info, columnId - 1));
+    case FieldKind::Directory: return scratch = fsutil::DirName(info.entry);
     case FieldKind::None: break;
     }
     return {};
+}
+
+std::string GetFieldString(const DocInfo& info, uint16_t columnId)
+{
+    std::string scratch;
+    const std::string_view text = FieldView(info, columnId, scratch);
+    return text.data() == scratch.data() ? std::move(scratch) : std::string(text);
 }
 
 std::string GetColumnTitle(uint16_t columnId, const DocGroupConfig& group)

@@ -3,6 +3,7 @@
 // list printing and the headless list.
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "docmgr/records/docinfo.h"
 
@@ -48,6 +49,9 @@ const Time& TimeField(const DocInfo& info, uint16_t columnId);
 // Text of one cell: "---" for 8/9 when their texts equal 5/6, and for 11..13 when the
 // printed stamp equals the created stamp; empty for ids outside 1..20.
 std::string GetFieldString(const DocInfo& info, uint16_t columnId);
+// The same text without a copy where the record holds it: a view into `info`, or into
+// `scratch` for the texts made on the way (sizes, stamps, directories). Valid while both are.
+std::string_view FieldView(const DocInfo& info, uint16_t columnId, std::string& scratch);
 // Title of a column: strings STR_COL_NAME.. for the fixed columns, the group's info captions
 // for 16..19; empty for ids outside 1..20.
 std::string GetColumnTitle(uint16_t columnId, const DocGroupConfig& group);

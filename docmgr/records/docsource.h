@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "docmgr/records/docinfo.h"
+#include "docmgr/tools/fsutil.h"
 
 class DocSource {
 public:
@@ -17,6 +18,14 @@ public:
     // source may start reading them (on other threads, say). What CreateDocInfo returns
     // must not depend on it.
     virtual void ReadAhead(const std::vector<std::string>& /*paths*/) {}
+    // The same with what the listing's stat of each file gave (`items[i]` for `paths[i]`),
+    // for a source that keeps what it read and so can tell a file it knows without a stat
+    // of its own. By default the status goes unused.
+    virtual void ReadAheadKnown(const std::vector<std::string>& paths,
+                                const std::vector<const fsutil::DirItem*>& /*items*/)
+    {
+        ReadAhead(paths);
+    }
 };
 
 // Hears how a collection goes: the list's progress display, a listing's warnings.

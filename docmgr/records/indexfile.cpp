@@ -81,11 +81,14 @@ void DocRowList::ProbeAll(DirPass& pass)
 {
     {
         std::vector<std::string> reads;
+        std::vector<const fsutil::DirItem*> items;
         for (size_t i = 0; i < pass.files.size(); ++i) {
-            if (!pass.IsIndex(i))
+            if (!pass.IsIndex(i)) {
                 reads.push_back(fsutil::Join(pass.dir, pass.files[i].name));
+                items.push_back(&pass.files[i]);
+            }
         }
-        source_.ReadAhead(reads);
+        source_.ReadAheadKnown(reads, items);
     }  // the plan's memory is back before the rows take theirs
     for (size_t i = 0; i < pass.files.size(); ++i) {
         if (!pass.IsIndex(i))
@@ -142,13 +145,19 @@ void DocRowList::MatchRecords(DirPass& pass, IndexBlocks& records)
 void DocRowList::ReadChanged(DirPass& pass)
 {
     std::vector<std::string> reads;
-    for (const DirPass::Changed& doc : pass.changed)
+    std::vector<const fsutil::DirItem*> items;
+    for (const DirPass::Changed& doc : pass.changed) {
         reads.push_back(fsutil::Join(pass.dir, pass.files[doc.file].name));
-    for (size_t i = 0; i < pass.files.size(); ++i) {
-        if (!pass.consumed[i] && !pass.IsIndex(i))
-            reads.push_back(fsutil::Join(pass.dir, pass.files[i].name));
+        items.push_back(&pass.files[doc.file]);
     }
-    source_.ReadAhead(reads);
+    for (size_t i = 0; i < pass.files.size(); ++i) {
+        if (!pass.consumed[i] && !pass.IsIndex(i)) {
+            reads.push_back(fsutil::Join(pass.dir, pass.files[i].name));
+            items.push_back(&pass.files[i]);
+        }
+    }
+    source_.ReadAheadKnown(reads, items);
+    items = {};
     reads.resize(pass.changed.size());
     reads.shrink_to_fit();
 

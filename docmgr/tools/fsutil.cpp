@@ -64,7 +64,8 @@ std::vector<DirItem> List(const std::string& dir, std::string_view pattern, Kind
         if (kind == Kind::Dirs ? !isDir : !S_ISREG(st.st_mode))
             continue;
         items.push_back({std::string(name), uint64_t(st.st_size), MtimeNs(st), CtimeNs(st), uint32_t(st.st_mode),
-                         uint32_t(st.st_uid), uint32_t(st.st_gid), IsLinkEntry(dirFd, *entry)});
+                         uint32_t(st.st_uid), uint32_t(st.st_gid), IsLinkEntry(dirFd, *entry), uint64_t(st.st_dev),
+                         uint64_t(st.st_ino)});
     }
     closedir(handle);
     if (status)

@@ -18,6 +18,8 @@ struct DirItem {
     uint32_t uid = 0;
     uint32_t gid = 0;
     bool isLink = false;  // the entry itself is a symbolic link
+    uint64_t dev = 0;     // of the file a link leads to, with ino: which file it is
+    uint64_t ino = 0;
 };
 
 enum class Kind { Files, Dirs };

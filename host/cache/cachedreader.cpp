@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include "docmgr/tools/fsutil.h"
+#include "host/cache/packedreading.h"
 
 namespace {
 
@@ -11,6 +12,14 @@ namespace {
 constexpr size_t kFlushAt = 5000;
 
 }  // namespace
+
+void CachedReader::SetCache(std::unique_ptr<DocCache> cache)
+{
+    writer_.reset();
+    cache_ = std::move(cache);
+    if (cache_)
+        writer_ = std::make_unique<CacheWriter>(*cache_);
+}
 
 bool CachedReader::Settled(const std::string& path, const FileIdentity& id)
 {
@@ -35,7 +44,7 @@ bool CachedReader::Lookup(const std::string& path, const FileIdentity& id, DocRe
     return true;
 }
 
-void CachedReader::ReadAhead(const std::vector<std::string>& paths)
+void CachedReader::ReadAhead(const std::vector<std::string>& paths, const std::vector<FileIdentity>* known)
 {
     hits_.clear();
     planned_.clear();
@@ -44,56 +53,86 @@ void CachedReader::ReadAhead(const std::vector<std::string>& paths)
         return;
     }
     if (cache_->Pending() >= kFlushAt)
-        cache_->Flush();
+        cache_->Flush();  // what the writer holds goes with the next commit
     // Only files the cache knows are stat'ed here; the pool stats the others as it reads
     // them, so a folder new to the cache starts reading at once.
-    std::vector<std::string> toRead;
-    std::string dir, name;
-    bool loaded = false;
-    int dirFd = -1;
-    std::unordered_map<std::string, DocCache::Entry> folder;
-    const int64_t today = DocCache::Today();
-    for (const std::string& path : paths) {
-        // Split in place: the paths are absolute, and the hits are thousands per listing.
-        const size_t slash = path.rfind('/');
-        if (slash == std::string::npos) {
-            planned_.insert(path);
-            toRead.push_back(path);
+    std::vector<bool> hit(paths.size());
+    for (size_t first = 0, end; first < paths.size(); first = end) {
+        const size_t slash = paths[first].rfind('/');
+        end = first + 1;
+        if (slash == std::string::npos)
             continue;
-        }
-        if (!loaded || dir.size() != slash || path.compare(0, slash, dir) != 0) {
-            loaded = true;
-            dir.assign(path, 0, slash);
-            folder = cache_->Folder(dir);
-            if (dirFd >= 0)
-                ::close(dirFd);
-            dirFd = folder.empty() ? -1 : ::open(dir.empty() ? "/" : dir.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC);
-        }
-        name.assign(path, slash + 1);
-        FileIdentity id;
-        const auto found = folder.empty() ? folder.end() : folder.find(name);
-        if (found != folder.end() && (dirFd >= 0 ? IdentityAt(dirFd, name.c_str(), id) : IdentityOf(path, id)) &&
-            found->second.id == id) {
-            if (found->second.seenDay != today)
-                cache_->Seen(path);
-            DocReading& reading = found->second.reading;
-            if (reading.info)
-                reading.info->entry = path;  // Folder leaves it to the one asking
-            hits_.emplace(path, std::move(reading));
-            continue;
-        }
-        planned_.insert(path);
-        toRead.push_back(path);
+        const std::string_view dir(paths[first].data(), slash);
+        while (end < paths.size() && paths[end].size() > slash && paths[end][slash] == '/' &&
+               paths[end].compare(0, slash, dir) == 0 && paths[end].find('/', slash + 1) == std::string::npos)
+            ++end;
+        TakeFolderHits(std::string(dir), paths, known, first, end, hit);
     }
+    std::vector<std::string> toRead;
+    std::vector<FileIdentity> toReadIds;
+    for (size_t i = 0; i < paths.size(); ++i) {
+        if (!hit[i]) {
+            planned_.insert(paths[i]);
+            toRead.push_back(paths[i]);
+            if (known)
+                toReadIds.push_back((*known)[i]);
+        }
+    }
+    readAhead_.Start(toRead, true, std::move(toReadIds));
+    Written();
+}
+
+// The hits among paths[first, end), all in `dir`: one scan of the folder's entries, a stat
+// of the files the cache knows, relative to the folder.
+void CachedReader::TakeFolderHits(const std::string& dir, const std::vector<std::string>& paths,
+                                  const std::vector<FileIdentity>* known, size_t first, size_t end,
+                                  std::vector<bool>& hit)
+{
+    const size_t nameAt = dir.size() + 1;
+    std::unordered_map<std::string_view, size_t> wanted;
+    wanted.reserve(end - first);
+    for (size_t i = first; i < end; ++i)
+        wanted.emplace(std::string_view(paths[i]).substr(nameAt), i);
+    const int dirFd = known ? -1 : ::open(dir.empty() ? "/" : dir.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC);
+    if (!known && dirFd < 0)
+        return;
+    const int64_t today = DocCache::Today();
+    std::vector<size_t> seen;
+    size_t at = 0;
+    cache_->Folder(
+        dir,
+        [&](std::string_view name, const FileIdentity& stored) {
+            const auto found = wanted.find(name);
+            if (found == wanted.end())
+                return false;
+            FileIdentity id;
+            if (known)
+                id = (*known)[found->second];
+            else if (!IdentityAt(dirFd, paths[found->second].c_str() + nameAt, id))
+                return false;
+            if (!(id == stored))
+                return false;
+            at = found->second;
+            return true;
+        },
+        [&](std::string_view, DocCache::Entry&& entry) {
+            hit[at] = true;
+            if (entry.seenDay != today)
+                seen.push_back(at);
+            if (entry.reading.info)
+                entry.reading.info->entry = paths[at];
+            hits_.emplace(paths[at], std::move(entry.reading));
+        });
     if (dirFd >= 0)
         ::close(dirFd);
-    readAhead_.Start(toRead, true);
-    Written();
+    // Marked after the scan: the store is not changed under its own cursor.
+    for (size_t i : seen)
+        cache_->Seen(paths[i]);
 }
 
 void CachedReader::Written()
 {
-    if (!flushAsked_ && cache_->Pending() > 0 && onFirstWrite_) {
+    if (!flushAsked_ && (handed_ || cache_->Pending() > 0) && onFirstWrite_) {
         flushAsked_ = true;
         onFirstWrite_();
     }
@@ -120,7 +159,8 @@ std::unique_ptr<DocInfo> CachedReader::Take(const std::string& path)
     bool known = false;
     DocReading reading = readAhead_.TakeReading(path, &id, &known);
     if (known && Settled(path, id)) {
-        cache_->Store(path, id, reading);
+        writer_->Store(path, id, PackReading(reading));
+        handed_ = true;
         Written();
     }
     return std::move(reading.info);
@@ -135,13 +175,16 @@ ReadProblem CachedReader::Problem(const std::string& path)
         return reading.problem;
     reading = ReadDocument(path);
     if (known && Settled(path, id))
-        cache_->Store(path, id, reading);
+        cache_->Store(path, id, PackReading(reading));
     return reading.problem;
 }
 
 void CachedReader::Flush()
 {
     flushAsked_ = false;
-    if (cache_)
-        cache_->Flush();
+    handed_ = false;
+    if (!cache_)
+        return;
+    writer_->Drain();
+    cache_->Flush();
 }

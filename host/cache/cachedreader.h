@@ -9,19 +9,22 @@
 #include <unordered_set>
 #include <vector>
 
+#include "host/cache/cachewriter.h"
 #include "host/cache/doccache.h"
 #include "host/readers/readahead.h"
 
 class CachedReader {
 public:
     // Without a cache every document is read, as before there was one.
-    explicit CachedReader(std::unique_ptr<DocCache> cache = nullptr) : cache_(std::move(cache)) {}
-    void SetCache(std::unique_ptr<DocCache> cache) { cache_ = std::move(cache); }
+    explicit CachedReader(std::unique_ptr<DocCache> cache = nullptr) { SetCache(std::move(cache)); }
+    void SetCache(std::unique_ptr<DocCache> cache);
     // Called once when a listing begins writing to the cache, so that a host that cannot
     // tell when its listing ends (the window) calls Flush once it is back in its loop.
     void OnFirstWrite(std::function<void()> call) { onFirstWrite_ = std::move(call); }
 
-    void ReadAhead(const std::vector<std::string>& paths);
+    // `known`, when given, holds each path's identity as the caller just took it; else
+    // the files the cache knows are stat'ed here.
+    void ReadAhead(const std::vector<std::string>& paths, const std::vector<FileIdentity>* known = nullptr);
     std::unique_ptr<DocInfo> Take(const std::string& path);
     // Why the document at `path` holds no information, from the cache when it is current.
     ReadProblem Problem(const std::string& path);
@@ -33,10 +36,14 @@ private:
     // system: a change within the same tick would otherwise keep its identity.
     bool Settled(const std::string& path, const FileIdentity& id);
     bool Lookup(const std::string& path, const FileIdentity& id, DocReading& reading);
+    void TakeFolderHits(const std::string& dir, const std::vector<std::string>& paths,
+                        const std::vector<FileIdentity>* known, size_t first, size_t end, std::vector<bool>& hit);
 
     void Written();
 
     std::unique_ptr<DocCache> cache_;
+    std::unique_ptr<CacheWriter> writer_;  // gone before the cache it writes to
+    bool handed_ = false;                  // something went to the writer since the last Flush
     std::function<void()> onFirstWrite_;
     bool flushAsked_ = false;
     DocReadAhead readAhead_;

@@ -1,5 +1,7 @@
 #include "host/cache/doccache.h"
 
+#include "host/cache/packedreading.h"
+
 #include <fcntl.h>
 #include <sqlite3.h>
 #include <sys/stat.h>
@@ -14,17 +16,16 @@ namespace {
 
 // Bumped whenever a reader gives other information for the same file: the store is then
 // emptied, so no row keeps what an older reader made of it.
-constexpr int kVersion = 1;
+constexpr int kVersion = 2;
 constexpr int kBusyMs = 50;
 constexpr int64_t kKeepDays = 90;
 constexpr int64_t kMaxEntries = 200000;
 constexpr int64_t kPruneAfterInserts = 20000;
+// Frames of the log (pages) after which a commit folds it into the database file.
+constexpr int kFoldAtFrames = 256;
 constexpr auto kOffFor = std::chrono::seconds(60);
 
-constexpr const char* kFields =
-    "name, dev, ino, size, mtime, ctime, seen, isdoc, problem, docsize, title, topic, author, "
-    "cdate, ctime_of_day, author_mod, mdate, mtime_of_day, pdate, ptime_of_day, printedby, "
-    "comment, keywords, info0, info1, info2, info3";
+constexpr const char* kFields = "name, dev, ino, size, mtime, ctime, seen, reading";
 
 void SplitPath(const std::string& path, std::string& dir, std::string& name)
 {
@@ -33,51 +34,51 @@ void SplitPath(const std::string& path, std::string& dir, std::string& name)
     name = slash == std::string::npos ? path : path.substr(slash + 1);
 }
 
-void BindBlob(sqlite3_stmt* stmt, int at, const std::string& text)
+void BindBlob(sqlite3_stmt* stmt, int at, std::string_view bytes)
 {
-    sqlite3_bind_blob(stmt, at, text.data(), int(text.size()), SQLITE_STATIC);
+    // An empty blob, never NULL: the root folder's name is empty.
+    sqlite3_bind_blob(stmt, at, bytes.empty() ? "" : bytes.data(), int(bytes.size()), SQLITE_STATIC);
 }
 
-std::string Blob(sqlite3_stmt* stmt, int column)
+std::string_view Blob(sqlite3_stmt* stmt, int column)
 {
     const void* data = sqlite3_column_blob(stmt, column);
-    return data ? std::string(static_cast<const char*>(data), size_t(sqlite3_column_bytes(stmt, column)))
-                : std::string();
+    return data ? std::string_view(static_cast<const char*>(data), size_t(sqlite3_column_bytes(stmt, column)))
+                : std::string_view();
 }
 
-// The columns of kFields from `first` on (name excluded).
-DocCache::Entry EntryOf(sqlite3_stmt* stmt, const std::string& path)
+// The identity columns of kFields.
+FileIdentity StoredIdentity(sqlite3_stmt* stmt)
 {
-    DocCache::Entry e;
-    e.id.dev = uint64_t(sqlite3_column_int64(stmt, 1));
-    e.id.ino = uint64_t(sqlite3_column_int64(stmt, 2));
-    e.id.size = sqlite3_column_int64(stmt, 3);
-    e.id.mtimeNs = sqlite3_column_int64(stmt, 4);
-    e.id.ctimeNs = sqlite3_column_int64(stmt, 5);
+    FileIdentity id;
+    id.dev = uint64_t(sqlite3_column_int64(stmt, 1));
+    id.ino = uint64_t(sqlite3_column_int64(stmt, 2));
+    id.size = sqlite3_column_int64(stmt, 3);
+    id.mtimeNs = sqlite3_column_int64(stmt, 4);
+    id.ctimeNs = sqlite3_column_int64(stmt, 5);
+    return id;
+}
+
+// The columns of kFields (name excluded); false for a reading of another form.
+bool EntryOf(sqlite3_stmt* stmt, const std::string& path, DocCache::Entry& e)
+{
+    e.id = StoredIdentity(stmt);
     e.seenDay = sqlite3_column_int64(stmt, 6);
-    e.reading.problem = ReadProblem(sqlite3_column_int(stmt, 8));
-    if (sqlite3_column_int(stmt, 7) == 0)
-        return e;
-    auto info = std::make_unique<DocInfo>();
-    info->entry = path;
-    info->size = uint32_t(sqlite3_column_int64(stmt, 9));
-    info->title = Blob(stmt, 10);
-    info->topic = Blob(stmt, 11);
-    info->author = Blob(stmt, 12);
-    info->createdDate = Date(uint32_t(sqlite3_column_int64(stmt, 13)));
-    info->createdTime = Time(int32_t(sqlite3_column_int(stmt, 14)));
-    info->modifiedBy = Blob(stmt, 15);
-    info->modifiedDate = Date(uint32_t(sqlite3_column_int64(stmt, 16)));
-    info->modifiedTime = Time(int32_t(sqlite3_column_int(stmt, 17)));
-    info->printedDate = Date(uint32_t(sqlite3_column_int64(stmt, 18)));
-    info->printedTime = Time(int32_t(sqlite3_column_int(stmt, 19)));
-    info->printedBy = Blob(stmt, 20);
-    info->comment = Blob(stmt, 21);
-    info->keywords = Blob(stmt, 22);
-    for (int i = 0; i < 4; ++i)
-        info->info[size_t(i)] = Blob(stmt, 23 + i);
-    e.reading.info = std::move(info);
-    return e;
+    if (!UnpackReading(Blob(stmt, 7), e.reading))
+        return false;
+    if (e.reading.info)
+        e.reading.info->entry = path;
+    return true;
+}
+
+// The log is folded in and emptied once it holds kFoldAtFrames: what is read from it costs
+// a call a page where the database file is mapped, and a log that is only folded in, not
+// emptied, is taken up again whole by the next process that opens the store, and grows.
+int FoldLog(void*, sqlite3* db, const char* name, int frames)
+{
+    if (frames >= kFoldAtFrames)
+        sqlite3_wal_checkpoint_v2(db, name, SQLITE_CHECKPOINT_TRUNCATE, nullptr, nullptr);
+    return SQLITE_OK;
 }
 
 bool IsDamage(int rc)
@@ -106,6 +107,12 @@ std::string DocCache::DefaultFile()
     if (home && home[0] == '/')
         return std::string(home) + "/.cache/docmanager/docinfo.sqlite";
     return {};
+}
+
+size_t DocCache::Pending() const
+{
+    const std::lock_guard lock(mutex_);
+    return inTransaction_ ? inserted_ + 1 : 0;
 }
 
 int64_t DocCache::Today()
@@ -154,6 +161,7 @@ bool DocCache::Open()
     sqlite3_busy_timeout(db_, kBusyMs);
     // The log is folded in by the automatic checkpoints, not by a sync at every exit.
     sqlite3_db_config(db_, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+    sqlite3_wal_hook(db_, FoldLog, nullptr);
     sqlite3_stmt* version = nullptr;
     int rc = sqlite3_prepare_v2(db_, "PRAGMA user_version", -1, &version, nullptr);
     int have = -1;
@@ -169,17 +177,15 @@ bool DocCache::Open()
         Failed(rc);
         return db_ != nullptr;
     }
-    if (!Exec("PRAGMA journal_mode=WAL") || !Exec("PRAGMA synchronous=NORMAL") || !Exec("PRAGMA mmap_size=268435456"))
+    if (!Exec("PRAGMA journal_mode=WAL") || !Exec("PRAGMA synchronous=NORMAL") || !Exec("PRAGMA mmap_size=268435456") ||
+        !Exec("PRAGMA cache_size=-16384"))
         return db_ != nullptr;
     if (have != kVersion) {
         const std::string schema =
             std::string("BEGIN IMMEDIATE; DROP TABLE IF EXISTS doc; DROP TABLE IF EXISTS meta;"
                         "CREATE TABLE doc(dir BLOB NOT NULL, ") +
             "name BLOB NOT NULL, dev INTEGER, ino INTEGER, size INTEGER, mtime INTEGER, ctime INTEGER,"
-            " seen INTEGER, isdoc INTEGER, problem INTEGER, docsize INTEGER, title BLOB, topic BLOB,"
-            " author BLOB, cdate INTEGER, ctime_of_day INTEGER, author_mod BLOB, mdate INTEGER,"
-            " mtime_of_day INTEGER, pdate INTEGER, ptime_of_day INTEGER, printedby BLOB, comment BLOB,"
-            " keywords BLOB, info0 BLOB, info1 BLOB, info2 BLOB, info3 BLOB, PRIMARY KEY(dir, name)) WITHOUT ROWID;"
+            " seen INTEGER, reading BLOB, PRIMARY KEY(dir, name)) WITHOUT ROWID;"
             "CREATE TABLE meta(key TEXT PRIMARY KEY, value INTEGER);"
             "PRAGMA user_version=" +
             std::to_string(kVersion) + "; COMMIT;";
@@ -192,10 +198,8 @@ bool DocCache::Open()
     }
     const std::string select = std::string("SELECT ") + kFields + " FROM doc WHERE dir=?1";
     const std::string one = select + " AND name=?2";
-    const std::string insert = std::string("INSERT OR REPLACE INTO doc(dir, ") + kFields +
-                               ") "
-                               "VALUES(?1,?2,?3,?4,?5,?6,?7,?8,?9,?10,?11,?12,?13,?14,?15,?16,?17,?18,?19,?20,?21,?22,?"
-                               "23,?24,?25,?26,?27,?28)";
+    const std::string insert =
+        std::string("INSERT OR REPLACE INTO doc(dir, ") + kFields + ") VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9)";
     folder_ = Prepare(select.c_str());
     one_ = folder_ ? Prepare(one.c_str()) : nullptr;
     insert_ = one_ ? Prepare(insert.c_str()) : nullptr;
@@ -260,28 +264,29 @@ sqlite3_stmt* DocCache::Prepare(const char* sql)
     return nullptr;
 }
 
-std::unordered_map<std::string, DocCache::Entry> DocCache::Folder(const std::string& dir)
+void DocCache::Folder(const std::string& dir, const IsCurrent& current, const TakeHit& hit)
 {
-    std::unordered_map<std::string, Entry> entries;
+    const std::lock_guard lock(mutex_);
     if (!Ready())
-        return entries;
+        return;
     BindBlob(folder_, 1, dir);
     int rc;
     while ((rc = sqlite3_step(folder_)) == SQLITE_ROW) {
-        std::string name = Blob(folder_, 0);
-        Entry entry = EntryOf(folder_, std::string());
-        entries.emplace(std::move(name), std::move(entry));
+        const void* data = sqlite3_column_blob(folder_, 0);
+        const std::string_view name(data ? static_cast<const char*>(data) : "",
+                                    size_t(sqlite3_column_bytes(folder_, 0)));
+        Entry entry;
+        if (current(name, StoredIdentity(folder_)) && EntryOf(folder_, std::string(), entry))
+            hit(name, std::move(entry));
     }
     sqlite3_reset(folder_);
-    if (rc != SQLITE_DONE) {
-        entries.clear();
+    if (rc != SQLITE_DONE)
         Failed(rc);
-    }
-    return entries;
 }
 
 bool DocCache::Find(const std::string& path, Entry& entry)
 {
+    const std::lock_guard lock(mutex_);
     if (!Ready())
         return false;
     std::string dir, name;
@@ -289,12 +294,11 @@ bool DocCache::Find(const std::string& path, Entry& entry)
     BindBlob(one_, 1, dir);
     BindBlob(one_, 2, name);
     const int rc = sqlite3_step(one_);
-    if (rc == SQLITE_ROW)
-        entry = EntryOf(one_, path);
+    const bool found = rc == SQLITE_ROW && EntryOf(one_, path, entry);
     sqlite3_reset(one_);
     if (rc != SQLITE_ROW && rc != SQLITE_DONE)
         Failed(rc);
-    return rc == SQLITE_ROW;
+    return found;
 }
 
 // Writes go into one transaction, begun with the first and committed by Flush, so that a
@@ -310,8 +314,9 @@ bool DocCache::Begin()
     return true;
 }
 
-void DocCache::Store(const std::string& path, const FileIdentity& id, const DocReading& reading)
+void DocCache::Store(const std::string& path, const FileIdentity& id, std::string_view packed)
 {
+    const std::lock_guard lock(mutex_);
     if (!Begin())
         return;
     std::string dir, name;
@@ -325,26 +330,7 @@ void DocCache::Store(const std::string& path, const FileIdentity& id, const DocR
     sqlite3_bind_int64(st, 6, id.mtimeNs);
     sqlite3_bind_int64(st, 7, id.ctimeNs);
     sqlite3_bind_int64(st, 8, Today());
-    sqlite3_bind_int(st, 9, reading.info ? 1 : 0);
-    sqlite3_bind_int(st, 10, int(reading.problem));
-    if (const DocInfo* info = reading.info.get()) {
-        sqlite3_bind_int64(st, 11, info->size);
-        BindBlob(st, 12, info->title);
-        BindBlob(st, 13, info->topic);
-        BindBlob(st, 14, info->author);
-        sqlite3_bind_int64(st, 15, info->createdDate.GetDate());
-        sqlite3_bind_int(st, 16, info->createdTime.GetTime());
-        BindBlob(st, 17, info->modifiedBy);
-        sqlite3_bind_int64(st, 18, info->modifiedDate.GetDate());
-        sqlite3_bind_int(st, 19, info->modifiedTime.GetTime());
-        sqlite3_bind_int64(st, 20, info->printedDate.GetDate());
-        sqlite3_bind_int(st, 21, info->printedTime.GetTime());
-        BindBlob(st, 22, info->printedBy);
-        BindBlob(st, 23, info->comment);
-        BindBlob(st, 24, info->keywords);
-        for (int i = 0; i < 4; ++i)
-            BindBlob(st, 25 + i, info->info[size_t(i)]);
-    }
+    BindBlob(st, 9, packed);
     const int rc = sqlite3_step(st);
     sqlite3_reset(st);
     sqlite3_clear_bindings(st);
@@ -356,6 +342,7 @@ void DocCache::Store(const std::string& path, const FileIdentity& id, const DocR
 
 void DocCache::Seen(const std::string& path)
 {
+    const std::lock_guard lock(mutex_);
     if (!Begin())
         return;
     std::string dir, name;
@@ -378,6 +365,7 @@ void DocCache::Abandon(int rc)
 
 void DocCache::Flush()
 {
+    const std::lock_guard lock(mutex_);
     if (!inTransaction_ || !db_)
         return;
     const std::string count = "INSERT INTO meta VALUES('inserts', " + std::to_string(inserted_) +

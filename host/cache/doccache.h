@@ -1,14 +1,16 @@
 #pragma once
 // The reference host's per-user store of what reading a document gave, so that documents
 // the folder index cannot hold (long names, folders the user may only read) are not read
-// again while they stay the same file. One SQLite connection, used on one thread only.
+// again while they stay the same file. One SQLite connection; its calls are taken one at a
+// time, so that a writer thread and the listing's thread may share it.
 // Every failure (locked, damaged, disk full, not writable) turns the store off for a while
 // and the documents are read instead: the rows are the same either way.
 #include <chrono>
 #include <cstdint>
 #include <functional>
+#include <mutex>
 #include <string>
-#include <unordered_map>
+#include <string_view>
 
 #include "host/readers/docreader.h"
 #include "host/readers/fileidentity.h"
@@ -35,16 +37,21 @@ public:
     // neither is known.
     static std::string DefaultFile();
 
-    // Every entry of the folder `dir`, by file name (their `entry` paths left empty);
-    // nothing when the store is off.
-    std::unordered_map<std::string, Entry> Folder(const std::string& dir);
+    // Goes through the entries of the folder `dir` in one scan: `current` says from the
+    // name and the stored identity whether an entry still stands for its file, and `hit`
+    // gets those that do, read in full (their `entry` paths left empty). Entries of files
+    // nobody asked for cost no more than their identity. Nothing when the store is off.
+    using IsCurrent = std::function<bool(std::string_view name, const FileIdentity& stored)>;
+    using TakeHit = std::function<void(std::string_view name, Entry&& entry)>;
+    void Folder(const std::string& dir, const IsCurrent& current, const TakeHit& hit);
     bool Find(const std::string& path, Entry& entry);
-    // Written in the open transaction (begun here when none is).
-    void Store(const std::string& path, const FileIdentity& id, const DocReading& reading);
+    // Written in the open transaction (begun here when none is); `packed` is what
+    // PackReading made of the reading.
+    void Store(const std::string& path, const FileIdentity& id, std::string_view packed);
     void Seen(const std::string& path);
     // Commits the open transaction, pruning first when it is due.
     void Flush();
-    size_t Pending() const { return inTransaction_ ? inserted_ + 1 : 0; }
+    size_t Pending() const;
     static int64_t Today();
 
 private:
@@ -62,6 +69,7 @@ private:
     sqlite3_stmt* Prepare(const char* sql);
     void Prune(int64_t today);
 
+    mutable std::mutex mutex_;
     std::string file_;
     Warn warn_;
     sqlite3* db_ = nullptr;

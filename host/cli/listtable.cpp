@@ -13,7 +13,7 @@ namespace {
 
 // A tab or line break inside a cell would break the line and column structure; the
 // output is UTF-8 whatever bytes a name or an index record holds.
-void AppendOneLine(std::string& out, const std::string& text)
+void AppendOneLine(std::string& out, std::string_view text)
 {
     const size_t start = out.size();
     AppendValidUtf8(out, text);
@@ -37,8 +37,13 @@ size_t CharCount(std::string_view text)
 template <typename Emit>
 void ForEachCell(const DocInfo* info, const std::vector<uint16_t>& columns, const DocGroupConfig& group, Emit emit)
 {
-    for (size_t c = 0; c < columns.size(); ++c)
-        emit(c, info ? GetFieldString(*info, columns[c]) : GetColumnTitle(columns[c], group));
+    std::string scratch;
+    for (size_t c = 0; c < columns.size(); ++c) {
+        if (info)
+            emit(c, FieldView(*info, columns[c], scratch));
+        else
+            emit(c, std::string_view(scratch = GetColumnTitle(columns[c], group)));
+    }
 }
 
 }  // namespace
@@ -64,7 +69,7 @@ void WriteTextList(ListSink& sink, const DocRows& rows, const std::vector<uint16
     // than all kept at once.
     std::vector<size_t> widths(columns.size(), 0);
     std::string cell;
-    const auto measure = [&](size_t c, const std::string& text) {
+    const auto measure = [&](size_t c, std::string_view text) {
         cell.clear();
         AppendOneLine(cell, text);
         widths[c] = std::max(widths[c], CharCount(cell));
@@ -74,7 +79,7 @@ void WriteTextList(ListSink& sink, const DocRows& rows, const std::vector<uint16
         ForEachCell(row.get(), columns, group, measure);
 
     std::string& out = sink.Text();
-    const auto append = [&](size_t c, const std::string& text) {
+    const auto append = [&](size_t c, std::string_view text) {
         if (c > 0)
             out += ' ';
         const size_t start = out.size();
@@ -97,7 +102,7 @@ void WriteTsvList(ListSink& sink, const DocRows& rows, const std::vector<uint16_
                   const DocGroupConfig& group)
 {
     std::string& out = sink.Text();
-    const auto append = [&out](size_t c, const std::string& text) {
+    const auto append = [&out](size_t c, std::string_view text) {
         if (c > 0)
             out += '\t';
         AppendOneLine(out, text);

@@ -11,6 +11,9 @@ public:
     std::unique_ptr<DocInfo> CreateDocInfo(const std::string& path) override;
     // Reads the directory's new and changed documents on every core.
     void ReadAhead(const std::vector<std::string>& paths) override;
+    // The same, telling the cache's files by the listing's own stat.
+    void ReadAheadKnown(const std::vector<std::string>& paths,
+                        const std::vector<const fsutil::DirItem*>& items) override;
     // Why a document holds no information (see ReadProblem).
     ReadProblem Problem(const std::string& path) { return reader_.Problem(path); }
     // Writes the listing's readings into the cache.

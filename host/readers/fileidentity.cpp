@@ -14,12 +14,17 @@ void Fill(const struct stat& st, FileIdentity& id)
     id.size = int64_t(st.st_size);
     id.mtimeNs = int64_t(st.st_mtim.tv_sec) * 1000000000 + st.st_mtim.tv_nsec;
     id.ctimeNs = int64_t(st.st_ctim.tv_sec) * 1000000000 + st.st_ctim.tv_nsec;
-    timespec now{};
-    clock_gettime(CLOCK_REALTIME, &now);
-    id.takenNs = int64_t(now.tv_sec) * 1000000000 + now.tv_nsec;
+    id.takenNs = ClockNowNs();
 }
 
 }  // namespace
+
+int64_t ClockNowNs()
+{
+    timespec now{};
+    clock_gettime(CLOCK_REALTIME, &now);
+    return int64_t(now.tv_sec) * 1000000000 + now.tv_nsec;
+}
 
 bool IdentityOf(const std::string& path, FileIdentity& id)
 {

@@ -21,3 +21,5 @@ bool IdentityOf(const std::string& path, FileIdentity& id);
 // The same for `name` in the folder open as `dirFd` (a short walk for the many files of
 // one folder).
 bool IdentityAt(int dirFd, const char* name, FileIdentity& id);
+// The clock now, as `takenNs` holds it.
+int64_t ClockNowNs();

@@ -19,6 +19,7 @@ void DocReadAhead::Stop()
         worker.join();
     workers_.clear();
     paths_.clear();
+    ids_.clear();
     index_.clear();
     results_.clear();
     states_.clear();
@@ -26,10 +27,11 @@ void DocReadAhead::Stop()
     stopping_ = false;
 }
 
-void DocReadAhead::Start(const std::vector<std::string>& paths, bool identify)
+void DocReadAhead::Start(const std::vector<std::string>& paths, bool identify, std::vector<FileIdentity> ids)
 {
     Stop();
     identify_ = identify;
+    ids_ = std::move(ids);
     if (paths.size() < 2)
         return;  // one document is read as soon as it is asked for
     paths_ = paths;
@@ -53,7 +55,7 @@ void DocReadAhead::Work()
         states_[i] = State::Reading;
         ++reading_;
         lock.unlock();
-        Result result = Read(paths_[i], identify_);
+        Result result = Read(paths_[i], identify_, i < ids_.size() ? &ids_[i] : nullptr);
         lock.lock();
         results_[i] = std::move(result);
         states_[i] = State::Read;
@@ -67,10 +69,12 @@ std::unique_ptr<DocInfo> DocReadAhead::Take(const std::string& path)
     return TakeReading(path).info;
 }
 
-DocReadAhead::Result DocReadAhead::Read(const std::string& path, bool identify)
+DocReadAhead::Result DocReadAhead::Read(const std::string& path, bool identify, const FileIdentity* given)
 {
     Result result;
-    result.known = identify && IdentityOf(path, result.id);
+    if (given)
+        result.id = *given;
+    result.known = given || (identify && IdentityOf(path, result.id));
     result.reading = ReadDocument(path);
     return result;
 }
@@ -101,17 +105,20 @@ DocReading DocReadAhead::TakeReading(const std::string& path, FileIdentity* id, 
         read_.wait(lock, [&] { return states_[i] == State::Read; });
         read = std::move(results_[i]);
     }
+    const bool hasGiven = i < ids_.size();
+    const FileIdentity given = hasGiven ? ids_[i] : FileIdentity{};
     // The last one taken, and no worker busy (a path planned twice): the plan goes whole.
     if (index_.empty() && reading_ == 0) {
         std::vector<std::string>().swap(paths_);
         std::vector<Result>().swap(results_);
         std::vector<State>().swap(states_);
+        std::vector<FileIdentity>().swap(ids_);
     } else {
         std::string().swap(paths_[i]);
     }
     lock.unlock();
     if (readHere)
-        return handOut(Read(path, id != nullptr));
+        return handOut(Read(path, id != nullptr, hasGiven ? &given : nullptr));
     // Copied on this thread, to the texts' lengths: the reader's strings, grown among its
     // scratch buffers in its own arena, would pin that memory for as long as the row lives.
     if (read.reading.info)

@@ -23,8 +23,9 @@ public:
 
     // Starts reading `paths` in their order on a pool as large as the machine has cores;
     // what an earlier start read and nobody took is dropped.
-    // With `identify` each file is stat'ed just before it is read (see TakeReading).
-    void Start(const std::vector<std::string>& paths, bool identify = false);
+    // With `identify` each file is stat'ed just before it is read (see TakeReading), unless
+    // `ids` gives what a stat of the caller's just found (ids[i] for paths[i]).
+    void Start(const std::vector<std::string>& paths, bool identify = false, std::vector<FileIdentity> ids = {});
     // The information of `path`: taken from the pool (waiting while it is being read), or
     // read here when it was not planned, not yet begun or already taken.
     std::unique_ptr<DocInfo> Take(const std::string& path);
@@ -46,7 +47,9 @@ private:
         FileIdentity id;
         bool known = false;
     };
-    static Result Read(const std::string& path, bool identify);
+    // `given`: the identity the caller gave at the start, which spares the stat.
+    static Result Read(const std::string& path, bool identify, const FileIdentity* given = nullptr);
+    std::vector<FileIdentity> ids_;
     std::vector<Result> results_;
     std::vector<State> states_;
     size_t next_ = 0;
