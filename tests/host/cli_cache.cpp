@@ -9,6 +9,7 @@
 #include <filesystem>
 
 #include "host/cache/cachedreader.h"
+#include "host/cache/packedreading.h"
 #include "tests/host/cli_fixture.h"
 
 using namespace clitest;
@@ -105,6 +106,56 @@ TEST_F(CacheTest, AReplacedDocumentInAReadOnlyFolderIsShownAtOnce)
     EXPECT_NE(second.out.find("\tRetitle\t"), std::string::npos) << second.out;
     EXPECT_EQ(second.out.find("\tTitle 1\t"), std::string::npos) << second.out;
     chmod(Lib().c_str(), 0755);
+}
+
+// Thousands of readings in one listing: they read back whole, every field in its place, and
+// the log is folded in and emptied, so that the next process neither reads it page by page
+// nor finds it grown.
+TEST_F(CacheTest, ALargeWriteReadsBackWholeAndLeavesNoLog)
+{
+    const std::string folder = "/no/such/folder";
+    const auto readingOf = [](int i) {
+        DocReading reading;
+        reading.problem = i % 3 == 0 ? ReadProblem::Damaged : ReadProblem::None;
+        if (i % 5 == 4)
+            return reading;  // not a document
+        reading.info = std::make_unique<DocInfo>();
+        DocInfo& info = *reading.info;
+        info.size = uint32_t(1000 + i);
+        info.title = "Title " + std::to_string(i) + std::string(size_t(i % 70), 'x');
+        info.author = i % 2 ? "Zoë" : "";
+        info.info[3] = "fourth " + std::to_string(i);
+        info.createdDate = Date(uint32_t(20190506 + i % 20));
+        info.printedTime = Time(int32_t(i * 7));
+        return reading;
+    };
+    constexpr int kCount = 8000;  // some 340 pages
+    {
+        DocCache cache(CacheFile(), nullptr);
+        for (int i = 0; i < kCount; ++i)
+            cache.Store(folder + "/doc" + std::to_string(i), {1, uint64_t(i), i, i, i, 0}, PackReading(readingOf(i)));
+        cache.Flush();
+    }
+    EXPECT_EQ(std::filesystem::file_size(CacheFile() + "-wal"), 0u);
+
+    DocCache cache(CacheFile(), nullptr);
+    int hits = 0;
+    cache.Folder(
+        folder, [](std::string_view, const FileIdentity&) { return true; },
+        [&](std::string_view name, DocCache::Entry&& entry) {
+            const int i = std::stoi(std::string(name.substr(3)));
+            const DocReading expected = readingOf(i);
+            EXPECT_EQ(entry.id, (FileIdentity{1, uint64_t(i), i, i, i, 0}));
+            EXPECT_EQ(entry.reading.problem, expected.problem);
+            ASSERT_EQ(entry.reading.info != nullptr, expected.info != nullptr) << i;
+            if (expected.info) {
+                const DocInfo &got = *entry.reading.info, &want = *expected.info;
+                EXPECT_EQ(std::tie(got.size, got.title, got.author, got.info, got.createdDate, got.printedTime),
+                          std::tie(want.size, want.title, want.author, want.info, want.createdDate, want.printedTime));
+            }
+            ++hits;
+        });
+    EXPECT_EQ(hits, kCount);
 }
 
 TEST_F(CacheTest, ADamagedLockedOrRefusedCacheGivesTheSameRows)
