@@ -1,5 +1,7 @@
 #include "docmgr/records/docfields.h"
 
+#include <algorithm>
+
 #include "docmgr/config/docgroupconfig.h"
 #include "docmgr/tools/fsutil.h"
 #include "docmgr/tools/intl.h"
@@ -29,6 +31,13 @@ int32_t TimeKey(const Time& time, const Date& date)
 {
     return date.IsUnset() ? -1
                           : int32_t((time.GetHour() % 24) * 10000 + (time.GetMin() % 60) * 100 + time.GetSec() % 60);
+}
+
+// The last component of a path.
+std::string_view NameOf(std::string_view path)
+{
+    const auto slash = std::find(path.rbegin(), path.rend(), '/');
+    return path.substr(size_t(path.rend() - slash));
 }
 
 }  // namespace
@@ -87,10 +96,8 @@ std::string_view FieldView(const DocInfo& info, uint16_t columnId, std::string& 
     if (columnId == COL_MODIFIED_TIME &&
         TimeKey(info.modifiedTime, info.modifiedDate) == TimeKey(info.createdTime, info.createdDate))
         return NOT_SET;
-    const std::string_view entry = info.entry;
-    const size_t slash = entry.rfind('/');
     switch (KindOfColumn(columnId)) {
-    case FieldKind::Name: return slash == std::string_view::npos ? entry : entry.substr(slash + 1);
+    case FieldKind::Name: return NameOf(info.entry);
     case FieldKind::Size: return scratch = std::to_string(info.size);
     case FieldKind::Text: return TextField(info, columnId);
     case FieldKind::Date: return scratch = DateText(DateField(info, columnId));
