@@ -13,14 +13,6 @@ constexpr size_t kFlushAt = 5000;
 
 }  // namespace
 
-void CachedReader::SetCache(std::unique_ptr<DocCache> cache)
-{
-    writer_.reset();
-    cache_ = std::move(cache);
-    if (cache_)
-        writer_ = std::make_unique<CacheWriter>(*cache_);
-}
-
 bool CachedReader::Settled(const std::string& path, const FileIdentity& id)
 {
     const std::string dir = fsutil::DirName(path);
@@ -53,7 +45,7 @@ void CachedReader::ReadAhead(const std::vector<std::string>& paths, const std::v
         return;
     }
     if (cache_->Pending() >= kFlushAt)
-        cache_->Flush();  // what the writer holds goes with the next commit
+        cache_->Flush();
     // Only files the cache knows are stat'ed here; the pool stats the others as it reads
     // them, so a folder new to the cache starts reading at once.
     std::vector<bool> hit(paths.size());
@@ -132,7 +124,7 @@ void CachedReader::TakeFolderHits(const std::string& dir, const std::vector<std:
 
 void CachedReader::Written()
 {
-    if (!flushAsked_ && (handed_ || cache_->Pending() > 0) && onFirstWrite_) {
+    if (!flushAsked_ && cache_->Pending() > 0 && onFirstWrite_) {
         flushAsked_ = true;
         onFirstWrite_();
     }
@@ -159,8 +151,7 @@ std::unique_ptr<DocInfo> CachedReader::Take(const std::string& path)
     bool known = false;
     DocReading reading = readAhead_.TakeReading(path, &id, &known);
     if (known && Settled(path, id)) {
-        writer_->Store(path, id, PackReading(reading));
-        handed_ = true;
+        cache_->Store(path, id, PackReading(reading));
         Written();
     }
     return std::move(reading.info);
@@ -182,9 +173,6 @@ ReadProblem CachedReader::Problem(const std::string& path)
 void CachedReader::Flush()
 {
     flushAsked_ = false;
-    handed_ = false;
-    if (!cache_)
-        return;
-    writer_->Drain();
-    cache_->Flush();
+    if (cache_)
+        cache_->Flush();
 }

@@ -9,15 +9,14 @@
 #include <unordered_set>
 #include <vector>
 
-#include "host/cache/cachewriter.h"
 #include "host/cache/doccache.h"
 #include "host/readers/readahead.h"
 
 class CachedReader {
 public:
     // Without a cache every document is read, as before there was one.
-    explicit CachedReader(std::unique_ptr<DocCache> cache = nullptr) { SetCache(std::move(cache)); }
-    void SetCache(std::unique_ptr<DocCache> cache);
+    explicit CachedReader(std::unique_ptr<DocCache> cache = nullptr) : cache_(std::move(cache)) {}
+    void SetCache(std::unique_ptr<DocCache> cache) { cache_ = std::move(cache); }
     // Called once when a listing begins writing to the cache, so that a host that cannot
     // tell when its listing ends (the window) calls Flush once it is back in its loop.
     void OnFirstWrite(std::function<void()> call) { onFirstWrite_ = std::move(call); }
@@ -42,8 +41,6 @@ private:
     void Written();
 
     std::unique_ptr<DocCache> cache_;
-    std::unique_ptr<CacheWriter> writer_;  // gone before the cache it writes to
-    bool handed_ = false;                  // something went to the writer since the last Flush
     std::function<void()> onFirstWrite_;
     bool flushAsked_ = false;
     DocReadAhead readAhead_;

@@ -14,9 +14,9 @@
 
 namespace {
 
-// Bumped whenever a reader gives other information for the same file: the store is then
-// emptied, so no row keeps what an older reader made of it.
-constexpr int kVersion = 2;
+// Bumped whenever a reader gives other information for the same file, or the form of the
+// store changes: the store is then emptied, so no row keeps what an older reader made of it.
+constexpr int kVersion = 3;
 constexpr int kBusyMs = 50;
 constexpr int64_t kKeepDays = 90;
 constexpr int64_t kMaxEntries = 200000;
@@ -24,8 +24,6 @@ constexpr int64_t kPruneAfterInserts = 20000;
 // Frames of the log (pages) after which a commit folds it into the database file.
 constexpr int kFoldAtFrames = 256;
 constexpr auto kOffFor = std::chrono::seconds(60);
-
-constexpr const char* kFields = "name, dev, ino, size, mtime, ctime, seen, reading";
 
 void SplitPath(const std::string& path, std::string& dir, std::string& name)
 {
@@ -47,27 +45,15 @@ std::string_view Blob(sqlite3_stmt* stmt, int column)
                 : std::string_view();
 }
 
-// The identity columns of kFields.
-FileIdentity StoredIdentity(sqlite3_stmt* stmt)
+// The entry of a folder's blob in full; false for a reading of another form.
+bool EntryOf(const FolderEntry& stored, const std::string& path, DocCache::Entry& entry)
 {
-    FileIdentity id;
-    id.dev = uint64_t(sqlite3_column_int64(stmt, 1));
-    id.ino = uint64_t(sqlite3_column_int64(stmt, 2));
-    id.size = sqlite3_column_int64(stmt, 3);
-    id.mtimeNs = sqlite3_column_int64(stmt, 4);
-    id.ctimeNs = sqlite3_column_int64(stmt, 5);
-    return id;
-}
-
-// The columns of kFields (name excluded); false for a reading of another form.
-bool EntryOf(sqlite3_stmt* stmt, const std::string& path, DocCache::Entry& e)
-{
-    e.id = StoredIdentity(stmt);
-    e.seenDay = sqlite3_column_int64(stmt, 6);
-    if (!UnpackReading(Blob(stmt, 7), e.reading))
+    entry.id = stored.id;
+    entry.seenDay = stored.seenDay;
+    if (!UnpackReading(stored.packed, entry.reading))
         return false;
-    if (e.reading.info)
-        e.reading.info->entry = path;
+    if (entry.reading.info)
+        entry.reading.info->entry = path;
     return true;
 }
 
@@ -107,12 +93,6 @@ std::string DocCache::DefaultFile()
     if (home && home[0] == '/')
         return std::string(home) + "/.cache/docmanager/docinfo.sqlite";
     return {};
-}
-
-size_t DocCache::Pending() const
-{
-    const std::lock_guard lock(mutex_);
-    return inTransaction_ ? inserted_ + 1 : 0;
 }
 
 int64_t DocCache::Today()
@@ -177,15 +157,12 @@ bool DocCache::Open()
         Failed(rc);
         return db_ != nullptr;
     }
-    if (!Exec("PRAGMA journal_mode=WAL") || !Exec("PRAGMA synchronous=NORMAL") || !Exec("PRAGMA mmap_size=268435456") ||
-        !Exec("PRAGMA cache_size=-16384"))
+    if (!Exec("PRAGMA journal_mode=WAL") || !Exec("PRAGMA synchronous=NORMAL") || !Exec("PRAGMA mmap_size=268435456"))
         return db_ != nullptr;
     if (have != kVersion) {
         const std::string schema =
-            std::string("BEGIN IMMEDIATE; DROP TABLE IF EXISTS doc; DROP TABLE IF EXISTS meta;"
-                        "CREATE TABLE doc(dir BLOB NOT NULL, ") +
-            "name BLOB NOT NULL, dev INTEGER, ino INTEGER, size INTEGER, mtime INTEGER, ctime INTEGER,"
-            " seen INTEGER, reading BLOB, PRIMARY KEY(dir, name)) WITHOUT ROWID;"
+            "BEGIN IMMEDIATE; DROP TABLE IF EXISTS doc; DROP TABLE IF EXISTS folder; DROP TABLE IF EXISTS meta;"
+            "CREATE TABLE folder(dir BLOB PRIMARY KEY NOT NULL, seen INTEGER, count INTEGER, entries BLOB);"
             "CREATE TABLE meta(key TEXT PRIMARY KEY, value INTEGER);"
             "PRAGMA user_version=" +
             std::to_string(kVersion) + "; COMMIT;";
@@ -196,27 +173,24 @@ bool DocCache::Open()
             return false;
         }
     }
-    const std::string select = std::string("SELECT ") + kFields + " FROM doc WHERE dir=?1";
-    const std::string one = select + " AND name=?2";
-    const std::string insert =
-        std::string("INSERT OR REPLACE INTO doc(dir, ") + kFields + ") VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9)";
-    folder_ = Prepare(select.c_str());
-    one_ = folder_ ? Prepare(one.c_str()) : nullptr;
-    insert_ = one_ ? Prepare(insert.c_str()) : nullptr;
-    seen_stmt_ = insert_ ? Prepare("UPDATE doc SET seen=?3 WHERE dir=?1 AND name=?2") : nullptr;
-    return seen_stmt_ != nullptr;
+    select_ = Prepare("SELECT entries FROM folder WHERE dir=?1");
+    write_ =
+        select_ ? Prepare("INSERT OR REPLACE INTO folder(dir, seen, count, entries) VALUES(?1, ?2, ?3, ?4)") : nullptr;
+    erase_ = write_ ? Prepare("DELETE FROM folder WHERE dir=?1") : nullptr;
+    return erase_ != nullptr;
 }
 
 void DocCache::Close()
 {
-    inTransaction_ = false;
-    for (sqlite3_stmt** stmt : {&folder_, &one_, &insert_, &seen_stmt_}) {
+    for (sqlite3_stmt** stmt : {&select_, &write_, &erase_}) {
         sqlite3_finalize(*stmt);
         *stmt = nullptr;
     }
     if (db_)
         sqlite3_close_v2(db_);
     db_ = nullptr;
+    foundLoaded_ = false;
+    foundEntries_.clear();
 }
 
 void DocCache::Failed(int rc)
@@ -264,124 +238,162 @@ sqlite3_stmt* DocCache::Prepare(const char* sql)
     return nullptr;
 }
 
+void DocCache::Abandon(int rc)
+{
+    sqlite3_exec(db_, "ROLLBACK", nullptr, nullptr, nullptr);
+    Failed(rc);
+}
+
 void DocCache::Folder(const std::string& dir, const IsCurrent& current, const TakeHit& hit)
 {
-    const std::lock_guard lock(mutex_);
     if (!Ready())
         return;
-    BindBlob(folder_, 1, dir);
-    int rc;
-    while ((rc = sqlite3_step(folder_)) == SQLITE_ROW) {
-        const void* data = sqlite3_column_blob(folder_, 0);
-        const std::string_view name(data ? static_cast<const char*>(data) : "",
-                                    size_t(sqlite3_column_bytes(folder_, 0)));
-        Entry entry;
-        if (current(name, StoredIdentity(folder_)) && EntryOf(folder_, std::string(), entry))
-            hit(name, std::move(entry));
+    BindBlob(select_, 1, dir);
+    const int rc = sqlite3_step(select_);
+    if (rc == SQLITE_ROW) {
+        FolderEntries entries(Blob(select_, 0));
+        FolderEntry stored;
+        while (entries.Next(stored)) {
+            Entry entry;
+            if (current(stored.name, stored.id) && EntryOf(stored, std::string(), entry))
+                hit(stored.name, std::move(entry));
+        }
     }
-    sqlite3_reset(folder_);
-    if (rc != SQLITE_DONE)
+    sqlite3_reset(select_);
+    if (rc != SQLITE_ROW && rc != SQLITE_DONE)
         Failed(rc);
+}
+
+bool DocCache::LoadFolder(const std::string& dir, std::string& blob)
+{
+    BindBlob(select_, 1, dir);
+    const int rc = sqlite3_step(select_);
+    blob = rc == SQLITE_ROW ? std::string(Blob(select_, 0)) : std::string();
+    sqlite3_reset(select_);
+    return rc == SQLITE_ROW || rc == SQLITE_DONE;
 }
 
 bool DocCache::Find(const std::string& path, Entry& entry)
 {
-    const std::lock_guard lock(mutex_);
-    if (!Ready())
-        return false;
     std::string dir, name;
     SplitPath(path, dir, name);
-    BindBlob(one_, 1, dir);
-    BindBlob(one_, 2, name);
-    const int rc = sqlite3_step(one_);
-    const bool found = rc == SQLITE_ROW && EntryOf(one_, path, entry);
-    sqlite3_reset(one_);
-    if (rc != SQLITE_ROW && rc != SQLITE_DONE)
-        Failed(rc);
-    return found;
-}
-
-// Writes go into one transaction, begun with the first and committed by Flush, so that a
-// listing holds no copies of what it wrote and pays for one commit.
-bool DocCache::Begin()
-{
-    if (inTransaction_)
-        return true;
-    if (!Ready() || !Exec("BEGIN IMMEDIATE"))
+    // What this listing kept comes first: it is the newer.
+    if (const auto pending = pending_.find(dir); pending != pending_.end()) {
+        FolderEntries entries(pending->second.blob);
+        FolderEntry stored;
+        bool found = false;
+        while (entries.Next(stored))
+            if (stored.name == name)
+                found = EntryOf(stored, path, entry);
+        if (found)
+            return true;
+    }
+    if (!Ready())
         return false;
-    inTransaction_ = true;
-    inserted_ = 0;
-    return true;
+    if (!foundLoaded_ || dir != foundDir_) {
+        foundEntries_.clear();
+        foundLoaded_ = false;
+        if (!LoadFolder(dir, foundBlob_)) {
+            Failed(sqlite3_errcode(db_));
+            return false;
+        }
+        foundDir_ = dir;
+        foundLoaded_ = true;
+        FolderEntries entries(foundBlob_);
+        FolderEntry stored;
+        while (entries.Next(stored))
+            foundEntries_[stored.name] = stored;
+    }
+    const auto found = foundEntries_.find(name);
+    return found != foundEntries_.end() && EntryOf(found->second, path, entry);
 }
 
 void DocCache::Store(const std::string& path, const FileIdentity& id, std::string_view packed)
 {
-    const std::lock_guard lock(mutex_);
-    if (!Begin())
-        return;
     std::string dir, name;
     SplitPath(path, dir, name);
-    sqlite3_stmt* st = insert_;
-    BindBlob(st, 1, dir);
-    BindBlob(st, 2, name);
-    sqlite3_bind_int64(st, 3, int64_t(id.dev));
-    sqlite3_bind_int64(st, 4, int64_t(id.ino));
-    sqlite3_bind_int64(st, 5, id.size);
-    sqlite3_bind_int64(st, 6, id.mtimeNs);
-    sqlite3_bind_int64(st, 7, id.ctimeNs);
-    sqlite3_bind_int64(st, 8, Today());
-    BindBlob(st, 9, packed);
-    const int rc = sqlite3_step(st);
-    sqlite3_reset(st);
-    sqlite3_clear_bindings(st);
-    if (rc != SQLITE_DONE)
-        Abandon(rc);
-    else
-        ++inserted_;
+    AppendEntry(pending_[dir].blob, name, id, Today(), packed);
+    ++pendingCount_;
 }
 
 void DocCache::Seen(const std::string& path)
 {
-    const std::lock_guard lock(mutex_);
-    if (!Begin())
-        return;
     std::string dir, name;
     SplitPath(path, dir, name);
-    BindBlob(seen_stmt_, 1, dir);
-    BindBlob(seen_stmt_, 2, name);
-    sqlite3_bind_int64(seen_stmt_, 3, Today());
-    const int rc = sqlite3_step(seen_stmt_);
-    sqlite3_reset(seen_stmt_);
-    if (rc != SQLITE_DONE)
-        Abandon(rc);
-}
-
-void DocCache::Abandon(int rc)
-{
-    sqlite3_exec(db_, "ROLLBACK", nullptr, nullptr, nullptr);
-    inTransaction_ = false;
-    Failed(rc);
+    if (pending_[dir].seen.insert(std::move(name)).second)
+        ++pendingCount_;
 }
 
 void DocCache::Flush()
 {
-    const std::lock_guard lock(mutex_);
-    if (!inTransaction_ || !db_)
+    if (pending_.empty())
         return;
-    const std::string count = "INSERT INTO meta VALUES('inserts', " + std::to_string(inserted_) +
+    std::unordered_map<std::string, PendingFolder> pending;
+    pending.swap(pending_);
+    pendingCount_ = 0;
+    foundLoaded_ = false;
+    foundEntries_.clear();
+    if (!Ready() || !Exec("BEGIN IMMEDIATE"))
+        return;
+    const int64_t today = Today();
+    int64_t written = 0;
+    for (const auto& [dir, folder] : pending)
+        if (!WriteFolder(dir, folder, today, written))
+            return Abandon(sqlite3_errcode(db_));
+    const std::string count = "INSERT INTO meta VALUES('inserts', " + std::to_string(written) +
                               ") ON CONFLICT(key) DO UPDATE SET value = value + excluded.value";
     if (sqlite3_exec(db_, count.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
         return Abandon(sqlite3_errcode(db_));
-    Prune(Today());
+    Prune(today);
     if (!db_)
         return;
     if (sqlite3_exec(db_, "COMMIT", nullptr, nullptr, nullptr) != SQLITE_OK)
-        return Abandon(sqlite3_errcode(db_));
-    inTransaction_ = false;
+        Abandon(sqlite3_errcode(db_));
 }
 
-// At most once a day, or after many inserts: files not seen for kKeepDays go, then the
-// least recently seen beyond kMaxEntries.
+// The folder's stored entries with the new ones in place of the old of the same name;
+// entries unseen for kKeepDays go.
+bool DocCache::WriteFolder(const std::string& dir, const PendingFolder& pending, int64_t today, int64_t& written)
+{
+    std::string old;
+    if (!LoadFolder(dir, old))
+        return false;
+    std::unordered_map<std::string_view, FolderEntry> fresh;
+    FolderEntry entry;
+    for (FolderEntries entries(pending.blob); entries.Next(entry);)
+        fresh[entry.name] = entry;  // the last kept of a name wins
+    std::string blob;
+    blob.reserve(old.size() + pending.blob.size());
+    int64_t count = 0;
+    for (FolderEntries entries(old); entries.Next(entry);) {
+        if (fresh.count(entry.name))
+            continue;
+        const int64_t seen =
+            !pending.seen.empty() && pending.seen.count(std::string(entry.name)) ? today : entry.seenDay;
+        if (seen < today - kKeepDays)
+            continue;
+        AppendEntry(blob, entry.name, entry.id, seen, entry.packed);
+        ++count;
+    }
+    for (const auto& [name, kept] : fresh)
+        AppendEntry(blob, name, kept.id, kept.seenDay, kept.packed);
+    count += int64_t(fresh.size());
+    written += int64_t(fresh.size());
+    sqlite3_stmt* st = count > 0 ? write_ : erase_;
+    BindBlob(st, 1, dir);
+    if (count > 0) {
+        sqlite3_bind_int64(st, 2, today);
+        sqlite3_bind_int64(st, 3, count);
+        BindBlob(st, 4, blob);
+    }
+    const int rc = sqlite3_step(st);
+    sqlite3_reset(st);
+    sqlite3_clear_bindings(st);
+    return rc == SQLITE_DONE;
+}
+
+// At most once a day, or after many new entries: folders not listed for kKeepDays go, then
+// the least recently listed beyond kMaxEntries entries in all.
 void DocCache::Prune(int64_t today)
 {
     int64_t pruned = -1, inserts = 0;
@@ -400,16 +412,17 @@ void DocCache::Prune(int64_t today)
     sqlite3_finalize(meta);
     if (pruned == today && inserts < kPruneAfterInserts)
         return;
-    const std::string sql = "DELETE FROM doc WHERE seen < " + std::to_string(today - kKeepDays) +
-                            ";"
-                            "DELETE FROM doc WHERE (dir, name) IN (SELECT dir, name FROM doc ORDER BY seen LIMIT "
-                            "max(0, (SELECT count(*) FROM doc) - " +
-                            std::to_string(kMaxEntries) +
-                            "));"
-                            "INSERT OR REPLACE INTO meta VALUES('pruned', " +
-                            std::to_string(today) +
-                            ");"
-                            "INSERT OR REPLACE INTO meta VALUES('inserts', 0);";
+    const std::string sql =
+        "DELETE FROM folder WHERE seen < " + std::to_string(today - kKeepDays) +
+        ";"
+        "DELETE FROM folder WHERE dir IN (SELECT dir FROM (SELECT dir, sum(count) OVER (ORDER BY seen DESC, dir) "
+        "AS kept FROM folder) WHERE kept > " +
+        std::to_string(kMaxEntries) +
+        ");"
+        "INSERT OR REPLACE INTO meta VALUES('pruned', " +
+        std::to_string(today) +
+        ");"
+        "INSERT OR REPLACE INTO meta VALUES('inserts', 0);";
     if (sqlite3_exec(db_, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
         Abandon(sqlite3_errcode(db_));
 }
