@@ -85,7 +85,7 @@ DocCache::~DocCache()
 
 std::string DocCache::DefaultFile()
 {
-    // The base directory specification allows only absolute paths here.
+    // The XDG base directory rules allow only absolute paths here.
     const char* xdg = std::getenv("XDG_CACHE_HOME");
     if (xdg && xdg[0] == '/')
         return std::string(xdg) + "/docmanager/docinfo.sqlite";
@@ -111,9 +111,9 @@ bool DocCache::Ready()
     return Open();
 }
 
-bool DocCache::Open()
+// A private folder and file: the store holds titles and authors of every document read.
+bool DocCache::MakePrivateFile()
 {
-    // A private folder and file: the store holds titles and authors of every document read.
     const size_t slash = file_.rfind('/');
     const std::string folder = file_.substr(0, slash);
     // The base folder ($XDG_CACHE_HOME) is made as the base directory rules ask, 0700.
@@ -132,7 +132,13 @@ bool DocCache::Open()
     if (::fstat(fd, &st) == 0 && (st.st_mode & 0777) != 0600)
         ::fchmod(fd, 0600);
     ::close(fd);
+    return true;
+}
 
+bool DocCache::Open()
+{
+    if (!MakePrivateFile())
+        return false;
     if (sqlite3_open_v2(file_.c_str(), &db_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr) != SQLITE_OK) {
         Close();
         offUntil_ = std::chrono::steady_clock::now() + kOffFor;
@@ -159,25 +165,31 @@ bool DocCache::Open()
     }
     if (!Exec("PRAGMA journal_mode=WAL") || !Exec("PRAGMA synchronous=NORMAL") || !Exec("PRAGMA mmap_size=268435456"))
         return db_ != nullptr;
-    if (have != kVersion) {
-        const std::string schema =
-            "BEGIN IMMEDIATE; DROP TABLE IF EXISTS doc; DROP TABLE IF EXISTS folder; DROP TABLE IF EXISTS meta;"
-            "CREATE TABLE folder(dir BLOB PRIMARY KEY NOT NULL, seen INTEGER, count INTEGER, entries BLOB);"
-            "CREATE TABLE meta(key TEXT PRIMARY KEY, value INTEGER);"
-            "PRAGMA user_version=" +
-            std::to_string(kVersion) + "; COMMIT;";
-        if (!Exec(schema.c_str())) {
-            if (db_)
-                sqlite3_exec(db_, "ROLLBACK", nullptr, nullptr, nullptr);
-            Close();
-            return false;
-        }
-    }
+    if (have != kVersion && !MakeSchema())
+        return false;
     select_ = Prepare("SELECT entries FROM folder WHERE dir=?1");
     write_ =
         select_ ? Prepare("INSERT OR REPLACE INTO folder(dir, seen, count, entries) VALUES(?1, ?2, ?3, ?4)") : nullptr;
     erase_ = write_ ? Prepare("DELETE FROM folder WHERE dir=?1") : nullptr;
     return erase_ != nullptr;
+}
+
+// An empty store of this version, in place of whatever an older one held.
+bool DocCache::MakeSchema()
+{
+    const std::string schema =
+        "BEGIN IMMEDIATE; DROP TABLE IF EXISTS doc; DROP TABLE IF EXISTS folder; DROP TABLE IF EXISTS meta;"
+        "CREATE TABLE folder(dir BLOB PRIMARY KEY NOT NULL, seen INTEGER, count INTEGER, entries BLOB);"
+        "CREATE TABLE meta(key TEXT PRIMARY KEY, value INTEGER);"
+        "PRAGMA user_version=" +
+        std::to_string(kVersion) + "; COMMIT;";
+    if (!Exec(schema.c_str())) {
+        if (db_)
+            sqlite3_exec(db_, "ROLLBACK", nullptr, nullptr, nullptr);
+        Close();
+        return false;
+    }
+    return true;
 }
 
 void DocCache::Close()

@@ -65,6 +65,8 @@ private:
 
     bool Ready();
     bool Open();
+    bool MakePrivateFile();
+    bool MakeSchema();
     void Close();
     // Handles a failed call: a damaged file is moved aside and rebuilt, anything else
     // turns the store off for a while.
