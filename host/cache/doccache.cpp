@@ -372,8 +372,14 @@ bool DocCache::WriteFolder(const std::string& dir, const PendingFolder& pending,
         return false;
     std::unordered_map<std::string_view, FolderEntry> fresh;
     FolderEntry entry;
-    for (FolderEntries entries(pending.blob); entries.Next(entry);)
+    size_t pendingEntries = 0;
+    for (FolderEntries entries(pending.blob); entries.Next(entry); ++pendingEntries)
         fresh[entry.name] = entry;  // the last kept of a name wins
+    written += int64_t(fresh.size());
+    // A folder new to the store, its files each read once: the new entries are the row as
+    // they stand, without a second copy of them.
+    if (old.empty() && pendingEntries == fresh.size())
+        return WriteRow(dir, today, int64_t(pendingEntries), pending.blob);
     std::string blob;
     blob.reserve(old.size() + pending.blob.size());
     int64_t count = 0;
@@ -390,7 +396,12 @@ bool DocCache::WriteFolder(const std::string& dir, const PendingFolder& pending,
     for (const auto& [name, kept] : fresh)
         AppendEntry(blob, name, kept.id, kept.seenDay, kept.packed);
     count += int64_t(fresh.size());
-    written += int64_t(fresh.size());
+    return WriteRow(dir, today, count, blob);
+}
+
+// The row of a folder, or none when it has no entries left.
+bool DocCache::WriteRow(const std::string& dir, int64_t today, int64_t count, std::string_view blob)
+{
     sqlite3_stmt* st = count > 0 ? write_ : erase_;
     BindBlob(st, 1, dir);
     if (count > 0) {

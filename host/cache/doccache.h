@@ -79,6 +79,7 @@ private:
     // The stored blob of `dir` (empty when none); false when the store failed.
     bool LoadFolder(const std::string& dir, std::string& blob);
     bool WriteFolder(const std::string& dir, const PendingFolder& pending, int64_t today, int64_t& written);
+    bool WriteRow(const std::string& dir, int64_t today, int64_t count, std::string_view blob);
     void Prune(int64_t today);
 
     std::string file_;
