@@ -3,6 +3,7 @@
 #include <QMessageBox>
 
 #include "host/app/docpropertiesdialog.h"
+#include "host/readers/docedit.h"
 
 std::unique_ptr<DocInfo> HostManager::CreateDocInfo(const std::string& file)
 {
@@ -25,4 +26,16 @@ bool HostManager::ChangeDocInfo(QWidget* parent, const std::string& file)
         return false;
     }
     return dialog.exec() == QDialog::Accepted;
+}
+
+DocWriteResult HostManager::WriteDocInfo(const std::string& file, const DocInfoEdit& edit, bool checkOnly,
+                                         std::string& reason)
+{
+    if (checkOnly) {
+        reason = EditRefusal(file, edit);
+        return reason.empty() ? DocWriteResult::Written : DocWriteResult::Refused;
+    }
+    DocInfo before, after;
+    return EditDocInfo(file, edit, GetInfoLabels(), false, before, after, reason) ? DocWriteResult::Written
+                                                                                  : DocWriteResult::Refused;
 }

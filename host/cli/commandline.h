@@ -4,7 +4,9 @@
 #include <string>
 #include <vector>
 
-enum class RunMode { Window, List, ExportConfig, Help };
+#include "docmgr/records/docinfoedit.h"
+
+enum class RunMode { Window, List, ExportConfig, SetFields, Help };
 enum class ListFormat { Text, Tsv, Json, Csv };
 
 struct CommandLine {
@@ -16,7 +18,9 @@ struct CommandLine {
     std::vector<uint16_t> columns;  // --columns; empty: the working group's slots
     ListFormat format = ListFormat::Text;
     bool printPaths = false;              // window: print the chosen paths instead of opening
-    std::vector<std::string> startPaths;  // START_PATH arguments in the order given
+    std::vector<std::string> startPaths;  // START_PATH arguments (FILEs of --set) in the order given
+    DocInfoEdit edit;                     // --set FIELD=VALUE; a later value of a field wins
+    bool dryRun = false;                  // --set: tell the changes, write nothing
 };
 
 // Parses the arguments after the program name. On a bad argument returns false and sets
