@@ -1,6 +1,9 @@
 #include "docmgr/tools/fileundo.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
 #include <QString>
 #include <cerrno>
 #include <filesystem>
@@ -160,6 +163,18 @@ std::optional<Stamp> StampOf(const std::string& path)
 
 bool MoveToTrash(const std::string& path, std::string& trashPath)
 {
+    // Qt falls back on the user's trash, and where that cannot be made it moves the file
+    // into "files" below the current directory and calls that the trash. So the user's
+    // trash is made first, as the desktop would, and without it no file goes anywhere.
+    const QString dataHome = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    const QString trash = dataHome + QStringLiteral("/Trash");
+    if (dataHome.isEmpty())
+        return false;
+    if (!QFileInfo(trash).isDir()) {
+        if (!QDir().mkpath(trash))
+            return false;
+        QFile::setPermissions(trash, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
     QString inTrash;
     if (!QFile::moveToTrash(QString::fromStdString(path), &inTrash))
         return false;

@@ -160,7 +160,6 @@ std::unique_ptr<DocCommandMenu> DocBrowser::CreateContextMenu()
     menu->Item(CMD_COPY)->setEnabled(access & ACCESS_FILECOPY);
     menu->Item(CMD_PRINTDOCS)->setEnabled(access & ACCESS_FILEPRINT);
     menu->Item(CMD_RENAME)->setEnabled(access & ACCESS_FILERENAME);
-    menu->Item(CMD_BATCHINFO)->setEnabled(GetSelectedRowCount() > 1);
     return menu;
 }
 

@@ -16,6 +16,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
+#include <cstdlib>
 #include <functional>
 #include <memory>
 #include <set>
@@ -164,10 +165,18 @@ protected:
         });
     }
 
+    static std::string PrivateDataHome(const std::string& path)
+    {
+        setenv("XDG_DATA_HOME", path.c_str(), 1);
+        return path;
+    }
+
     ResModule resources{Language::English};
     TempDir dir;
     std::string configPath = dir.PathOf("manager.cfg");
     std::string docs = dir.MakeDir("docs");
+    // The desktop's trash of these tests is their own (deleted documents go there), never the user's.
+    std::string dataHome = PrivateDataHome(dir.PathOf("data"));
     std::vector<std::string> queries;
     std::vector<std::string> infos;
     std::unique_ptr<Config> config;
