@@ -19,8 +19,7 @@ protected:
     // The listing's object of each file, by name.
     std::map<std::string, QJsonObject> Listed()
     {
-        const RunResult run = RunDocmanager({"--list", "--format", "json", QString::fromStdString(dir.PathOf("d"))},
-                                            ConfigHome());
+        const RunResult run = RunDocmanager({"--list", "--format", "json", QString::fromStdString(dir.PathOf("d"))}, ConfigHome());
         std::map<std::string, QJsonObject> byName;
         for (const QJsonValue doc : QJsonDocument::fromJson(QByteArray::fromStdString(run.out)).array())
             byName[doc["name"].toString().toStdString()] = doc.toObject();
@@ -30,8 +29,7 @@ protected:
 
 TEST_F(CliSetTest, WritesOdfOoxmlAndPdfKeepsTheOtherFieldsRefusesReadOnlyKindsAndDamagedFilesUntouched)
 {
-    const std::vector<std::string> writable = {WriteDoc("d/a.odt", "Alpha"), WriteDoc("d/b.docx", "Beta"),
-                                               WriteDoc("d/c.pdf", "Gamma")};
+    const std::vector<std::string> writable = {WriteDoc("d/a.odt", "Alpha"), WriteDoc("d/b.docx", "Beta"), WriteDoc("d/c.pdf", "Gamma")};
     const std::string odt = dir.Read("d/a.odt");
     const std::vector<std::string> refused = {
         WriteDoc("d/d.rtf", "Delta"), WriteDoc("d/e.fodt", "Epsilon"),
@@ -70,8 +68,8 @@ TEST_F(CliSetTest, WritesOdfOoxmlAndPdfKeepsTheOtherFieldsRefusesReadOnlyKindsAn
     EXPECT_EQ(listed.at("d.rtf")["title"].toString(), "Delta");
 
     // A bad field or option: usage on standard error, nothing written or printed.
-    for (const QStringList& args : {QStringList{"--set", "colour=red"}, QStringList{"--set", "title"},
-                                    QStringList{"--set", "title=X", "--list"}}) {
+    for (const QStringList& args :
+         {QStringList{"--set", "colour=red"}, QStringList{"--set", "title"}, QStringList{"--set", "title=X", "--list"}}) {
         run = Set(args, {writable[0]});
         EXPECT_EQ(run.status, 2) << args.join(' ').toStdString();
         EXPECT_EQ(run.out, "");
