@@ -31,11 +31,6 @@ bool HostManager::ChangeDocInfo(QWidget* parent, const std::string& file)
 DocWriteResult HostManager::WriteDocInfo(const std::string& file, const DocInfoEdit& edit, bool checkOnly,
                                          std::string& reason)
 {
-    if (checkOnly) {
-        reason = EditRefusal(file, edit);
-        return reason.empty() ? DocWriteResult::Written : DocWriteResult::Refused;
-    }
-    DocInfo before, after;
-    return EditDocInfo(file, edit, GetInfoLabels(), false, before, after, reason) ? DocWriteResult::Written
-                                                                                  : DocWriteResult::Refused;
+    return WriteDocEdit(file, edit, GetInfoLabels(), checkOnly, reason) ? DocWriteResult::Written
+                                                                        : DocWriteResult::Refused;
 }

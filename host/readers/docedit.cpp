@@ -73,3 +73,14 @@ bool EditDocInfo(const std::string& path, const DocInfoEdit& edit, const std::ar
         meta.author.reset();
     return WriteDocMeta(path, meta, error);
 }
+
+bool WriteDocEdit(const std::string& path, const DocInfoEdit& edit, const std::array<std::string, 4>& infoNames,
+                  bool checkOnly, std::string& reason)
+{
+    if (checkOnly) {
+        reason = EditRefusal(path, edit);
+        return reason.empty();
+    }
+    DocInfo before, after;
+    return EditDocInfo(path, edit, infoNames, false, before, after, reason);
+}

@@ -17,3 +17,8 @@ std::string EditRefusal(const std::string& path, const DocInfoEdit& edit);
 // `error` when the file was left as it was.
 bool EditDocInfo(const std::string& path, const DocInfoEdit& edit, const std::array<std::string, 4>& infoNames,
                  bool dryRun, DocInfo& before, DocInfo& after, std::string& error);
+
+// A host's answer to the module's WriteDocInfo: with `checkOnly` EditRefusal, else
+// EditDocInfo. True when the file is (or would be) written; else `reason` says why.
+bool WriteDocEdit(const std::string& path, const DocInfoEdit& edit, const std::array<std::string, 4>& infoNames,
+                  bool checkOnly, std::string& reason);

@@ -77,15 +77,22 @@ protected:
         Start();
     }
 
-    TestHost& MakeHost(bool openMode = true, const std::string& startPaths = {})
+    template <class Host = TestHost>
+    Host& MakeHost(bool openMode = true, const std::string& startPaths = {})
     {
         config = std::make_unique<Config>(configPath);
-        host = std::make_unique<TestHost>(nullptr, config.get(), startPaths, openMode);
-        return *host;
+        auto made = std::make_unique<Host>(nullptr, config.get(), startPaths, openMode);
+        Host& result = *made;
+        host = std::move(made);
+        return result;
     }
 
     // Reads the settings and collects, as the first Execute does, without its modal loop.
-    void Start(bool openMode = true, const std::string& starts = {}) { MakeHost(openMode, starts).Inside().Init(); }
+    template <class Host = TestHost>
+    void Start(bool openMode = true, const std::string& starts = {})
+    {
+        MakeHost<Host>(openMode, starts).Inside().Init();
+    }
 
     DocManagerImpl& Impl() { return host->Inside(); }
     DocBrowser& Browser() { return *Impl().browser; }
