@@ -36,9 +36,9 @@ constexpr ResEntry kTexts[] = {
     {M, MENU_COMMANDS, CMD_PRINTLIST, QT_TRANSLATE_NOOP3("DocMgr", "Print &List...", "menu 15700.25")},
     {M, MENU_COMMANDS, CMD_EXPORTLIST, QT_TRANSLATE_NOOP3("DocMgr", "&Export List...", "menu 15700.26")},
     {M, MENU_COMMANDS, CMD_BATCHINFO,
-     QT_TRANSLATE_NOOP3("DocMgr", "Edit &Information of the Selected Documents...", "menu 15700.27")},
+     QT_TRANSLATE_NOOP3("DocMgr", "Edit Information of &Selected Documents...", "menu 15700.27")},
     {M, MENU_COMMANDS, CMD_UNDO, QT_TRANSLATE_NOOP3("DocMgr", "&Undo", "menu 15700.28")},
-    {M, MENU_COMMANDS, CMD_REDO, QT_TRANSLATE_NOOP3("DocMgr", "Re&do", "menu 15700.29")},
+    {M, MENU_COMMANDS, CMD_REDO, QT_TRANSLATE_NOOP3("DocMgr", "Red&o", "menu 15700.29")},
     // Query boxes: delete question; save question (its message is composed at run time).
     {Q, QUERY_DELETE, 0, QT_TRANSLATE_NOOP3("DocMgr", "Move the %1 selected documents to the trash?", "query 15700")},
     {Q, QUERY_DELETE_ONE, 0, QT_TRANSLATE_NOOP3("DocMgr", "Move the document \"%1\" to the trash?", "query 15702")},
