@@ -36,7 +36,7 @@ constexpr ResEntry kTexts[] = {
     {M, MENU_COMMANDS, CMD_PRINTLIST, QT_TRANSLATE_NOOP3("DocMgr", "Print &List...", "menu 15700.25")},
     {M, MENU_COMMANDS, CMD_EXPORTLIST, QT_TRANSLATE_NOOP3("DocMgr", "&Export List...", "menu 15700.26")},
     {M, MENU_COMMANDS, CMD_BATCHINFO,
-     QT_TRANSLATE_NOOP3("DocMgr", "Edit Information of &Selected Documents...", "menu 15700.27")},
+     QT_TRANSLATE_NOOP3("DocMgr", "Edit Information of the &Selected Documents...", "menu 15700.27")},
     {M, MENU_COMMANDS, CMD_UNDO, QT_TRANSLATE_NOOP3("DocMgr", "&Undo", "menu 15700.28")},
     {M, MENU_COMMANDS, CMD_REDO, QT_TRANSLATE_NOOP3("DocMgr", "Red&o", "menu 15700.29")},
     // Query boxes: delete question; save question (its message is composed at run time).

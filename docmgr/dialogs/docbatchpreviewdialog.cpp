@@ -28,6 +28,7 @@ DocBatchPreviewDialog::DocBatchPreviewDialog(QWidget* parent, const std::vector<
                 table_, {name, QString(), QString(),
                          DialogText(DLG_BATCH_PREVIEW, PREVIEW_NOT_WRITTEN).arg(QString::fromStdString(refusals[i]))});
             row->setForeground(3, palette().brush(QPalette::Disabled, QPalette::Text));
+            row->setToolTip(3, row->text(3));  // a long reason is cut off in the column
             continue;
         }
         for (size_t f = 0; f < EDIT_FIELD_COUNT; ++f) {

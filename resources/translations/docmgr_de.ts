@@ -814,7 +814,7 @@
         <translation>Der Schritt konnte bei %1 nicht abgeschlossen werden.</translation>
     </message>
     <message>
-        <source>Edit Information of &amp;Selected Documents...</source>
+        <source>Edit Information of the &amp;Selected Documents...</source>
         <comment>menu 15700.27</comment>
         <translation>Information der gewählten Dokumente &amp;bearbeiten...</translation>
     </message>

@@ -814,9 +814,9 @@
         <translation>The step could not be completed at %1.</translation>
     </message>
     <message>
-        <source>Edit Information of &amp;Selected Documents...</source>
+        <source>Edit Information of the &amp;Selected Documents...</source>
         <comment>menu 15700.27</comment>
-        <translation>Edit Information of &amp;Selected Documents...</translation>
+        <translation>Edit Information of the &amp;Selected Documents...</translation>
     </message>
     <message>
         <source>&amp;Undo</source>

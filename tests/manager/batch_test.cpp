@@ -14,11 +14,9 @@ class ReaderHost : public TestHost {
 public:
     using TestHost::TestHost;
     std::unique_ptr<DocInfo> CreateDocInfo(const std::string& file) override { return ReadDocInfo(file); }
-    DocWriteResult WriteDocInfo(const std::string& file, const DocInfoEdit& edit, bool checkOnly,
-                                std::string& reason) override
+    DocWriteResult WriteDocInfo(const std::string& file, const DocInfoEdit& edit, bool checkOnly, std::string& reason) override
     {
-        return WriteDocEdit(file, edit, GetInfoLabels(), checkOnly, reason) ? DocWriteResult::Written
-                                                                            : DocWriteResult::Refused;
+        return WriteDocEdit(file, edit, GetInfoLabels(), checkOnly, reason) ? DocWriteResult::Written : DocWriteResult::Refused;
     }
 };
 
@@ -28,8 +26,8 @@ protected:
     {
         WriteDefaultConfig();
         for (const char* name : {"a.odt", "b.docx", "c.pdf", "d.rtf", "e.fodt"}) {
-            SampleDoc doc{std::string("Title ") + name, "Topic", "Ann Author", "Ann Author", {"one"}, "", {}, {},
-                          std::nullopt, "", {{"Project", "Atlas"}}, "Text."};
+            SampleDoc doc{std::string("Title ") + name, "Topic", "Ann Author", "Ann Author", {"one"}, "", {}, {}, std::nullopt, "",
+                          {{"Project", "Atlas"}},       "Text."};
             std::string error;
             ASSERT_TRUE(WriteSample(docs + "/" + name, doc, error)) << error;
             bytes[name] = dir.Read(std::string("docs/") + name);
@@ -67,9 +65,8 @@ TEST_F(BatchTest, SharedValuesShowOnlyChangedFieldsArePreviewedAndWrittenReadOnl
     Impl().Command(CMD_BATCHINFO);
     std::sort(previewRows.begin(), previewRows.end());  // in list order, which the index decides
 
-    const QString readOnly =
-        "not written: Documents of this kind (legacy Office, RTF, flat ODF) are read-only here; "
-        "their information cannot be changed.";
+    const QString readOnly = "not written: Documents of this kind (legacy Office, RTF, flat ODF) are read-only here; "
+                             "their information cannot be changed.";
     EXPECT_EQ(previewRows, (std::vector<QStringList>{{"a.odt", "Topic", "Topic", "Shared"},
                                                      {"b.docx", "Topic", "Topic", "Shared"},
                                                      {"c.pdf", "Topic", "Topic", "Shared"},
