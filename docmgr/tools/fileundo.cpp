@@ -49,7 +49,8 @@ bool CanUndo(const Action& a)
     switch (a.kind) {
     case ActionKind::Move:
     case ActionKind::Trash: return IsAt(a.to, a.stamp) && !fsutil::Exists(a.from);
-    case ActionKind::Copy: return IsAt(a.to, a.stamp);
+    // Removing a copy is safe only while the original is still there.
+    case ActionKind::Copy: return IsAt(a.to, a.stamp) && fsutil::IsFile(a.from);
     case ActionKind::Content: return IsAt(a.from, a.stamp) && fsutil::IsFile(a.before);
     }
     return false;
@@ -130,7 +131,9 @@ Result Run(std::vector<Step>& from, std::vector<Step>& to, bool undo)
     for (const Action& a : step.actions) {
         if (!(undo ? CanUndo(a) : CanRedo(a))) {
             result.outcome = Outcome::Stale;
-            result.path = a.kind == ActionKind::Content || !undo ? a.from : a.to;
+            result.path = a.kind == ActionKind::Content || !undo || (a.kind == ActionKind::Copy && IsAt(a.to, a.stamp))
+                              ? a.from
+                              : a.to;
             return result;  // the step can no longer be taken; it is dropped
         }
     }

@@ -131,6 +131,25 @@ TEST_F(UndoTest, RenameMoveAndInformationEditAreTakenBackOneAtATimeAChangedFileI
     CtrlZ();  // the step before it still can
     EXPECT_EQ(dir.Read("docs/a.odt"), "content of a.odt");
     EXPECT_FALSE(dir.Exists("docs/r.odt"));
+
+    // A copy is taken back by removing it, but never once it is all that is left.
+    for (const bool originalGone : {false, true}) {
+        Select({"a.odt"});
+        OnNextModal([&sub](QDialog& dialog) {
+            In<DocDirBox>(dialog, "directoryTree")->ReadDirs();
+            In<DocDirBox>(dialog, "directoryTree")->SelectDir(sub);
+            In<QPushButton>(dialog, "okButton")->click();
+        });
+        Impl().Command(CMD_COPY);
+        ASSERT_EQ(dir.Read("docs/sub/a.odt"), "content of a.odt");
+        if (originalGone)
+            std::filesystem::rename(docs + "/a.odt", dir.PathOf("a.odt"));
+        CtrlZ();
+        EXPECT_EQ(dir.Exists("docs/sub/a.odt"), originalGone);
+        if (originalGone) {
+            EXPECT_EQ(infos.back(), "This step can no longer be undone: " + docs + "/a.odt has changed since. Nothing was changed.");
+        }
+    }
 }
 
 TEST_F(UndoTest, EditingSeveralDocumentsInAHostThatCannotWriteThemSaysSo)
