@@ -1,6 +1,7 @@
 // The file commands of the document manager (commands menu and the list's context menu).
 #include <QPushButton>
 #include <QStringList>
+#include <algorithm>
 #include <optional>
 #include <memory>
 #include <string>
@@ -128,9 +129,13 @@ void DocManagerImpl::DeleteSelected()
 
 void DocManagerImpl::DeleteForGood(const std::vector<std::string>& paths)
 {
+    // The first files, so that the box stays on the screen; the rest as an ellipsis.
+    constexpr size_t kShown = 12;
     QStringList names;
-    for (const std::string& path : paths)
-        names << QString::fromStdString(path);
+    for (size_t i = 0; i < std::min(paths.size(), kShown); ++i)
+        names << QString::fromStdString(paths[i]);
+    if (paths.size() > kShown)
+        names << QStringLiteral("\u2026");
     const QString question =
         QString::fromStdString(ResText(ResKind::QueryBox, QUERY_DELETE_FOR_GOOD)).arg(names.join(QLatin1Char('\n')));
     if (DocQueryBox(&manager, question, RET_NO) != RET_YES)
