@@ -7,6 +7,7 @@ set(DOCMGR_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/DocManager)
 set(DOCMGR_PUBLIC_HEADERS
   docmgr/manager/docmanager.h
   docmgr/records/docinfo.h
+  docmgr/records/docinfoedit.h
   docmgr/tools/datetime.h
   docmgr/tools/config.h)
 

@@ -70,6 +70,14 @@ constexpr ResEntry kTexts[] = {
     {S, STR_EXPORT_FAILED_END, 0, QT_TRANSLATE_NOOP3("DocMgr", ".", "string 15745")},
     // Context menu of the folder trees.
     {S, STR_SHOW_HIDDEN, 0, QT_TRANSLATE_NOOP3("DocMgr", "Show &hidden folders", "string 15746")},
+    // Undo and redo of the file commands.
+    {S, STR_UNDO_STALE, 0,
+     QT_TRANSLATE_NOOP3("DocMgr", "This step can no longer be undone: %1 has changed since. Nothing was changed.",
+                        "string 15747")},
+    {S, STR_REDO_STALE, 0,
+     QT_TRANSLATE_NOOP3("DocMgr", "This step can no longer be redone: %1 has changed since. Nothing was changed.",
+                        "string 15748")},
+    {S, STR_UNDO_FAILED, 0, QT_TRANSLATE_NOOP3("DocMgr", "The step could not be completed at %1.", "string 15749")},
 };
 }  // namespace
 

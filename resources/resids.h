@@ -23,7 +23,9 @@ enum DocMgrDialog : uint16_t {
     DLG_RENAME = 15708,
     DLG_PRINT = 15709,
     DLG_PRINTING = 15710,
-    DLG_EXPORT = 15711,  // the file dialog of the list export
+    DLG_EXPORT = 15711,         // the file dialog of the list export
+    DLG_BATCH_INFO = 15712,     // the information of several documents
+    DLG_BATCH_PREVIEW = 15713,  // what that edit is about to write
 };
 
 // Menu resources.
@@ -34,9 +36,10 @@ enum DocMgrMenu : uint16_t {
 
 // Query boxes.
 enum DocMgrQuery : uint16_t {
-    QUERY_DELETE = 15700,      // several documents, %1 their count
-    QUERY_SAVE = 15701,        // the save question; the code composes its own with the group name
-    QUERY_DELETE_ONE = 15702,  // one document, %1 its file name
+    QUERY_DELETE = 15700,           // several documents, %1 their count
+    QUERY_SAVE = 15701,             // the save question; the code composes its own with the group name
+    QUERY_DELETE_ONE = 15702,       // one document, %1 its file name
+    QUERY_DELETE_FOR_GOOD = 15703,  // files no trash takes, %1 their names
 };
 
 // Texts most dialogs number alike: the title, OK and cancel.
@@ -73,6 +76,23 @@ enum DocCommand : uint16_t {
     CMD_PRINTDOCS = 24,
     CMD_PRINTLIST = 25,
     CMD_EXPORTLIST = 26,
+    CMD_BATCHINFO = 27,  // information of the selected documents
+    CMD_UNDO = 28,
+    CMD_REDO = 29,
+};
+
+// Information of several documents (DLG_BATCH_INFO) and its preview (DLG_BATCH_PREVIEW).
+enum BatchControl : uint16_t {
+    BATCH_INTRO = 20,        // %1 the number of documents
+    BATCH_VARIOUS = 21,      // a field whose documents differ
+    BATCH_UNSUPPORTED = 22,  // the host writes no information
+    BATCH_FAILED = 23,       // documents left as they were, the list follows
+    PREVIEW_INTRO = 20,
+    PREVIEW_DOCUMENT = 21,  // column titles
+    PREVIEW_FIELD = 22,
+    PREVIEW_OLD = 23,
+    PREVIEW_NEW = 24,
+    PREVIEW_NOT_WRITTEN = 25,  // %1 the reason
 };
 
 // Paths dialog (DLG_PATHS).
@@ -245,4 +265,7 @@ enum WindowString : uint16_t {
     STR_EXPORT_FAILED = 15744,
     STR_EXPORT_FAILED_END = 15745,  // before and after the file name
     STR_SHOW_HIDDEN = 15746,        // folder trees' context menu
+    STR_UNDO_STALE = 15747,         // %1 the file changed since the step
+    STR_REDO_STALE = 15748,
+    STR_UNDO_FAILED = 15749,  // %1 the file, the system's reason below
 };

@@ -40,6 +40,15 @@ struct DocCopyDialog::Impl {
     QPushButton* folderButton = new QPushButton(DialogText(DLG_COPY, COPY_NEW_FOLDER));
     QCheckBox* moveBox = new QCheckBox(DialogText(DLG_COPY, COPY_MOVE));
     unsigned short doneCount = 0;
+    fileundo::Step undoStep;
+
+    // Records that `from` now stands (also) at `to`.
+    void Done(fileundo::ActionKind kind, const std::string& from, const std::string& to)
+    {
+        ++doneCount;
+        if (const auto stamp = fileundo::StampOf(to))
+            undoStep.actions.push_back({kind, from, to, *stamp, {}, {}});
+    }
 
     std::string SelectedDir() const { return tree->GetDir(tree->GetSelectedPos()); }
 };
@@ -100,6 +109,11 @@ const std::vector<std::string>& DocCopyDialog::GetResultPaths() const
     return d->resultPaths;
 }
 
+const fileundo::Step& DocCopyDialog::GetUndoStep() const
+{
+    return d->undoStep;
+}
+
 void DocCopyDialog::DirectoriesHdl()
 {
     const bool selected = d->tree->GetSelectedPos() != kNoEntry;
@@ -120,14 +134,14 @@ void DocCopyDialog::OKHdl()
                 if (const int error = docfileops::MoveInto(source, target)) {
                     TellDuringWait(this, JoinedMessage(STR_MOVE_FAILED, name, STR_MOVE_FAILED_END), error);
                 } else {
-                    ++d->doneCount;
+                    d->Done(fileundo::ActionKind::Move, source, fsutil::Join(target, name));
                     source = fsutil::Join(target, name);
                 }
             } else {
                 if (const int error = docfileops::CopyInto(source, target))
                     TellDuringWait(this, JoinedMessage(STR_COPY_FAILED, name, STR_COPY_FAILED_END), error);
                 else
-                    ++d->doneCount;
+                    d->Done(fileundo::ActionKind::Copy, source, fsutil::Join(target, name));
             }
         }
     }

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "docmgr/tools/fileundo.h"
+
 // Copies or moves `documents` into a directory chosen in a tree; result 1.
 class DocCopyDialog : public QDialog {
     Q_OBJECT
@@ -15,6 +17,8 @@ public:
     // Where the documents are after OK: the originals after a copy, the moved files'
     // new paths after a move (a file that could not be moved keeps its old path).
     const std::vector<std::string>& GetResultPaths() const;
+    // What OK did, file by file, for taking it back.
+    const fileundo::Step& GetUndoStep() const;
 
 private:
     void OKHdl();

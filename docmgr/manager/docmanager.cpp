@@ -100,6 +100,12 @@ std::array<std::string, 4> DocManager::GetInfoLabels() const
 void DocManager::ReadAhead(const std::vector<std::string>& /*files*/)
 {}
 
+DocWriteResult DocManager::WriteDocInfo(const std::string& /*file*/, const DocInfoEdit& /*edit*/, bool /*checkOnly*/,
+                                        std::string& /*reason*/)
+{
+    return DocWriteResult::NotSupported;
+}
+
 void DocManager::reject()
 {
     d->CloseHdl();
@@ -145,11 +151,6 @@ std::unique_ptr<DocInfo> DocManagerImpl::CreateDocInfo(const std::string& path)
 void DocManagerImpl::ReadAhead(const std::vector<std::string>& paths)
 {
     manager.ReadAhead(paths);
-}
-
-bool DocManagerImpl::ChangeDocInfo(const std::string& path)
-{
-    return manager.ChangeDocInfo(&manager, path);
 }
 
 bool DocManagerImpl::IsSingleView() const

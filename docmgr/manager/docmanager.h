@@ -11,10 +11,18 @@
 #include <docmgr/docmgr_export.h>
 
 #include "docmgr/records/docinfo.h"
+#include "docmgr/records/docinfoedit.h"
 #include "docmgr/tools/config.h"
 
 class DocManagerImpl;
 class ResModule;
+
+// What became of WriteDocInfo.
+enum class DocWriteResult {
+    Written,       // the file holds the new values (with checkOnly: it would be written)
+    Refused,       // the file was left as it was; the reason says why
+    NotSupported,  // the host writes no document information
+};
 
 // Result of Execute when the host is to print the chosen documents; 0 is closed, 1 open.
 constexpr int RET_PRINTDOCS = 10;
@@ -36,6 +44,12 @@ public:
     // directory's new and changed documents). A host may start reading them on other
     // threads; CreateDocInfo is still called for each, on this thread, as before.
     virtual void ReadAhead(const std::vector<std::string>& files);
+    // Host, optional: writes the fields that `edit` sets into `file`, keeping the others;
+    // with `checkOnly` only tells whether it could (a read-only kind or file is refused
+    // without writing). Refused leaves the file byte for byte and puts why in `reason`.
+    // The default answers NotSupported, and the edit of several documents says so.
+    virtual DocWriteResult WriteDocInfo(const std::string& file, const DocInfoEdit& edit, bool checkOnly,
+                                        std::string& reason);
 
     // Name of the per-directory index file; set it before the first Execute.
     void SetDirFileName(const std::string& name);

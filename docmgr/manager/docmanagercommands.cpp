@@ -1,5 +1,8 @@
 // The file commands of the document manager (commands menu and the list's context menu).
 #include <QPushButton>
+#include <QStringList>
+#include <algorithm>
+#include <optional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -43,6 +46,9 @@ void DocManagerImpl::WatchControls()
     enable(CMD_EXPORTLIST, true);  // nor does exporting it
     enable(CMD_DOCINFO, selected == 1);
     enable(CMD_RENAME, selected == 1 && (access & ACCESS_FILERENAME));
+    enable(CMD_BATCHINFO, selected > 0);
+    enable(CMD_UNDO, undo.CanUndo());
+    enable(CMD_REDO, undo.CanRedo());
 }
 
 void DocManagerImpl::Command(unsigned short id)
@@ -53,15 +59,19 @@ void DocManagerImpl::Command(unsigned short id)
     case CMD_COPY: {
         auto dialog = std::make_unique<DocCopyDialog>(&manager, SelectedDocs(*browser));
         if (dialog->exec() == 1 && dialog->GetDoneCount() != 0) {
+            undo.Push(dialog->GetUndoStep());
             CollectFiles();
             browser->SelectPaths(dialog->GetResultPaths());
         }
         break;
     }
     case CMD_RENAME: {
-        const std::string* first = browser->GetFirstDoc();
-        auto dialog = std::make_unique<DocRenameDialog>(&manager, first ? *first : std::string());
+        const std::string* selected = browser->GetFirstDoc();
+        const std::string first = selected ? *selected : std::string();
+        auto dialog = std::make_unique<DocRenameDialog>(&manager, first);
         if (dialog->exec() == 1 && dialog->GetRenameCount() != 0) {
+            if (const auto stamp = fileundo::StampOf(dialog->GetNewPath()))
+                undo.Push({{{fileundo::ActionKind::Move, first, dialog->GetNewPath(), *stamp, {}, {}}}});
             CollectFiles();
             browser->SelectPaths({dialog->GetNewPath()});
         }
@@ -70,6 +80,9 @@ void DocManagerImpl::Command(unsigned short id)
     case CMD_PRINTDOCS: manager.done(RET_PRINTDOCS); break;
     case CMD_PRINTLIST: browser->PrintList(); break;
     case CMD_EXPORTLIST: ExportList(); break;
+    case CMD_BATCHINFO: EditSelectedInfos(); break;
+    case CMD_UNDO: TakeBack(true); break;
+    case CMD_REDO: TakeBack(false); break;
     default: break;
     }
 }
@@ -81,10 +94,54 @@ void DocManagerImpl::DeleteSelected()
                                  ? QString::fromStdString(ResText(ResKind::QueryBox, QUERY_DELETE_ONE))
                                        .arg(QString::fromStdString(fsutil::FileName(docs.front())))
                                  : QString::fromStdString(ResText(ResKind::QueryBox, QUERY_DELETE)).arg(docs.size());
-    // Deleting cannot be undone: Enter keeps the files.
+    // Enter keeps the files.
+    if (DocQueryBox(&manager, question, RET_NO) != RET_YES)
+        return;
+    fileundo::Step step;
+    std::vector<std::string> noTrash;
+    {
+        ScopedWaitCursor wait;
+        for (const std::string& path : docs) {
+            // Only a file goes to the trash: a folder in a document's place is left to the
+            // plain delete, which removes it only when empty.
+            std::string trashPath;
+            const std::optional<fileundo::Stamp> stamp = fileundo::StampOf(path);
+            if (stamp && fileundo::MoveToTrash(path, trashPath)) {
+                step.actions.push_back({fileundo::ActionKind::Trash, path, trashPath, *stamp, {}, {}});
+                browser->RowRemoved(path);
+            } else {
+                noTrash.push_back(path);
+            }
+        }
+    }
+    undo.Push(std::move(step));
+    if (!noTrash.empty())
+        DeleteForGood(noTrash);
+    WatchControls();
+    // The line has always ended up as the remaining count written twice ("1212" for 12
+    // rows); scripts that read it rely on that, so it stays.
+    std::string line = pathLineText;
+    line.erase(0, std::min(line.find(' '), line.size()));
+    const std::string count = std::to_string(browser->GetRowCount());
+    line = count + count;
+    SetPathLine(line);
+}
+
+void DocManagerImpl::DeleteForGood(const std::vector<std::string>& paths)
+{
+    // The first files, so that the box stays on the screen; the rest as an ellipsis.
+    constexpr size_t kShown = 12;
+    QStringList names;
+    for (size_t i = 0; i < std::min(paths.size(), kShown); ++i)
+        names << QString::fromStdString(paths[i]);
+    if (paths.size() > kShown)
+        names << QStringLiteral("\u2026");
+    const QString question =
+        QString::fromStdString(ResText(ResKind::QueryBox, QUERY_DELETE_FOR_GOOD)).arg(names.join(QLatin1Char('\n')));
     if (DocQueryBox(&manager, question, RET_NO) != RET_YES)
         return;
     ScopedWaitCursor wait;
+    // What the trash took is no longer in the list, so the selection is these files.
     for (const std::string* doc = browser->GetFirstDoc(); doc; doc = browser->GetFirstDoc()) {
         const std::string path = *doc;
         if (const int error = fsutil::Remove(path); error == 0) {
@@ -95,12 +152,4 @@ void DocManagerImpl::DeleteSelected()
             browser->DeselectFirstSelected();  // so that the loop moves on
         }
     }
-    WatchControls();
-    // The line has always ended up as the remaining count written twice ("1212" for 12
-    // rows); scripts that read it rely on that, so it stays.
-    std::string line = pathLineText;
-    line.erase(0, std::min(line.find(' '), line.size()));
-    const std::string count = std::to_string(browser->GetRowCount());
-    line = count + count;
-    SetPathLine(line);
 }

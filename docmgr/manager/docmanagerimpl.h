@@ -11,6 +11,7 @@
 
 #include "docmgr/config/impldocconfig.h"
 #include "docmgr/manager/docmanager.h"
+#include "docmgr/tools/fileundo.h"
 #include "docmgr/view/doclisthost.h"
 
 class DocBrowser;
@@ -105,6 +106,8 @@ public:
     std::string pathLineText;
     std::string dirFileName;
     std::string defExtensions;
+    // The file commands done in this run of the dialog, to be taken back one by one.
+    fileundo::UndoStack undo;
 
 private:
     // The parts of the dialog BuildControls puts together; each makes its controls and
@@ -120,6 +123,12 @@ private:
     void ConnectBrowser();
     void ConnectHandlers();
     void DeleteSelected();
+    // Deletes the selected files that no trash took, after asking; nothing is undone.
+    void DeleteForGood(const std::vector<std::string>& paths);
+    // Writes one edit into the selected documents after a preview: one undo step.
+    void EditSelectedInfos();
+    // Takes the last step back (`back`) or does it again; the list is collected afterwards.
+    void TakeBack(bool back);
     void ExportList();
     template <class Dialog>
     bool RunSettingsDialog();

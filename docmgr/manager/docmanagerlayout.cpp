@@ -117,7 +117,7 @@ void DocManagerImpl::BuildDialogButtons(const DocMgrResId& res)
     closeButton->setAutoDefault(false);
     commandsButton = Make<QToolButton>(&manager, "commandsButton");
     commandsButton->setText(res.DialogText(MANAGER_COMMANDS));
-    commandMenu = new DocCommandMenu(commandsButton);
+    commandMenu = new DocCommandMenu(commandsButton, true);
     commandsButton->setMenu(commandMenu);
     commandsButton->setPopupMode(QToolButton::InstantPopup);
     commandsButton->setToolButtonStyle(Qt::ToolButtonTextOnly);
@@ -140,6 +140,9 @@ void DocManagerImpl::BuildBrowser()
     // Delete and F2 in the list run the menu's items, so they follow its enabling.
     browser->addAction(commandMenu->Item(CMD_DELETE));
     browser->addAction(commandMenu->Item(CMD_RENAME));
+    // Undo and redo wherever the focus is in the dialog.
+    manager.addAction(commandMenu->Item(CMD_UNDO));
+    manager.addAction(commandMenu->Item(CMD_REDO));
     ConnectBrowser();
     listRow = new QHBoxLayout;
     listRow->addWidget(browser, 2);

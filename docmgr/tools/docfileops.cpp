@@ -14,7 +14,11 @@ int CopyInto(const std::string& source, const std::string& targetDir)
 
 int MoveInto(const std::string& source, const std::string& targetDir)
 {
-    const std::string target = fsutil::Join(targetDir, fsutil::FileName(source));
+    return MoveTo(source, fsutil::Join(targetDir, fsutil::FileName(source)));
+}
+
+int MoveTo(const std::string& source, const std::string& target)
+{
     if (fsutil::MoveFile(source, target) == 0)
         return 0;
     // The rename cannot cross devices; a copy can. It fails on an existing target too,

@@ -13,6 +13,8 @@ int CopyInto(const std::string& source, const std::string& targetDir);
 // fails (another device) a copy followed by removing the source. 0 or an errno value;
 // on failure the source is where it was.
 int MoveInto(const std::string& source, const std::string& targetDir);
+// The same to the path `target`.
+int MoveTo(const std::string& source, const std::string& target);
 
 // Whether `name` is a relative path that stays below the directory it is taken from:
 // not empty, not absolute, without a ".." component.

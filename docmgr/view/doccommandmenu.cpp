@@ -3,14 +3,16 @@
 #include "docmgr/tools/resmgr.h"
 
 namespace {
-const char* const kItemNames[] = {"deleteItem",    "docInfoItem",   "copyItem",      "renameItem",
-                                  "printDocsItem", "printListItem", "exportListItem"};
+const char* const kItemNames[] = {"deleteItem",    "docInfoItem",    "copyItem",      "renameItem", "printDocsItem",
+                                  "printListItem", "exportListItem", "batchInfoItem", "undoItem",   "redoItem"};
 }  // namespace
 
-DocCommandMenu::DocCommandMenu(QWidget* parent) : QMenu(parent)
+DocCommandMenu::DocCommandMenu(QWidget* parent, bool withUndo) : QMenu(parent)
 {
     setObjectName("commandMenu");
-    for (unsigned short id = CMD_DELETE; id <= CMD_EXPORTLIST; ++id) {
+    for (unsigned short id = CMD_DELETE; id <= (withUndo ? CMD_REDO : CMD_BATCHINFO); ++id) {
+        if (id == CMD_UNDO)
+            addSeparator();
         QAction* item = addAction(QString::fromStdString(ResText(ResKind::Menu, MENU_COMMANDS, id)));
         item->setData(id);
         item->setObjectName(kItemNames[id - CMD_DELETE]);
@@ -18,6 +20,10 @@ DocCommandMenu::DocCommandMenu(QWidget* parent) : QMenu(parent)
     // The keys work where the list has the focus: the manager adds these items to it.
     Item(CMD_DELETE)->setShortcut(QKeySequence::Delete);
     Item(CMD_RENAME)->setShortcut(Qt::Key_F2);
+    if (withUndo) {
+        Item(CMD_UNDO)->setShortcut(QKeySequence::Undo);
+        Item(CMD_REDO)->setShortcut(QKeySequence::Redo);
+    }
     for (QAction* item : actions())
         item->setShortcutContext(Qt::WidgetWithChildrenShortcut);
 }
@@ -25,7 +31,7 @@ DocCommandMenu::DocCommandMenu(QWidget* parent) : QMenu(parent)
 QAction* DocCommandMenu::Item(unsigned short id) const
 {
     for (QAction* item : actions())
-        if (ItemId(item) == id)
+        if (!item->isSeparator() && ItemId(item) == id)
             return item;
     return nullptr;
 }

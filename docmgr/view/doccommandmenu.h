@@ -1,5 +1,5 @@
 #pragma once
-// The menu of the file commands (MENU_COMMANDS, items CMD_DELETE to CMD_EXPORTLIST): the
+// The menu of the file commands (MENU_COMMANDS, items CMD_DELETE to CMD_REDO): the
 // manager's commands button carries one, the list opens one as its context menu.
 #include <QMenu>
 
@@ -8,7 +8,9 @@
 class DocCommandMenu : public QMenu {
     Q_OBJECT
 public:
-    explicit DocCommandMenu(QWidget* parent);
+    // `withUndo`: with the undo and redo items, which act on the whole dialog (the
+    // commands button's menu, not the list's context menu).
+    explicit DocCommandMenu(QWidget* parent, bool withUndo = false);
 
     // The item of command `id`, or null.
     QAction* Item(unsigned short id) const;

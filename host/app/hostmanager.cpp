@@ -5,6 +5,7 @@
 #include <iostream>
 
 #include "host/app/docpropertiesdialog.h"
+#include "host/readers/docedit.h"
 
 HostManager::~HostManager()
 {
@@ -41,4 +42,11 @@ bool HostManager::ChangeDocInfo(QWidget* parent, const std::string& file)
         return false;
     }
     return dialog.exec() == QDialog::Accepted;
+}
+
+DocWriteResult HostManager::WriteDocInfo(const std::string& file, const DocInfoEdit& edit, bool checkOnly,
+                                         std::string& reason)
+{
+    return WriteDocEdit(file, edit, GetInfoLabels(), checkOnly, reason) ? DocWriteResult::Written
+                                                                        : DocWriteResult::Refused;
 }

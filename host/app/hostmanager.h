@@ -17,6 +17,9 @@ public:
     void ReadAhead(const std::vector<std::string>& files) override;
     // Shows the properties dialog for `file`; true when the changes were written.
     bool ChangeDocInfo(QWidget* parent, const std::string& file) override;
+    // Writes an edit of several documents with the properties dialog's writers.
+    DocWriteResult WriteDocInfo(const std::string& file, const DocInfoEdit& edit, bool checkOnly,
+                                std::string& reason) override;
 
 private:
     CachedReader reader_;

@@ -25,8 +25,8 @@ std::string ToBytes(const QString& text)
     return text.toLatin1().toStdString();
 }
 
-const char* const kSwitches[] = {"list", "export-config", "print-paths", "no-cache"};  // and -h, --help
-const char* const kValueOptions[] = {"config", "group", "index-name", "columns", "format"};
+const char* const kSwitches[] = {"list", "export-config", "print-paths", "no-cache", "dry-run"};  // and -h, --help
+const char* const kValueOptions[] = {"config", "group", "index-name", "columns", "format", "set"};
 
 template <size_t N>
 bool IsOneOf(const QString& name, const char* const (&names)[N])
@@ -120,11 +120,41 @@ bool ValidIndexName(const std::string& name)
            name.find('\0') == std::string::npos;
 }
 
+std::string FieldNames()
+{
+    std::string names;
+    for (const std::string_view name : EDIT_FIELD_NAMES)
+        names += (names.empty() ? "" : ", ") + std::string(name);
+    return names;
+}
+
+// FIELD=VALUE of --set; the value may be empty (clearing the field) and hold "=".
+bool ParseSet(const std::string& value, DocInfoEdit& edit, std::string& error)
+{
+    const size_t equals = value.find('=');
+    const std::optional<size_t> field =
+        equals == std::string::npos ? std::nullopt : EditFieldByName(std::string_view(value).substr(0, equals));
+    if (!field) {
+        error = "--set takes FIELD=VALUE with FIELD one of " + FieldNames() + ", not \"" + value + "\"";
+        return false;
+    }
+    edit.values[*field] = value.substr(equals + 1);
+    return true;
+}
+
 // Options that belong to one mode only.
 bool CheckModeOptions(const CommandLine& out, bool formatGiven, std::string& error)
 {
     const bool list = out.mode == RunMode::List;
-    if (!list && out.groupGiven)
+    const bool set = out.mode == RunMode::SetFields;
+    if (set && (out.groupGiven || !out.columns.empty() || formatGiven || !out.indexName.empty() ||
+                !out.configPath.empty() || out.noCache))
+        error = "--set takes only --dry-run and the files";
+    else if (set && out.startPaths.empty())
+        error = "--set needs at least one FILE";
+    else if (!set && out.dryRun)
+        error = "--dry-run is only used with --set";
+    else if (!list && out.groupGiven)
         error = "--group is only used with --list";
     else if (!list && !out.columns.empty())
         error = "--columns is only used with --list";
@@ -153,14 +183,20 @@ struct Reading {
 bool TakeOption(const QString& name, const std::string& value, Reading& reading, std::string& error)
 {
     CommandLine& out = reading.out;
-    if (name == "list" || name == "export-config") {
-        const RunMode mode = name == "list" ? RunMode::List : RunMode::ExportConfig;
+    if (name == "list" || name == "export-config" || name == "set") {
+        const RunMode mode = name == "list"            ? RunMode::List
+                             : name == "export-config" ? RunMode::ExportConfig
+                                                       : RunMode::SetFields;
         if (reading.modeGiven && out.mode != mode) {
-            error = "--list and --export-config cannot be combined";
+            error = "--list, --export-config and --set cannot be combined";
             return false;
         }
         out.mode = mode;
         reading.modeGiven = true;
+        if (mode == RunMode::SetFields)
+            return ParseSet(value, out.edit, error);
+    } else if (name == "dry-run") {
+        out.dryRun = true;
     } else if (name == "print-paths") {
         out.printPaths = true;
     } else if (name == "no-cache") {
@@ -259,6 +295,7 @@ std::string UsageText()
            "  docmanager --list [--config FILE] [--group NAME] [--index-name NAME] [--no-cache]\n"
            "                    [--columns ID,ID,...] [--format text|tsv|json|csv] [START_PATH...]\n"
            "  docmanager --export-config [--config FILE]\n"
+           "  docmanager --set FIELD=VALUE [--set FIELD=VALUE ...] [--dry-run] FILE...\n"
            "\n"
            "Without --list or --export-config the document manager window opens.\n"
            "A START_PATH ending in \"/**\" includes its subdirectories; the paths are used\n"
@@ -266,7 +303,10 @@ std::string UsageText()
            "--no-cache reads the documents without the per-user cache (~/.cache/docmanager).\n"
            "Column ids: 1 file name, 2 size, 3 title, 4 topic, 5/6 created date/time,\n"
            "7 author, 8/9/10 modified date/time/by, 11/12/13 printed date/time/by,\n"
-           "14 comment, 15 keywords, 16-19 information fields, 20 directory.\n";
+           "14 comment, 15 keywords, 16-19 information fields, 20 directory.\n"
+           "--set FIELD: title, topic, author, keywords, comment, info1 to info4; each FILE is\n"
+           "written through a temporary file; --dry-run shows old and new values only.\n"
+           "Exit status: 0 success, 1 a file was not written, 2 bad arguments.\n";
 }
 
 bool ParseProgramArguments(int argc, char** argv, CommandLine& out)

@@ -4,7 +4,9 @@
 #include <string>
 #include <vector>
 
-enum class RunMode { Window, List, ExportConfig, Help };
+#include "docmgr/records/docinfoedit.h"
+
+enum class RunMode { Window, List, ExportConfig, SetFields, Help };
 enum class ListFormat { Text, Tsv, Json, Csv };
 
 struct CommandLine {
@@ -17,7 +19,9 @@ struct CommandLine {
     ListFormat format = ListFormat::Text;
     bool noCache = false;                 // --no-cache: read documents without the per-user cache
     bool printPaths = false;              // window: print the chosen paths instead of opening
-    std::vector<std::string> startPaths;  // START_PATH arguments in the order given
+    std::vector<std::string> startPaths;  // START_PATH arguments (FILEs of --set) in the order given
+    DocInfoEdit edit;                     // --set FIELD=VALUE; a later value of a field wins
+    bool dryRun = false;                  // --set: tell the changes, write nothing
 };
 
 // Parses the arguments after the program name. On a bad argument returns false and sets

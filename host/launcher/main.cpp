@@ -1,5 +1,6 @@
 // docmanager: the document manager window, or with --list / --export-config the same
-// listing and configuration for scripts, without a display. The window is a program of
+// listing and configuration for scripts, and with --set an edit of documents' information,
+// without a display. The window is a program of
 // its own (docmanager-window), so that a listing loads only Qt Core and the readers.
 #include <QCoreApplication>
 #include <cerrno>
@@ -11,6 +12,7 @@
 
 #include "host/cli/commandline.h"
 #include "host/cli/headless.h"
+#include "host/cli/setfields.h"
 #include "host/launcher/installedfiles.h"
 
 namespace {
@@ -45,6 +47,10 @@ int main(int argc, char** argv)
         case RunMode::Help: std::cout << UsageText(); return 0;
         case RunMode::List:
         case RunMode::ExportConfig: return RunHeadlessMode(argc, argv, cmd);
+        case RunMode::SetFields: {
+            QCoreApplication app(argc, argv);
+            return RunSetFields(cmd, std::cout, std::cerr);
+        }
         case RunMode::Window: break;
         }
         const std::string window = WindowProgram();

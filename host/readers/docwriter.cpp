@@ -12,6 +12,7 @@
 
 #include "host/readers/docformat.h"
 #include "host/readers/formatwriters.h"
+#include "host/readers/pdfolereaders.h"
 #include "host/readers/ziparchive.h"
 
 namespace {
@@ -95,8 +96,14 @@ bool WritePackage(const std::string& path, DocFormat byName, const DocMeta& meta
 
 bool WritePdf(const std::string& path, const DocMeta& meta, std::string& error)
 {
+    // Through the table, so that a program loading the PDF module on demand keeps doing so.
+    const PdfOleReaders* pdf = GetPdfOleReaders();
+    if (!pdf) {
+        error = "The PDF writer could not be loaded.";
+        return false;
+    }
     replacefile::SiblingFile temp(path);
-    return CreateBeside(temp, path, error) && WritePdfMeta(path, temp.Path(), meta, error) &&
+    return CreateBeside(temp, path, error) && pdf->writePdf(path, temp.Path(), meta, error) &&
            ReplaceWithNew(temp, path, error);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 // Writing the editable document information back into ODF, OOXML and PDF files.
 #include <array>
+#include <optional>
 #include <string>
 
 // The fields a user edits. `info[i]` is stored under the name `infoNames[i]` (an empty
@@ -11,6 +12,7 @@ struct DocMeta {
     std::string title, topic, keywords, comment;
     std::array<std::string, 4> info;
     std::array<std::string, 4> infoNames;
+    std::optional<std::string> author;  // kept as it is when not given
 };
 
 // Writes `meta` into the document at `path` through a temporary file beside it that

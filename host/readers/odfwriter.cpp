@@ -51,6 +51,8 @@ bool WriteOdfMeta(ZipArchive& zip, const DocMeta& meta, std::string& error)
     odfmeta::SetField(doc, ns::dc, "title", meta.title);
     odfmeta::SetField(doc, ns::dc, "subject", meta.topic);
     odfmeta::SetField(doc, ns::dc, "description", meta.comment);
+    if (meta.author)
+        odfmeta::SetField(doc, ns::meta, "initial-creator", *meta.author);
     odfmeta::SetKeywords(doc, SplitKeywords(meta.keywords));
     odfmeta::SetUserFields(doc, InfoFieldsOf(meta, odfmeta::HasUserFields(doc)));
     if (!zip.Put("meta.xml", xmlutil::Save(doc)))

@@ -53,6 +53,8 @@ bool WriteOoxmlMeta(ZipArchive& zip, const DocMeta& meta, std::string& error)
     ooxmlprops::SetCore(core, ns::dc, "subject", meta.topic);
     ooxmlprops::SetCore(core, ns::cp, "keywords", meta.keywords);
     ooxmlprops::SetCore(core, ns::dc, "description", meta.comment);
+    if (meta.author)
+        ooxmlprops::SetCore(core, ns::dc, "creator", *meta.author);
     if (!zip.Put(parts.core, xmlutil::Save(core)))
         return Damaged(error, zip.Error());
 

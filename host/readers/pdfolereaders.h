@@ -9,12 +9,15 @@
 
 #include "docmgr/records/docinfo.h"
 #include "host/readers/docformat.h"
+#include "host/readers/docwriter.h"
 #include "host/readers/filehead.h"
 #include "host/readers/readproblem.h"
 
 struct PdfOleReaders {
     ReadProblem (*readPdf)(const DocBytes& doc, uint64_t fileSize, DocInfo& info);
     ReadProblem (*readOle)(const DocBytes& doc, DocFormat byName, DocInfo& info, bool& isDocument);
+    // The PDF writer, for the same reason.
+    bool (*writePdf)(const std::string& source, const std::string& target, const DocMeta& meta, std::string& error);
 };
 
 // The readers, or null when they cannot be had (the program said why on standard error).

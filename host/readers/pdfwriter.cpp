@@ -19,6 +19,8 @@ bool WritePdfMeta(const std::string& source, const std::string& target, const Do
         pdfinfo::SetText(info, "/Title", meta.title);
         pdfinfo::SetText(info, "/Subject", meta.topic);
         pdfinfo::SetText(info, "/Keywords", meta.keywords);
+        if (meta.author)
+            pdfinfo::SetText(info, "/Author", *meta.author);
         pdfinfo::SetFields(info, InfoFieldsOf(meta, !pdfinfo::InfoFieldKeys(info).empty()));
         // Newer readers prefer the XMP packet; it must not keep the old texts.
         pdfxmp::Update(pdf, meta);

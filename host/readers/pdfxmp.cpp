@@ -84,10 +84,12 @@ void Update(QPDF& pdf, const DocMeta& meta)
     if (!stream.isInitialized())
         return;
     std::string packet = Packet(stream);
-    const std::vector<xmp::Change> changes = {{xmp::title, meta.title},
-                                              {xmp::description, meta.topic},
-                                              {xmp::keywords, meta.keywords},
-                                              {xmp::subject, meta.keywords}};
+    std::vector<xmp::Change> changes = {{xmp::title, meta.title},
+                                        {xmp::description, meta.topic},
+                                        {xmp::keywords, meta.keywords},
+                                        {xmp::subject, meta.keywords}};
+    if (meta.author)
+        changes.push_back({xmp::creator, *meta.author});
     if (!packet.empty() && xmp::Update(packet, changes))
         stream.replaceStreamData(packet, QPDFObjectHandle::newNull(), QPDFObjectHandle::newNull());
 }

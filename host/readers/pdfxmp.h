@@ -12,7 +12,7 @@ namespace pdfxmp {
 // Fills the fields of `info` that are still empty (title, author, topic, keywords,
 // created and modified stamps) from the packet, if the document has a readable one.
 void FillMissing(QPDF& pdf, DocInfo& info);
-// Sets title, topic and keywords in the document's packet, where they stand, keeping
+// Sets title, topic, keywords and (when given) the author in the document's packet, where they stand, keeping
 // everything else in it; a document without a packet is left without one.
 void Update(QPDF& pdf, const DocMeta& meta);
 // Makes `packet` the document's XMP packet.

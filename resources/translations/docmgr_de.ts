@@ -574,16 +574,6 @@
         <translation>Liste e&amp;xportieren...</translation>
     </message>
     <message>
-        <source>Do you really want to delete the %1 selected documents?</source>
-        <comment>query 15700</comment>
-        <translation>Wollen Sie die %1 ausgewählten Dokumente wirklich löschen?</translation>
-    </message>
-    <message>
-        <source>Do you really want to delete the document &quot;%1&quot;?</source>
-        <comment>query 15702</comment>
-        <translation>Wollen Sie das Dokument &quot;%1&quot; wirklich löschen?</translation>
-    </message>
-    <message>
         <source>The settings have been changed. Keep the changes?</source>
         <comment>query 15701</comment>
         <translation>Die Einstellungen wurden geändert. Sollen die Änderungen übernommen werden?</translation>
@@ -807,6 +797,137 @@
         <source>Show &amp;hidden folders</source>
         <comment>string 15746</comment>
         <translation>&amp;Versteckte Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>This step can no longer be undone: %1 has changed since. Nothing was changed.</source>
+        <comment>string 15747</comment>
+        <translation>Dieser Schritt kann nicht mehr rückgängig gemacht werden: %1 wurde seitdem geändert. Es wurde nichts geändert.</translation>
+    </message>
+    <message>
+        <source>This step can no longer be redone: %1 has changed since. Nothing was changed.</source>
+        <comment>string 15748</comment>
+        <translation>Dieser Schritt kann nicht mehr wiederholt werden: %1 wurde seitdem geändert. Es wurde nichts geändert.</translation>
+    </message>
+    <message>
+        <source>The step could not be completed at %1.</source>
+        <comment>string 15749</comment>
+        <translation>Der Schritt konnte bei %1 nicht abgeschlossen werden.</translation>
+    </message>
+    <message>
+        <source>Edit Information of the &amp;Selected Documents...</source>
+        <comment>menu 15700.27</comment>
+        <translation>Information der gewählten Dokumente &amp;bearbeiten...</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <comment>menu 15700.28</comment>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>Red&amp;o</source>
+        <comment>menu 15700.29</comment>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Move the %1 selected documents to the trash?</source>
+        <comment>query 15700</comment>
+        <translation>Die %1 gewählten Dokumente in den Papierkorb verschieben?</translation>
+    </message>
+    <message>
+        <source>Move the document &quot;%1&quot; to the trash?</source>
+        <comment>query 15702</comment>
+        <translation>Das Dokument &quot;%1&quot; in den Papierkorb verschieben?</translation>
+    </message>
+    <message>
+        <source>No trash can take these files:
+%1
+
+Delete them for good? This cannot be undone.</source>
+        <comment>query 15703</comment>
+        <translation>Kein Papierkorb kann diese Dateien aufnehmen:
+%1
+
+Endgültig löschen? Das kann nicht rückgängig gemacht werden.</translation>
+    </message>
+    <message>
+        <source>Information of Documents</source>
+        <comment>dialog 15712.0</comment>
+        <translation>Information von Dokumenten</translation>
+    </message>
+    <message>
+        <source>&amp;Preview...</source>
+        <comment>dialog 15712.18</comment>
+        <translation>&amp;Vorschau...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <comment>dialog 15712.19</comment>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>%1 documents. Only the fields you change are written.</source>
+        <comment>dialog 15712.20</comment>
+        <translation>%1 Dokumente. Nur die Felder, die Sie ändern, werden geschrieben.</translation>
+    </message>
+    <message>
+        <source>(various)</source>
+        <comment>dialog 15712.21</comment>
+        <translation>(verschieden)</translation>
+    </message>
+    <message>
+        <source>This program cannot write the information of documents.</source>
+        <comment>dialog 15712.22</comment>
+        <translation>Dieses Programm kann die Information von Dokumenten nicht schreiben.</translation>
+    </message>
+    <message>
+        <source>These documents were left as they were:</source>
+        <comment>dialog 15712.23</comment>
+        <translation>Diese Dokumente blieben, wie sie waren:</translation>
+    </message>
+    <message>
+        <source>Preview of the Changes</source>
+        <comment>dialog 15713.0</comment>
+        <translation>Vorschau der Änderungen</translation>
+    </message>
+    <message>
+        <source>&amp;Write</source>
+        <comment>dialog 15713.18</comment>
+        <translation>&amp;Schreiben</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <comment>dialog 15713.19</comment>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>These values will be written:</source>
+        <comment>dialog 15713.20</comment>
+        <translation>Diese Werte werden geschrieben:</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <comment>dialog 15713.21</comment>
+        <translation>Dokument</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <comment>dialog 15713.22</comment>
+        <translation>Feld</translation>
+    </message>
+    <message>
+        <source>Old value</source>
+        <comment>dialog 15713.23</comment>
+        <translation>Alter Wert</translation>
+    </message>
+    <message>
+        <source>New value</source>
+        <comment>dialog 15713.24</comment>
+        <translation>Neuer Wert</translation>
+    </message>
+    <message>
+        <source>not written: %1</source>
+        <comment>dialog 15713.25</comment>
+        <translation>nicht geschrieben: %1</translation>
     </message>
 </context>
 </TS>

@@ -574,16 +574,6 @@
         <translation>&amp;Export List...</translation>
     </message>
     <message>
-        <source>Do you really want to delete the %1 selected documents?</source>
-        <comment>query 15700</comment>
-        <translation>Do you really want to delete the %1 selected documents?</translation>
-    </message>
-    <message>
-        <source>Do you really want to delete the document &quot;%1&quot;?</source>
-        <comment>query 15702</comment>
-        <translation>Do you really want to delete the document &quot;%1&quot;?</translation>
-    </message>
-    <message>
         <source>The settings have been changed. Keep the changes?</source>
         <comment>query 15701</comment>
         <translation>The settings have been changed. Keep the changes?</translation>
@@ -807,6 +797,137 @@
         <source>Show &amp;hidden folders</source>
         <comment>string 15746</comment>
         <translation>Show &amp;hidden folders</translation>
+    </message>
+    <message>
+        <source>This step can no longer be undone: %1 has changed since. Nothing was changed.</source>
+        <comment>string 15747</comment>
+        <translation>This step can no longer be undone: %1 has changed since. Nothing was changed.</translation>
+    </message>
+    <message>
+        <source>This step can no longer be redone: %1 has changed since. Nothing was changed.</source>
+        <comment>string 15748</comment>
+        <translation>This step can no longer be redone: %1 has changed since. Nothing was changed.</translation>
+    </message>
+    <message>
+        <source>The step could not be completed at %1.</source>
+        <comment>string 15749</comment>
+        <translation>The step could not be completed at %1.</translation>
+    </message>
+    <message>
+        <source>Edit Information of the &amp;Selected Documents...</source>
+        <comment>menu 15700.27</comment>
+        <translation>Edit Information of the &amp;Selected Documents...</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <comment>menu 15700.28</comment>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>Red&amp;o</source>
+        <comment>menu 15700.29</comment>
+        <translation>Red&amp;o</translation>
+    </message>
+    <message>
+        <source>Move the %1 selected documents to the trash?</source>
+        <comment>query 15700</comment>
+        <translation>Move the %1 selected documents to the trash?</translation>
+    </message>
+    <message>
+        <source>Move the document &quot;%1&quot; to the trash?</source>
+        <comment>query 15702</comment>
+        <translation>Move the document &quot;%1&quot; to the trash?</translation>
+    </message>
+    <message>
+        <source>No trash can take these files:
+%1
+
+Delete them for good? This cannot be undone.</source>
+        <comment>query 15703</comment>
+        <translation>No trash can take these files:
+%1
+
+Delete them for good? This cannot be undone.</translation>
+    </message>
+    <message>
+        <source>Information of Documents</source>
+        <comment>dialog 15712.0</comment>
+        <translation>Information of Documents</translation>
+    </message>
+    <message>
+        <source>&amp;Preview...</source>
+        <comment>dialog 15712.18</comment>
+        <translation>&amp;Preview...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <comment>dialog 15712.19</comment>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>%1 documents. Only the fields you change are written.</source>
+        <comment>dialog 15712.20</comment>
+        <translation>%1 documents. Only the fields you change are written.</translation>
+    </message>
+    <message>
+        <source>(various)</source>
+        <comment>dialog 15712.21</comment>
+        <translation>(various)</translation>
+    </message>
+    <message>
+        <source>This program cannot write the information of documents.</source>
+        <comment>dialog 15712.22</comment>
+        <translation>This program cannot write the information of documents.</translation>
+    </message>
+    <message>
+        <source>These documents were left as they were:</source>
+        <comment>dialog 15712.23</comment>
+        <translation>These documents were left as they were:</translation>
+    </message>
+    <message>
+        <source>Preview of the Changes</source>
+        <comment>dialog 15713.0</comment>
+        <translation>Preview of the Changes</translation>
+    </message>
+    <message>
+        <source>&amp;Write</source>
+        <comment>dialog 15713.18</comment>
+        <translation>&amp;Write</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <comment>dialog 15713.19</comment>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>These values will be written:</source>
+        <comment>dialog 15713.20</comment>
+        <translation>These values will be written:</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <comment>dialog 15713.21</comment>
+        <translation>Document</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <comment>dialog 15713.22</comment>
+        <translation>Field</translation>
+    </message>
+    <message>
+        <source>Old value</source>
+        <comment>dialog 15713.23</comment>
+        <translation>Old value</translation>
+    </message>
+    <message>
+        <source>New value</source>
+        <comment>dialog 15713.24</comment>
+        <translation>New value</translation>
+    </message>
+    <message>
+        <source>not written: %1</source>
+        <comment>dialog 15713.25</comment>
+        <translation>not written: %1</translation>
     </message>
 </context>
 </TS>

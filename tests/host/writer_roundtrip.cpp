@@ -28,7 +28,8 @@ DocMeta EditedMeta()
             "eins, zwei, drei",
             "Kommentar mit <Zeichen> & \"Anführung\"",
             {"Nordlicht", "", "done", "Zoë"},
-            {"Project", "Client", "Status", "Reviewer"}};
+            {"Project", "Client", "Status", "Reviewer"},
+            std::nullopt};
 }
 
 std::unique_ptr<DocInfo> WriteAndRead(const std::string& path, const DocMeta& meta)

@@ -77,18 +77,22 @@ TEST_F(CommandsTest, DeleteRemovesTheSelectedFilesAndRewritesThePathLineTheKeysR
     Select({"c.odt"});
     AnswerBoxes(RET_NO);
     Impl().Command(CMD_DELETE);
-    EXPECT_EQ(queries, std::vector<std::string>{"Do you really want to delete the document \"c.odt\"?"});
+    EXPECT_EQ(queries, std::vector<std::string>{"Move the document \"c.odt\" to the trash?"});
     EXPECT_EQ(AnsweredDocBox().defaultAnswer, RET_NO);  // Enter keeps the files
     EXPECT_TRUE(dir.Exists("docs/c.odt"));
     Select({"a.odt", "b.odt", "d.odt"});
 
-    // b.odt has gone behind the list's back: it cannot be deleted, its row stays.
+    // b.odt has gone behind the list's back: no trash takes it, it cannot be deleted
+    // either, its row stays.
     std::filesystem::remove(docs + "/b.odt");
     queries.clear();
     AnswerBoxes(RET_YES);
     Impl().Command(CMD_DELETE);
-    EXPECT_EQ(queries, std::vector<std::string>{"Do you really want to delete the 3 selected documents?"});
+    EXPECT_EQ(queries, (std::vector<std::string>{"Move the 3 selected documents to the trash?",
+                                                 "No trash can take these files:\n" + docs +
+                                                     "/b.odt\n\nDelete them for good? This cannot be undone."}));
     EXPECT_FALSE(dir.Exists("docs/a.odt") || dir.Exists("docs/d.odt"));
+    EXPECT_TRUE(dir.Exists("data/Trash/files/a.odt") && dir.Exists("data/Trash/files/d.odt"));
     EXPECT_EQ(infos, std::vector<std::string>{"The file " + docs + "/b.odt could not be deleted."});
     EXPECT_EQ(AnsweredDocBox().detail.toStdString(), std::strerror(ENOENT));  // the system's reason
     EXPECT_EQ(RowNames(), (std::vector<std::string>{"b.odt", "c.odt"}));

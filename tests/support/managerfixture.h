@@ -16,6 +16,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
+#include <cstdlib>
 #include <functional>
 #include <memory>
 #include <set>
@@ -76,15 +77,22 @@ protected:
         Start();
     }
 
-    TestHost& MakeHost(bool openMode = true, const std::string& startPaths = {})
+    template <class Host = TestHost>
+    Host& MakeHost(bool openMode = true, const std::string& startPaths = {})
     {
         config = std::make_unique<Config>(configPath);
-        host = std::make_unique<TestHost>(nullptr, config.get(), startPaths, openMode);
-        return *host;
+        auto made = std::make_unique<Host>(nullptr, config.get(), startPaths, openMode);
+        Host& result = *made;
+        host = std::move(made);
+        return result;
     }
 
     // Reads the settings and collects, as the first Execute does, without its modal loop.
-    void Start(bool openMode = true, const std::string& starts = {}) { MakeHost(openMode, starts).Inside().Init(); }
+    template <class Host = TestHost>
+    void Start(bool openMode = true, const std::string& starts = {})
+    {
+        MakeHost<Host>(openMode, starts).Inside().Init();
+    }
 
     DocManagerImpl& Impl() { return host->Inside(); }
     DocBrowser& Browser() { return *Impl().browser; }
@@ -164,10 +172,18 @@ protected:
         });
     }
 
+    static std::string PrivateDataHome(const std::string& path)
+    {
+        setenv("XDG_DATA_HOME", path.c_str(), 1);
+        return path;
+    }
+
     ResModule resources{Language::English};
     TempDir dir;
     std::string configPath = dir.PathOf("manager.cfg");
     std::string docs = dir.MakeDir("docs");
+    // The desktop's trash of these tests is their own (deleted documents go there), never the user's.
+    std::string dataHome = PrivateDataHome(dir.PathOf("data"));
     std::vector<std::string> queries;
     std::vector<std::string> infos;
     std::unique_ptr<Config> config;

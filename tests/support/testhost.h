@@ -1,6 +1,7 @@
 #pragma once
 // A host for widget tests: its CreateDocInfo returns known information derived from
 // the file name, counts its calls, and its ChangeDocInfo answers as the test says.
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -56,5 +57,7 @@ public:
         return info;
     }
 
-    bool ChangeDocInfo(QWidget*, const std::string&) override { return changeResult; }
+    // When set, the information edit: it may change the file, and its answer is the result.
+    std::function<bool(const std::string&)> change;
+    bool ChangeDocInfo(QWidget*, const std::string& file) override { return change ? change(file) : changeResult; }
 };
