@@ -43,13 +43,7 @@ DocBatchInfoDialog::DocBatchInfoDialog(QWidget* parent, const std::vector<DocInf
         edits_[f] = edit;
         form->addRow(captions[f] + QLatin1Char(':'), edit);
     }
-    auto [ok, cancel] = MakeOkCancel(this, DLG_BATCH_INFO);
-    connect(ok, &QPushButton::clicked, this, &QDialog::accept);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(ok);
-    buttons->addWidget(cancel);
+    QHBoxLayout* buttons = MakeOkCancelRow(this, DLG_BATCH_INFO);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(intro);
     layout->addLayout(form);

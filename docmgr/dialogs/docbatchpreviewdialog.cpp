@@ -39,13 +39,7 @@ DocBatchPreviewDialog::DocBatchPreviewDialog(QWidget* parent, const std::vector<
         }
     }
     table_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    auto [ok, cancel] = MakeOkCancel(this, DLG_BATCH_PREVIEW);
-    connect(ok, &QPushButton::clicked, this, &QDialog::accept);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(ok);
-    buttons->addWidget(cancel);
+    QHBoxLayout* buttons = MakeOkCancelRow(this, DLG_BATCH_PREVIEW);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(new QLabel(DialogText(DLG_BATCH_PREVIEW, PREVIEW_INTRO)));
     layout->addWidget(table_);

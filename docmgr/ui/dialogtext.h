@@ -30,3 +30,20 @@ inline std::pair<QPushButton*, QPushButton*> MakeOkCancel(QWidget* parent, uint1
     cancel->setObjectName(QStringLiteral("cancelButton"));
     return {ok, cancel};
 }
+
+#include <QDialog>
+#include <QHBoxLayout>
+
+// The OK and cancel buttons of `dialog` at the right of a row of their own, accepting and
+// rejecting it.
+inline QHBoxLayout* MakeOkCancelRow(QDialog* dialog, uint16_t dialogId)
+{
+    auto [ok, cancel] = MakeOkCancel(dialog, dialogId);
+    QObject::connect(ok, &QPushButton::clicked, dialog, &QDialog::accept);
+    QObject::connect(cancel, &QPushButton::clicked, dialog, &QDialog::reject);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(ok);
+    buttons->addWidget(cancel);
+    return buttons;
+}
