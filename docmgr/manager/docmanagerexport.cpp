@@ -1,4 +1,4 @@
-// "Export list...": the list as shown, written to a CSV file the user names.
+// "Export list...": the list as shown (the found rows only), written to a CSV file the user names.
 #include <QFileDialog>
 #include <cerrno>
 #include <cstdio>
@@ -48,7 +48,7 @@ void DocManagerImpl::ExportList()
         if (id >= 1 && id <= COLUMN_COUNT)
             columns.push_back(id);
     }
-    const std::string text = FormatCsvList(browser->GetRowList().Rows(), columns, settings->WorkingGroup());
+    const std::string text = FormatCsvList(browser->ShownRows(), columns, settings->WorkingGroup());
     if (const int error = WriteFile(path, text))
         DocInfoBox(&manager, JoinedMessage(STR_EXPORT_FAILED, path, STR_EXPORT_FAILED_END), DocErrorText(error));
 }

@@ -24,6 +24,8 @@ void DocFind::Fold()
     std::string scratch;
     for (const DocInfo* row : rows_) {
         starts_.push_back(texts_.size());
+        if (!row)
+            continue;  // a row on its way out: nothing to find in it
         for (uint16_t column : columns_) {
             textcase::AppendFolded(texts_, FieldView(*row, column, scratch));
             texts_.push_back('\0');

@@ -282,6 +282,7 @@ void DocRowList::ReadDir(const std::string& dir, bool withSubdirs, DirVisit& vis
     const std::string absDir = fsutil::Absolute(dir);
     fsutil::CurrentDirGuard cwd(absDir);
     ReadOneDir(absDir);
+    observer_.DirectoryRead(absDir);
     observer_.CollectProgress(++dirsRead_, rows_.size());
     if (withSubdirs)
         ReadSubdirs(absDir, visit);

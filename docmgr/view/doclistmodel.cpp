@@ -60,6 +60,11 @@ uint16_t DocListModel::ColumnId(int column) const
     return column >= 0 && size_t(column) < ids_.size() ? ids_[size_t(column)] : 0;
 }
 
+const DocInfo* DocListModel::RowInfo(int row) const
+{
+    return row >= 0 && size_t(row) < rows_.size() ? rows_[size_t(row)] : nullptr;
+}
+
 int DocListModel::ColumnOf(uint16_t id) const
 {
     auto it = std::find(ids_.begin(), ids_.end(), id);
