@@ -53,6 +53,7 @@ void DocManagerImpl::BuildFindBar(const DocMgrResId& res)
 
 void DocManagerImpl::FindHdl()
 {
+    browser->PrepareFind();
     findBar->show();
     findField->setFocus(Qt::ShortcutFocusReason);
     findField->selectAll();
@@ -77,6 +78,7 @@ void DocManagerImpl::ShowFindCount()
 {
     if (!findCount || findBar->isHidden())
         return;
+    browser->PrepareFind();  // new rows: their texts are folded before the next keystroke
     const QString text = DocMgrResId(DLG_MANAGER).DialogText(MANAGER_FIND_COUNT);
     findCount->setText(text.arg(browser->GetShownRowCount()).arg(browser->GetRowCount()));
 }

@@ -313,6 +313,11 @@ void DocBrowser::SetFindText(const std::string& text)
     d->shown->SetFindText(text);
 }
 
+void DocBrowser::PrepareFind()
+{
+    d->shown->Prepare();
+}
+
 const std::string& DocBrowser::GetFindText() const
 {
     return d->shown->FindText();

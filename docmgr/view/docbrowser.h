@@ -56,6 +56,8 @@ public:
     // Shows only the rows holding `text` in a shown column, ignoring case; empty: all.
     void SetFindText(const std::string& text);
     const std::string& GetFindText() const;
+    // Readies the find for the rows as they are (the find bar is open).
+    void PrepareFind();
     // Columns in display order.
     unsigned short ColCount() const;
     unsigned short GetColumnId(unsigned short position) const;

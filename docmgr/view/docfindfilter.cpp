@@ -25,6 +25,12 @@ void DocFindFilter::SetFindText(const std::string& text)
     invalidate();
 }
 
+void DocFindFilter::Prepare()
+{
+    if (stale_)
+        Match();
+}
+
 void DocFindFilter::Match() const
 {
     if (stale_) {

@@ -19,6 +19,9 @@ public:
     // shown keep their selection.
     void SetFindText(const std::string& text);
     const std::string& FindText() const { return text_; }
+    // Folds the texts of the list now (once a collection), so that the first keystroke
+    // costs no more than the others.
+    void Prepare();
 
 protected:
     bool filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const override;
