@@ -12,6 +12,7 @@
 #include "docmgr/ui/docmgrresid.h"
 #include "docmgr/view/docbrowser.h"
 #include "docmgr/view/docfolderwatch.h"
+#include "docmgr/view/docsummarywindow.h"
 #include "resources/resids.h"
 
 void DocManagerImpl::BuildFindBar(const DocMgrResId& res)
@@ -64,7 +65,10 @@ void DocManagerImpl::FindFieldHdl()
 {
     browser->SetFindText(findField->text().toStdString());
     ShowFindCount();
-    WatchControls();  // selected rows no longer shown are no longer selected
+    // Selected rows no longer shown are no longer selected: the controls and the pane follow.
+    WatchControls();
+    if (summary)
+        summary->update();
 }
 
 void DocManagerImpl::FindCloseHdl()
@@ -78,7 +82,6 @@ void DocManagerImpl::ShowFindCount()
 {
     if (!findCount || findBar->isHidden())
         return;
-    browser->PrepareFind();  // new rows: their texts are folded before the next keystroke
     const QString text = DocMgrResId(DLG_MANAGER).DialogText(MANAGER_FIND_COUNT);
     findCount->setText(text.arg(browser->GetShownRowCount()).arg(browser->GetRowCount()));
 }

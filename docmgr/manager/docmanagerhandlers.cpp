@@ -103,6 +103,8 @@ void DocManagerImpl::CollectFiles()
     browser->SetCollectPaths(GetCollectPaths());
     browser->CollectFiles(false);
     folderWatch->Watch(browser->ListedDirs());
+    if (!findBar->isHidden())
+        browser->PrepareFind();  // the new rows' texts, folded before the next keystroke
     WatchControls();
 }
 

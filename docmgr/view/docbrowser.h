@@ -80,6 +80,7 @@ public:
 
     // Selection helpers for the manager's commands.
     long GetSelectedRowCount() const;
+    // Row of the list (not of the view, which may show fewer) of the first selected row.
     long GetFirstSelectedRow() const;
     void DeselectFirstSelected();
     void ClearSelection();
