@@ -149,3 +149,27 @@ TEST_F(FindTest, TheListFollowsItsFoldersOnceKeepingSelectionAndFindAndF5Collect
     EXPECT_NE(std::find(names.begin(), names.end(), "latest.odt"), names.end());
     EXPECT_EQ(Browser().verticalScrollBar()->value(), 20);
 }
+
+TEST(DocFolderWatch, WatchesAllFoldersOrNoneAndAsksOnlyWhenAFolderTimeMoved)
+{
+    TempDir dir;
+    const std::string a = dir.MakeDir("a"), b = dir.MakeDir("b");
+    DocFolderWatch watch(nullptr);
+    QSignalSpy asked(&watch, &DocFolderWatch::foldersChanged);
+    watch.Watch({a, dir.PathOf("missing")});
+    EXPECT_FALSE(watch.IsWatching());  // one folder cannot be watched: none is
+    watch.Watch({a, b});
+    ASSERT_TRUE(watch.IsWatching());
+    dir.MakeFile("b/new.odt", "x");
+    dir.MakeFile("b/other.odt", "x");
+    QTRY_COMPARE_WITH_TIMEOUT(asked.size(), 1, 3000);  // two changes, settled into one
+    // Changes made before Watch (as a collection's index writes are) ask for nothing.
+    dir.MakeFile("a/.docindex", "x");
+    watch.Watch({a, b});
+    QTest::qWait(3 * DocFolderWatch::SETTLE_MS);
+    EXPECT_EQ(asked.size(), 1);
+    watch.Stop();
+    dir.MakeFile("a/late.odt", "x");
+    QTest::qWait(3 * DocFolderWatch::SETTLE_MS);
+    EXPECT_EQ(asked.size(), 1);
+}
