@@ -62,9 +62,9 @@ std::map<uint16_t, uint16_t> DocListPrinter::ColumnWidths(const QSet<QString>& t
         if (titles.contains(QString::fromStdString(title)))
             widths.emplace(id, Characters(title));
     }
-    for (const DocInfo* row : browser_.ShownRows())
+    for (const long row : browser_.ShownRows())
         for (auto& [id, width] : widths)
-            width = std::max(width, Characters(browser_.GetFieldString(*row, id)));
+            width = std::max(width, Characters(browser_.GetColumnText(row, id)));
     return widths;
 }
 
@@ -110,6 +110,6 @@ bool DocListPrinter::PrintPage(unsigned short page, const QSet<QString>& titles)
     };
     drawLine([&](uint16_t id) { return QString::fromStdString(browser_.GetColumnTitle(id)); });
     for (long r = rows->first; r < rows->end; ++r)
-        drawLine([&](uint16_t id) { return QString::fromStdString(browser_.GetFieldString(*rows_[size_t(r)], id)); });
+        drawLine([&](uint16_t id) { return QString::fromStdString(browser_.GetColumnText(rows_[size_t(r)], id)); });
     return true;
 }

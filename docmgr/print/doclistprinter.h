@@ -9,8 +9,6 @@
 #include <memory>
 #include <vector>
 
-#include "docmgr/records/docinfo.h"
-
 class DocBrowser;
 class QPainter;
 class QPrinter;
@@ -53,5 +51,5 @@ private:
     std::map<uint16_t, uint16_t> widths_;
     bool widthsValid_ = false;
     // The rows the list shows (after a find), taken when the job starts.
-    std::vector<const DocInfo*> rows_;
+    std::vector<long> rows_;
 };

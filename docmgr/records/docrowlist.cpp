@@ -51,7 +51,7 @@ void DocRowList::ApplyFilter()
 
 void DocRowList::KeepRows(const std::vector<size_t>& positions)
 {
-    std::vector<std::unique_ptr<DocInfo>> kept;
+    decltype(rows_) kept;
     kept.reserve(positions.size());
     for (const size_t row : positions)
         if (row < rows_.size())

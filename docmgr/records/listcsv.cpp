@@ -24,11 +24,9 @@ void AppendCsvRecord(std::string& out, const std::vector<std::string>& fields)
     out += "\r\n";
 }
 
-namespace {
-// Rows as owned or as borrowed pointers alike.
-template <class Rows>
-void ForEachRecord(const Rows& rows, const std::vector<uint16_t>& columns, const DocGroupConfig& group,
-                   const std::function<void(const std::vector<std::string>& fields)>& record)
+void ForEachCsvRecord(const std::vector<std::unique_ptr<DocInfo>>& rows, const std::vector<uint16_t>& columns,
+                      const DocGroupConfig& group,
+                      const std::function<void(const std::vector<std::string>& fields)>& record)
 {
     std::vector<std::string> fields(columns.size());
     for (size_t c = 0; c < columns.size(); ++c)
@@ -41,31 +39,11 @@ void ForEachRecord(const Rows& rows, const std::vector<uint16_t>& columns, const
     }
 }
 
-template <class Rows>
-std::string FormatRecords(const Rows& rows, const std::vector<uint16_t>& columns, const DocGroupConfig& group)
-{
-    std::string out;
-    ForEachRecord(rows, columns, group,
-                  [&out](const std::vector<std::string>& fields) { AppendCsvRecord(out, fields); });
-    return out;
-}
-}  // namespace
-
-void ForEachCsvRecord(const std::vector<std::unique_ptr<DocInfo>>& rows, const std::vector<uint16_t>& columns,
-                      const DocGroupConfig& group,
-                      const std::function<void(const std::vector<std::string>& fields)>& record)
-{
-    ForEachRecord(rows, columns, group, record);
-}
-
 std::string FormatCsvList(const std::vector<std::unique_ptr<DocInfo>>& rows, const std::vector<uint16_t>& columns,
                           const DocGroupConfig& group)
 {
-    return FormatRecords(rows, columns, group);
-}
-
-std::string FormatCsvList(const std::vector<const DocInfo*>& rows, const std::vector<uint16_t>& columns,
-                          const DocGroupConfig& group)
-{
-    return FormatRecords(rows, columns, group);
+    std::string out;
+    ForEachCsvRecord(rows, columns, group,
+                     [&out](const std::vector<std::string>& fields) { AppendCsvRecord(out, fields); });
+    return out;
 }

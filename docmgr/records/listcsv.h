@@ -24,6 +24,3 @@ void ForEachCsvRecord(const std::vector<std::unique_ptr<DocInfo>>& rows, const s
 // The header record and one record per row, as ForEachCsvRecord gives them.
 std::string FormatCsvList(const std::vector<std::unique_ptr<DocInfo>>& rows, const std::vector<uint16_t>& columns,
                           const DocGroupConfig& group);
-// The same for rows the caller shows (the window's list after a find).
-std::string FormatCsvList(const std::vector<const DocInfo*>& rows, const std::vector<uint16_t>& columns,
-                          const DocGroupConfig& group);

@@ -298,13 +298,13 @@ long DocBrowser::GetShownRowCount() const
     return d->shown->rowCount();
 }
 
-std::vector<const DocInfo*> DocBrowser::ShownRows() const
+std::vector<long> DocBrowser::ShownRows() const
 {
-    std::vector<const DocInfo*> rows;
+    std::vector<long> rows;
     rows.reserve(size_t(d->shown->rowCount()));
     for (int row = 0; row < d->shown->rowCount(); ++row)
-        if (const DocInfo* info = d->model->RowInfo(int(d->ListRow(row))))
-            rows.push_back(info);
+        if (const long listRow = d->ListRow(row); listRow >= 0 && listRow < GetRowCount())
+            rows.push_back(listRow);
     return rows;
 }
 

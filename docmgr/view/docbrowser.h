@@ -48,11 +48,11 @@ public:
     std::string GetFieldString(const DocInfo& info, unsigned short columnId) const;
     std::string GetColumnText(long row, unsigned short columnId) const;
     // Rows of the list, found or not; GetShownRowCount and ShownRows: the rows the view
-    // shows after the find, in list order.
+    // shows after the find, as positions in the list, in list order.
     long GetRowCount() const;
     const DocRowList& GetRowList() const;
     long GetShownRowCount() const;
-    std::vector<const DocInfo*> ShownRows() const;
+    std::vector<long> ShownRows() const;
     // Shows only the rows holding `text` in a shown column, ignoring case; empty: all.
     void SetFindText(const std::string& text);
     const std::string& GetFindText() const;

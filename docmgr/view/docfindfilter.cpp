@@ -34,13 +34,15 @@ void DocFindFilter::Prepare()
 void DocFindFilter::Match() const
 {
     if (stale_) {
-        std::vector<const DocInfo*> rows(size_t(list_->rowCount()));
-        for (size_t row = 0; row < rows.size(); ++row)
-            rows[row] = list_->RowInfo(int(row));
         std::vector<uint16_t> columns(size_t(list_->columnCount()));
         for (size_t column = 0; column < columns.size(); ++column)
             columns[column] = list_->ColumnId(int(column));
-        find_.SetRows(std::move(rows), std::move(columns));
+        find_.Reset(std::move(columns));
+        const DocInfo none;  // a row on its way out: nothing to find in it
+        for (int row = 0; row < list_->rowCount(); ++row) {
+            const DocInfo* info = list_->RowInfo(row);
+            find_.AddRow(info ? *info : none);
+        }
         stale_ = false;
     }
     holds_.assign(find_.RowCount(), 0);

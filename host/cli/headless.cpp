@@ -78,12 +78,10 @@ public:
 // --find: the rows that show `text` in one of the listed columns, as the find bar keeps them.
 void KeepFound(DocRowList& rows, const std::vector<uint16_t>& columns, const std::string& text)
 {
-    std::vector<const DocInfo*> all;
-    all.reserve(rows.Rows().size());
-    for (const auto& row : rows.Rows())
-        all.push_back(row.get());
     DocFind find;
-    find.SetRows(std::move(all), columns);
+    find.Reset(columns);
+    for (const auto& row : rows.Rows())
+        find.AddRow(*row);
     rows.KeepRows(find.Find(text));
 }
 

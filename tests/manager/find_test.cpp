@@ -33,8 +33,8 @@ protected:
     std::vector<std::string> ShownNames()
     {
         std::vector<std::string> names;
-        for (const DocInfo* row : Browser().ShownRows())
-            names.push_back(fsutil::FileName(row->entry));
+        for (const long row : Browser().ShownRows())
+            names.push_back(fsutil::FileName(Browser().GetRowList().Row(row).entry));
         return names;
     }
     std::set<std::string> ShownSet()

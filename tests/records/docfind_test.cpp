@@ -21,7 +21,12 @@ TEST(DocFind, FindsTheTextInAnyShownColumnIgnoringCaseAlsoBeyondAscii)
     const DocInfo rows[] = {Doc("/lib/plan.odt", "Budget Plan", "Ann"), Doc("/lib/memo.docx", "Memo", "ZOË Ünal"),
                             Doc("/lib/zoe.pdf", "Other", "Bob"), Doc("/lib/x.odt", "Planet", "zoë")};
     DocFind find;
-    find.SetRows({&rows[0], &rows[1], &rows[2], &rows[3]}, {COL_NAME, COL_TITLE, COL_AUTHOR, COL_SIZE});
+    auto add = [&find, &rows](std::vector<uint16_t> columns, size_t count) {
+        find.Reset(std::move(columns));
+        for (size_t row = 0; row < count; ++row)
+            find.AddRow(rows[row]);
+    };
+    add({COL_NAME, COL_TITLE, COL_AUTHOR, COL_SIZE}, 4);
     using V = std::vector<size_t>;
     EXPECT_EQ(find.Find(""), (V{0, 1, 2, 3}));
     EXPECT_EQ(find.Find("PLAN"), (V{0, 3}));  // title of 0 (and its name), title of 3
@@ -34,7 +39,7 @@ TEST(DocFind, FindsTheTextInAnyShownColumnIgnoringCaseAlsoBeyondAscii)
     EXPECT_EQ(find.Find("memoann"), V{});
     EXPECT_EQ(find.Find("docxmemo"), V{});
     EXPECT_EQ(find.Find("/lib"), V{});  // the name column shows no directory
-    find.SetRows({&rows[0], &rows[1]}, {COL_DIRECTORY});
+    add({COL_DIRECTORY}, 2);
     EXPECT_EQ(find.Find("/LIB"), (V{0, 1}));
     EXPECT_EQ(find.Find("plan"), V{});
 }
