@@ -282,7 +282,6 @@ void DocRowList::ReadDir(const std::string& dir, bool withSubdirs, DirVisit& vis
     const std::string absDir = fsutil::Absolute(dir);
     fsutil::CurrentDirGuard cwd(absDir);
     ReadOneDir(absDir);
-    observer_.DirectoryRead(absDir);
     observer_.CollectProgress(++dirsRead_, rows_.size());
     if (withSubdirs)
         ReadSubdirs(absDir, visit);
@@ -306,6 +305,7 @@ void DocRowList::ReadOneDir(const std::string& absDir)
         observer_.DirectoryUnreadable(pass.dir, listed.error);
     pass.indexName = dirFileName_;
     pass.indexPath = fsutil::Join(pass.dir, dirFileName_);
+    observer_.DirectoryRead(pass.dir);
     pass.consumed.assign(pass.files.size(), false);
     pass.isPrivate.reserve(pass.files.size());
     for (const fsutil::DirItem& item : pass.files)
