@@ -2,12 +2,18 @@
 // dialog's first run (reading the settings, collecting, building the columns) until the
 // list has been painted once. Runs offscreen.
 //
-//   bench_window CONFIG DIR     prints "window: N rows shown in M ms"
+//   bench_window CONFIG DIR         prints "window: N rows shown in M ms"
+//   bench_window CONFIG DIR WORD    then types WORD into the find bar letter by letter and
+//                                   clears it again, each keystroke until the list is painted:
+//                                   "window find: ..."
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QLineEdit>
 #include <QTableView>
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 #include <string>
 
@@ -24,12 +30,46 @@ public:
     bool ChangeDocInfo(QWidget*, const std::string&) override { return false; }
 };
 
+// Each keystroke: the field's text changes, the list shows the rows found and is painted.
+void TypeIntoFindBar(DocManagerImpl& impl, QTableView& list, const QString& word)
+{
+    QElapsedTimer opening;
+    opening.start();
+    impl.FindHdl();  // folds the texts of the rows once
+    const double openMs = double(opening.nsecsElapsed()) / 1e6;
+    double typing = 0, typingWorst = 0, clearing = 0, clearingWorst = 0;
+    int typed = 0;
+    QElapsedTimer timer;
+    for (qsizetype n = 1; n <= word.size(); ++n) {
+        timer.start();
+        impl.findField->setText(word.left(n));
+        list.repaint();
+        const double ms = double(timer.nsecsElapsed()) / 1e6;
+        if (std::getenv("BENCH_VERBOSE"))
+            std::printf("  %s: %.1f ms\n", word.left(n).toUtf8().constData(), ms);
+        typing += ms, typingWorst = std::max(typingWorst, ms);
+        typed = list.model()->rowCount();
+    }
+    for (qsizetype n = word.size(); n-- > 0;) {
+        timer.start();
+        impl.findField->setText(word.left(n));
+        list.repaint();
+        const double ms = double(timer.nsecsElapsed()) / 1e6;
+        clearing += ms, clearingWorst = std::max(clearingWorst, ms);
+    }
+    const double keys = double(std::max<qsizetype>(word.size(), 1));
+    std::printf("window find: %d rows, typing \"%s\" %.1f ms a keystroke (worst %.1f, %d rows left), "
+                "clearing %.1f (worst %.1f); the bar opened in %.0f ms\n",
+                list.model()->rowCount(), word.toUtf8().constData(), typing / keys, typingWorst, typed, clearing / keys,
+                clearingWorst, openMs);
+}
+
 }  // namespace
 
 int main(int argc, char** argv)
 {
-    if (argc != 3) {
-        std::fprintf(stderr, "usage: bench_window CONFIG DIR\n");
+    if (argc != 3 && argc != 4) {
+        std::fprintf(stderr, "usage: bench_window CONFIG DIR [WORD]\n");
         return 2;
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -45,5 +85,7 @@ int main(int argc, char** argv)
     list->repaint();
     const qint64 ms = timer.elapsed();
     std::printf("window: %d rows shown in %lld ms\n", list->model()->rowCount(), static_cast<long long>(ms));
+    if (argc == 4)
+        TypeIntoFindBar(DocManagerImpl::Of(manager), *list, QString::fromUtf8(argv[3]));
     return 0;
 }

@@ -27,6 +27,11 @@ constexpr ResEntry kTexts[] = {
     {D, DLG_MANAGER, MANAGER_PROGRESS,
      QT_TRANSLATE_NOOP3("DocMgr", "Reading documents: %1 folders, %2 documents so far", "dialog 15700.40")},
     {D, DLG_MANAGER, MANAGER_PROGRESS_TITLE, QT_TRANSLATE_NOOP3("DocMgr", "Document Manager", "dialog 15700.41")},
+    // The find bar, opened with the find key.
+    {D, DLG_MANAGER, MANAGER_FIND_LABEL, QT_TRANSLATE_NOOP3("DocMgr", "F&ind:", "dialog 15700.50")},
+    {D, DLG_MANAGER, MANAGER_FIND_FIELD,
+     QT_TRANSLATE_NOOP3("DocMgr", "Text in any column; Esc closes", "dialog 15700.51")},
+    {D, DLG_MANAGER, MANAGER_FIND_COUNT, QT_TRANSLATE_NOOP3("DocMgr", "%1 of %2 documents", "dialog 15700.52")},
     // Menu 15700: the file commands.
     {M, MENU_COMMANDS, CMD_DELETE, QT_TRANSLATE_NOOP3("DocMgr", "&Delete", "menu 15700.20")},
     {M, MENU_COMMANDS, CMD_DOCINFO, QT_TRANSLATE_NOOP3("DocMgr", "Document &Information...", "menu 15700.21")},

@@ -58,6 +58,9 @@ enum ManagerControl : uint16_t {
     MANAGER_COMMANDS = 34,
     MANAGER_PROGRESS = 40,  // "%1 folders, %2 documents" of a long collection
     MANAGER_PROGRESS_TITLE = 41,
+    MANAGER_FIND_LABEL = 50,  // the find bar above the list
+    MANAGER_FIND_FIELD = 51,  // its field's placeholder
+    MANAGER_FIND_COUNT = 52,  // "%1 of %2" rows shown
     MANAGER_SECTION_LABEL = 90,
     MANAGER_SECTION_LIST = 91,
     MANAGER_GROUP_LABEL = 92,

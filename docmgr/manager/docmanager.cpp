@@ -8,6 +8,7 @@
 
 #include "docmgr/config/impldocconfig.h"
 #include "docmgr/manager/docmanagerimpl.h"
+#include "docmgr/view/docfolderwatch.h"
 #include "docmgr/ui/docmsgbox.h"
 #include "docmgr/tools/config.h"
 #include "docmgr/tools/resmgr.h"
@@ -70,7 +71,9 @@ short DocManager::Execute()
         d->Init();
     else
         d->CollectFiles();  // later runs keep the settings and show the list afresh
-    return static_cast<short>(exec());
+    const int result = exec();
+    d->folderWatch->Stop();  // nobody sees the list until the next run collects it
+    return static_cast<short>(result);
 }
 
 const std::string* DocManager::GetFirstDoc()

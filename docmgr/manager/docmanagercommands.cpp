@@ -20,16 +20,13 @@
 #include "docmgr/ui/waitcursor.h"
 #include "resources/resids.h"
 
-namespace {
-// Paths of the selected rows in list order.
-std::vector<std::string> SelectedDocs(DocBrowser& browser)
+std::vector<std::string> DocManagerImpl::SelectedPaths() const
 {
     std::vector<std::string> docs;
-    for (const std::string* doc = browser.GetFirstDoc(); doc; doc = browser.GetNextDoc())
+    for (const std::string* doc = browser->GetFirstDoc(); doc; doc = browser->GetNextDoc())
         docs.push_back(*doc);
     return docs;
 }
-}  // namespace
 
 void DocManagerImpl::WatchControls()
 {
@@ -57,7 +54,7 @@ void DocManagerImpl::Command(unsigned short id)
     case CMD_DELETE: DeleteSelected(); break;
     case CMD_DOCINFO: browser->EditDocInfo(); break;
     case CMD_COPY: {
-        auto dialog = std::make_unique<DocCopyDialog>(&manager, SelectedDocs(*browser));
+        auto dialog = std::make_unique<DocCopyDialog>(&manager, SelectedPaths());
         if (dialog->exec() == 1 && dialog->GetDoneCount() != 0) {
             undo.Push(dialog->GetUndoStep());
             CollectFiles();
@@ -89,7 +86,7 @@ void DocManagerImpl::Command(unsigned short id)
 
 void DocManagerImpl::DeleteSelected()
 {
-    const std::vector<std::string> docs = SelectedDocs(*browser);
+    const std::vector<std::string> docs = SelectedPaths();
     const QString question = docs.size() == 1
                                  ? QString::fromStdString(ResText(ResKind::QueryBox, QUERY_DELETE_ONE))
                                        .arg(QString::fromStdString(fsutil::FileName(docs.front())))

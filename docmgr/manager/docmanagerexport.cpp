@@ -1,4 +1,4 @@
-// "Export list...": the list as shown, written to a CSV file the user names.
+// "Export list...": the list as shown (the found rows only), written to a CSV file the user names.
 #include <QFileDialog>
 #include <cerrno>
 #include <cstdio>
@@ -48,7 +48,17 @@ void DocManagerImpl::ExportList()
         if (id >= 1 && id <= COLUMN_COUNT)
             columns.push_back(id);
     }
-    const std::string text = FormatCsvList(browser->GetRowList().Rows(), columns, settings->WorkingGroup());
+    // The rows shown, which after a find are fewer than the list's.
+    std::string text;
+    std::vector<std::string> fields;
+    for (const uint16_t id : columns)
+        fields.push_back(browser->GetColumnTitle(id));
+    AppendCsvRecord(text, fields);
+    for (const long row : browser->ShownRows()) {
+        for (size_t c = 0; c < columns.size(); ++c)
+            fields[c] = browser->GetColumnText(row, columns[c]);
+        AppendCsvRecord(text, fields);
+    }
     if (const int error = WriteFile(path, text))
         DocInfoBox(&manager, JoinedMessage(STR_EXPORT_FAILED, path, STR_EXPORT_FAILED_END), DocErrorText(error));
 }

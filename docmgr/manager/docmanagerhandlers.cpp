@@ -16,6 +16,7 @@
 #include "docmgr/tools/tokens.h"
 #include "docmgr/view/docbrowser.h"
 #include "docmgr/view/doccommandmenu.h"
+#include "docmgr/view/docfolderwatch.h"
 #include "docmgr/ui/waitcursor.h"
 #include "resources/resids.h"
 
@@ -101,6 +102,9 @@ void DocManagerImpl::CollectFiles()
     browser->SetDirFileName(dirFileName);
     browser->SetCollectPaths(GetCollectPaths());
     browser->CollectFiles(false);
+    folderWatch->Watch(browser->ListedDirs());
+    if (!findBar->isHidden())
+        browser->PrepareFind();  // the new rows' texts, folded before the next keystroke
     WatchControls();
 }
 

@@ -16,6 +16,7 @@
 
 class DocBrowser;
 class DocCommandMenu;
+class DocFolderWatch;
 class DocMgrResId;
 class DocSummaryWindow;
 class QAction;
@@ -23,6 +24,7 @@ class QCheckBox;
 class QHBoxLayout;
 class QLabel;
 class QLayout;
+class QLineEdit;
 class QListWidget;
 class QPushButton;
 class QToolButton;
@@ -67,12 +69,25 @@ public:
     void FilterHdl();
     void SortHdl();
     void ColumnsHdl();
+    // The find key opens the find bar (or goes back to its field); its field narrows the
+    // shown rows as it is typed in; Escape in the bar closes it and shows every row.
+    void FindHdl();
+    void FindFieldHdl();
+    void FindCloseHdl();
+    // The refresh key: the list is collected again at once, keeping selection and scroll.
+    void RefreshHdl();
+    // The watched folders changed: the same, when the dialog is up.
+    void FolderWatchHdl();
 
     // Path list for collecting: the path line's text (active paths) or the start paths.
     std::string GetCollectPaths() const;
     void SetPathLine(const std::string& text);
     QString SelectedGroupName() const;
     bool IsSingleView() const;
+    // Paths of the selected rows in list order.
+    std::vector<std::string> SelectedPaths() const;
+    // "n of m documents" beside the find field.
+    void ShowFindCount();
 
     DocManager& manager;
     QLabel* sectionLabel = nullptr;
@@ -92,6 +107,11 @@ public:
     QPushButton* filterButton = nullptr;
     QPushButton* sortButton = nullptr;
     QPushButton* columnsButton = nullptr;
+    // Hidden until the find key: the dialog keeps its layout without it.
+    QWidget* findBar = nullptr;
+    QLineEdit* findField = nullptr;
+    QLabel* findCount = nullptr;
+    DocFolderWatch* folderWatch = nullptr;
     // The list and, in single view, the summary pane beside it.
     QHBoxLayout* listRow = nullptr;
 
@@ -116,6 +136,7 @@ private:
     QLayout* BuildViewOptions(const DocMgrResId& res);
     void BuildDialogButtons(const DocMgrResId& res);
     void BuildPathLine();
+    void BuildFindBar(const DocMgrResId& res);
     void BuildBrowser();
     void BuildSettingsButtons(const DocMgrResId& res);
     QLayout* ButtonColumn();

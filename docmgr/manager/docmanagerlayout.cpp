@@ -2,6 +2,7 @@
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QToolButton>
@@ -11,6 +12,7 @@
 #include "docmgr/print/docprintdialog.h"
 #include "docmgr/view/docbrowser.h"
 #include "docmgr/view/doccommandmenu.h"
+#include "docmgr/view/docfolderwatch.h"
 #include "docmgr/view/docsummarywindow.h"
 
 namespace {
@@ -48,6 +50,7 @@ void DocManagerImpl::BuildControls()
     QLayout* viewOptions = BuildViewOptions(res);
     BuildDialogButtons(res);
     BuildPathLine();
+    BuildFindBar(res);
     BuildBrowser();
     BuildSettingsButtons(res);
 
@@ -56,6 +59,7 @@ void DocManagerImpl::BuildControls()
     left->addLayout(choice);
     left->addLayout(viewOptions);
     left->addWidget(pathLine);
+    left->addWidget(findBar);
     left->addLayout(listRow, 1);
     auto* root = new QHBoxLayout(&manager);
     root->addLayout(left, 1);
@@ -137,6 +141,7 @@ void DocManagerImpl::BuildPathLine()
 void DocManagerImpl::BuildBrowser()
 {
     browser = new DocBrowser(&manager, *this);
+    folderWatch = new DocFolderWatch(&manager);
     // Delete and F2 in the list run the menu's items, so they follow its enabling.
     browser->addAction(commandMenu->Item(CMD_DELETE));
     browser->addAction(commandMenu->Item(CMD_RENAME));
@@ -188,6 +193,7 @@ void DocManagerImpl::ConnectBrowser()
         if (openButton->isEnabled())
             openButton->click();
     });
+    QObject::connect(browser, &DocBrowser::shownRowsChanged, &manager, [this] { ShowFindCount(); });
     QObject::connect(browser, &DocBrowser::printListRequested, &manager, [this] {
         DocPrintDialog dialog(browser, *browser);
         dialog.exec();
@@ -214,6 +220,8 @@ void DocManagerImpl::ConnectHandlers()
     onClick(filterButton, &DocManagerImpl::FilterHdl);
     onClick(sortButton, &DocManagerImpl::SortHdl);
     onClick(columnsButton, &DocManagerImpl::ColumnsHdl);
+    QObject::connect(findField, &QLineEdit::textChanged, &manager, [this] { FindFieldHdl(); });
+    QObject::connect(folderWatch, &DocFolderWatch::foldersChanged, &manager, [this] { FolderWatchHdl(); });
 }
 
 void DocManagerImpl::ResizeBrowser()

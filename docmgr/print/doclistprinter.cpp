@@ -37,6 +37,7 @@ bool DocListPrinter::StartJob(const QString& name)
     painter_ = std::move(painter);
     pagesPrinted_ = 0;
     widthsValid_ = false;
+    rows_ = browser_.ShownRows();
     return true;
 }
 
@@ -61,9 +62,9 @@ std::map<uint16_t, uint16_t> DocListPrinter::ColumnWidths(const QSet<QString>& t
         if (titles.contains(QString::fromStdString(title)))
             widths.emplace(id, Characters(title));
     }
-    for (const auto& row : browser_.GetRowList().Rows())
+    for (const long row : browser_.ShownRows())
         for (auto& [id, width] : widths)
-            width = std::max(width, Characters(browser_.GetFieldString(*row, id)));
+            width = std::max(width, Characters(browser_.GetColumnText(row, id)));
     return widths;
 }
 
@@ -83,7 +84,7 @@ bool DocListPrinter::PrintPage(unsigned short page, const QSet<QString>& titles)
     const int charWidth = metrics.horizontalAdvance(QLatin1Char('X'));
     if (lineHeight <= 0)
         return false;
-    const auto rows = pageplan::RowsOnPage(page, printer_.height() / lineHeight, browser_.GetRowCount());
+    const auto rows = pageplan::RowsOnPage(page, printer_.height() / lineHeight, long(rows_.size()));
     if (!rows)
         return false;
 
@@ -108,8 +109,7 @@ bool DocListPrinter::PrintPage(unsigned short page, const QSet<QString>& titles)
         y += lineHeight;
     };
     drawLine([&](uint16_t id) { return QString::fromStdString(browser_.GetColumnTitle(id)); });
-    const auto& list = browser_.GetRowList().Rows();
     for (long r = rows->first; r < rows->end; ++r)
-        drawLine([&](uint16_t id) { return QString::fromStdString(browser_.GetFieldString(*list[size_t(r)], id)); });
+        drawLine([&](uint16_t id) { return QString::fromStdString(browser_.GetColumnText(rows_[size_t(r)], id)); });
     return true;
 }

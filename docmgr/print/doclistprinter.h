@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <vector>
 
 class DocBrowser;
 class QPainter;
@@ -49,4 +50,6 @@ private:
     QSet<QString> widthTitles_;
     std::map<uint16_t, uint16_t> widths_;
     bool widthsValid_ = false;
+    // The rows the list shows (after a find), taken when the job starts.
+    std::vector<long> rows_;
 };

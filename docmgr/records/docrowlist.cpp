@@ -49,6 +49,17 @@ void DocRowList::ApplyFilter()
     std::erase_if(rows_, [this](const std::unique_ptr<DocInfo>& row) { return !Matches(*row, *config_); });
 }
 
+void DocRowList::KeepRows(const std::vector<size_t>& positions)
+{
+    decltype(rows_) kept;
+    kept.reserve(positions.size());
+    for (const size_t row : positions)
+        if (row < rows_.size())
+            kept.push_back(std::move(rows_[row]));
+    rows_ = std::move(kept);
+    currentRow_ = -1;
+}
+
 void DocRowList::SortFiles()
 {
     if (!config_)

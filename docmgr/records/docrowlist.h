@@ -43,6 +43,8 @@ public:
     std::vector<long> RowRemoved(const std::string& path);
     // Removes the rows the working group's filter rejects.
     void ApplyFilter();
+    // Keeps only the rows at `positions` (ascending), in their order.
+    void KeepRows(const std::vector<size_t>& positions);
 
     bool NeedsCollect() const { return needsCollect_; }
     long GetRowCount() const { return long(rows_.size()); }

@@ -37,6 +37,9 @@ public:
     // Called for a directory that could not be listed (`error` is an errno value); it
     // adds no rows.
     virtual void DirectoryUnreadable(const std::string& /*dir*/, int /*error*/) {}
+    // Called for each directory the collection lists (absolute, also one that cannot be
+    // read): the folders the list shows, which the window watches.
+    virtual void DirectoryRead(const std::string& /*dir*/) {}
 };
 
 // The selected rows, in ascending order, as the list view reports them.

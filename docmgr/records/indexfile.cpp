@@ -305,6 +305,7 @@ void DocRowList::ReadOneDir(const std::string& absDir)
         observer_.DirectoryUnreadable(pass.dir, listed.error);
     pass.indexName = dirFileName_;
     pass.indexPath = fsutil::Join(pass.dir, dirFileName_);
+    observer_.DirectoryRead(pass.dir);
     pass.consumed.assign(pass.files.size(), false);
     pass.isPrivate.reserve(pass.files.size());
     for (const fsutil::DirItem& item : pass.files)

@@ -10,6 +10,7 @@
 #include "docmgr/tools/resmgr.h"
 #include "docmgr/view/docbrowserimpl.h"
 #include "docmgr/view/doccelldelegate.h"
+#include "docmgr/view/docfindfilter.h"
 #include "docmgr/view/doclisthost.h"
 #include "docmgr/view/doclistmodel.h"
 #include "docmgr/view/frozencolumns.h"
@@ -48,14 +49,24 @@ std::vector<std::pair<long, long>> DocBrowser::Impl::SelectedIntervals() const
     return merged;
 }
 
+long DocBrowser::Impl::ListRow(long row) const
+{
+    return row < 0 ? -1 : shown->mapToSource(shown->index(int(row), 0)).row();
+}
+
+long DocBrowser::Impl::ViewRow(long row) const
+{
+    return row < 0 ? -1 : shown->mapFromSource(model->index(int(row), 0)).row();
+}
+
 void DocBrowser::Impl::SelectIntervals(const std::vector<std::pair<long, long>>& intervals)
 {
-    const int columns = model->columnCount();
+    const int columns = shown->columnCount();
     if (columns == 0 || intervals.empty())
         return;
     QItemSelection selection;
     for (const auto& [top, bottom] : intervals)
-        selection.select(model->index(int(top), 0), model->index(int(bottom), columns - 1));
+        selection.select(shown->index(int(top), 0), shown->index(int(bottom), columns - 1));
     browser->selectionModel()->select(selection, QItemSelectionModel::Select);
 }
 
@@ -66,26 +77,31 @@ long DocBrowser::Impl::FirstSelected() const
 
 long DocBrowser::Impl::NextSelected(long row) const
 {
+    // The view shows the list's rows in their order, only fewer of them.
+    const long after = row < 0 ? -1 : ViewRow(row);
+    if (row >= 0 && after < 0)
+        return -1;  // the walk stood on a row no longer shown
     long next = -1;
     const QItemSelectionModel* selection = browser->selectionModel();
     if (!selection)
         return next;
     for (const QItemSelectionRange& range : selection->selection()) {
-        if (!range.isValid() || range.bottom() <= row)
+        if (!range.isValid() || range.bottom() <= after)
             continue;
-        const long candidate = std::max<long>(range.top(), row + 1);
+        const long candidate = std::max<long>(range.top(), after + 1);
         if (next < 0 || candidate < next)
             next = candidate;
     }
-    return next;
+    return ListRow(next);
 }
 
 DocBrowser::DocBrowser(QWidget* parent, DocListHost& host) : QTableView(parent), d(std::make_unique<Impl>(this, host))
 {
     setObjectName("browser");
     d->model = new DocListModel(this);
+    d->shown = new DocFindFilter(d->model, this);
     d->delegate = new DocCellDelegate(this);
-    setModel(d->model);
+    setModel(d->shown);
     setItemDelegate(d->delegate);
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -111,6 +127,9 @@ DocBrowser::DocBrowser(QWidget* parent, DocListHost& host) : QTableView(parent),
         connect(view->horizontalHeader(), &QHeaderView::sectionResized, this, &DocBrowser::SectionResized);
         view->horizontalHeader()->viewport()->installEventFilter(this);
     }
+    connect(d->shown, &QAbstractItemModel::modelReset, this, &DocBrowser::shownRowsChanged);
+    connect(d->shown, &QAbstractItemModel::layoutChanged, this, &DocBrowser::shownRowsChanged);
+    connect(d->shown, &QAbstractItemModel::rowsRemoved, this, &DocBrowser::shownRowsChanged);
     connect(d->frozen, &FrozenColumnsView::contextMenuRequested, this,
             [this](const QPoint& globalPos) { ShowContextMenu(globalPos); });
 }
@@ -197,8 +216,8 @@ void DocBrowser::InsertColumns()
     }
     d->frozen->SetFrozenCount(single ? 0 : group.frozenColumns);
     d->SelectIntervals(selected);
-    if (currentRow >= 0 && currentRow < d->model->rowCount())
-        selectionModel()->setCurrentIndex(d->model->index(currentRow, 0), QItemSelectionModel::NoUpdate);
+    if (currentRow >= 0 && currentRow < d->shown->rowCount())
+        selectionModel()->setCurrentIndex(d->shown->index(currentRow, 0), QItemSelectionModel::NoUpdate);
     d->settingColumns = false;
     setUpdatesEnabled(updates);
     viewport()->update();
@@ -220,6 +239,7 @@ void DocBrowser::CollectFiles(bool onlyIfNeeded)
     if (!d->dirFileName.empty())
         d->list.SetDirFileName(d->dirFileName);
     d->progress.Start();
+    d->listedDirs.clear();
     d->list.CollectFiles(paths);
     d->progress.Finish();
     d->model->ShowRows(d->list);
@@ -268,6 +288,41 @@ const DocRowList& DocBrowser::GetRowList() const
     return d->list;
 }
 
+const std::vector<std::string>& DocBrowser::ListedDirs() const
+{
+    return d->listedDirs;
+}
+
+long DocBrowser::GetShownRowCount() const
+{
+    return d->shown->rowCount();
+}
+
+std::vector<long> DocBrowser::ShownRows() const
+{
+    std::vector<long> rows;
+    rows.reserve(size_t(d->shown->rowCount()));
+    for (int row = 0; row < d->shown->rowCount(); ++row)
+        if (const long listRow = d->ListRow(row); listRow >= 0 && listRow < GetRowCount())
+            rows.push_back(listRow);
+    return rows;
+}
+
+void DocBrowser::SetFindText(const std::string& text)
+{
+    d->shown->SetFindText(text);
+}
+
+void DocBrowser::PrepareFind()
+{
+    d->shown->Prepare();
+}
+
+const std::string& DocBrowser::GetFindText() const
+{
+    return d->shown->FindText();
+}
+
 unsigned short DocBrowser::ColCount() const
 {
     return static_cast<unsigned short>(d->model->columnCount());
@@ -310,9 +365,9 @@ long DocBrowser::GetFirstSelectedRow() const
 
 void DocBrowser::DeselectFirstSelected()
 {
-    const long row = d->FirstSelected();
-    if (row >= 0)
-        selectionModel()->select(d->model->index(int(row), 0),
+    const auto selected = d->SelectedIntervals();
+    if (!selected.empty())
+        selectionModel()->select(d->shown->index(int(selected.front().first), 0),
                                  QItemSelectionModel::Deselect | QItemSelectionModel::Rows);
 }
 
@@ -328,11 +383,12 @@ void DocBrowser::SelectPaths(const std::vector<std::string>& paths)
     const auto& list = d->list.Rows();
     for (long row = 0; row < long(list.size()); ++row)
         if (wanted.count(list[size_t(row)]->entry))
-            rows.emplace_back(row, row);
+            if (const long shown = d->ViewRow(row); shown >= 0)
+                rows.emplace_back(shown, shown);
     clearSelection();
     d->SelectIntervals(rows);
     if (!rows.empty()) {
-        const QModelIndex first = d->model->index(int(rows.front().first), 0);
+        const QModelIndex first = d->shown->index(int(rows.front().first), 0);
         selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
         scrollTo(first);
     }

@@ -39,14 +39,25 @@ public:
     // line.
     void CollectFiles(bool onlyIfNeeded);
     void SortFiles(bool repaint);
+    // The folders the last collection read, absolute, in the order read.
+    const std::vector<std::string>& ListedDirs() const;
     // Paths of the selected rows in ascending row order; null after the last.
     const std::string* GetFirstDoc();
     const std::string* GetNextDoc();
 
     std::string GetFieldString(const DocInfo& info, unsigned short columnId) const;
     std::string GetColumnText(long row, unsigned short columnId) const;
+    // Rows of the list, found or not; GetShownRowCount and ShownRows: the rows the view
+    // shows after the find, as positions in the list, in list order.
     long GetRowCount() const;
     const DocRowList& GetRowList() const;
+    long GetShownRowCount() const;
+    std::vector<long> ShownRows() const;
+    // Shows only the rows holding `text` in a shown column, ignoring case; empty: all.
+    void SetFindText(const std::string& text);
+    const std::string& GetFindText() const;
+    // Readies the find for the rows as they are (the find bar is open).
+    void PrepareFind();
     // Columns in display order.
     unsigned short ColCount() const;
     unsigned short GetColumnId(unsigned short position) const;
@@ -69,6 +80,7 @@ public:
 
     // Selection helpers for the manager's commands.
     long GetSelectedRowCount() const;
+    // Row of the list (not of the view, which may show fewer) of the first selected row.
     long GetFirstSelectedRow() const;
     void DeselectFirstSelected();
     void ClearSelection();
@@ -93,6 +105,8 @@ signals:
     // A row was double clicked: the dialog takes the selection as if Open was pressed.
     void rowActivated();
     void printListRequested();
+    // The view shows other rows (a find, a collection, a removal).
+    void shownRowsChanged();
 
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;

@@ -11,17 +11,22 @@
 #include "docmgr/view/docbrowser.h"
 
 class DocCellDelegate;
+class DocFindFilter;
 
 struct DocBrowser::Impl final : CollectObserver, DocSelection {
     Impl(DocBrowser* browser, DocListHost& host);
 
     // CollectObserver: a long collection shows how far it has got.
     void CollectProgress(size_t dirs, size_t docs) override;
-    // DocSelection: the view's selected rows, ascending.
+    void DirectoryRead(const std::string& dir) override { listedDirs.push_back(dir); }
+    // DocSelection: the rows of the list selected in the view, ascending.
     long FirstSelected() const override;
     long NextSelected(long row) const override;
 
-    // Selected rows as sorted, disjoint, inclusive intervals.
+    // Row of the list shown at view row `row`, and the reverse (-1 for a row not shown).
+    long ListRow(long row) const;
+    long ViewRow(long row) const;
+    // Selected view rows as sorted, disjoint, inclusive intervals.
     std::vector<std::pair<long, long>> SelectedIntervals() const;
     void SelectIntervals(const std::vector<std::pair<long, long>>& intervals);
 
@@ -30,8 +35,10 @@ struct DocBrowser::Impl final : CollectObserver, DocSelection {
     ImplDocConfig* settings = nullptr;
     std::string dirFileName;
     std::string collectPaths;
+    std::vector<std::string> listedDirs;  // the folders the last collection read
     bool singleView = false;
     DocListModel* model = nullptr;
+    DocFindFilter* shown = nullptr;  // what the view shows of the model: the found rows
     DocCellDelegate* delegate = nullptr;
     FrozenColumnsView* frozen = nullptr;
     DocRowList list;

@@ -25,6 +25,9 @@ public:
     // only as far as the caller restores it: this resets the model).
     void SetColumns(std::vector<uint16_t> ids, std::vector<QString> titles);
     uint16_t ColumnId(int column) const;
+    // The document of `row`, or null; valid until the next call (the list may make it
+    // for the call).
+    const DocInfo* RowInfo(int row) const;
     int ColumnOf(uint16_t id) const;
 
     // No rows until ShowRows: the list is about to be rebuilt.

@@ -26,7 +26,7 @@ std::string ToBytes(const QString& text)
 }
 
 const char* const kSwitches[] = {"list", "export-config", "print-paths", "no-cache", "dry-run"};  // and -h, --help
-const char* const kValueOptions[] = {"config", "group", "index-name", "columns", "format", "set"};
+const char* const kValueOptions[] = {"config", "group", "index-name", "columns", "format", "find", "set"};
 
 template <size_t N>
 bool IsOneOf(const QString& name, const char* const (&names)[N])
@@ -147,7 +147,7 @@ bool CheckModeOptions(const CommandLine& out, bool formatGiven, std::string& err
 {
     const bool list = out.mode == RunMode::List;
     const bool set = out.mode == RunMode::SetFields;
-    if (set && (out.groupGiven || !out.columns.empty() || formatGiven || !out.indexName.empty() ||
+    if (set && (out.groupGiven || out.findGiven || !out.columns.empty() || formatGiven || !out.indexName.empty() ||
                 !out.configPath.empty() || out.noCache))
         error = "--set takes only --dry-run and the files";
     else if (set && out.startPaths.empty())
@@ -156,6 +156,8 @@ bool CheckModeOptions(const CommandLine& out, bool formatGiven, std::string& err
         error = "--dry-run is only used with --set";
     else if (!list && out.groupGiven)
         error = "--group is only used with --list";
+    else if (!list && out.findGiven)
+        error = "--find is only used with --list";
     else if (!list && !out.columns.empty())
         error = "--columns is only used with --list";
     else if (!list && formatGiven)
@@ -216,6 +218,9 @@ bool TakeOption(const QString& name, const std::string& value, Reading& reading,
             return false;
         }
         out.indexName = value;
+    } else if (name == "find") {
+        out.findText = value;
+        out.findGiven = true;
     } else if (name == "columns") {
         return ParseColumns(value, out.columns, error);
     } else if (name == "format") {
@@ -293,13 +298,15 @@ std::string UsageText()
     return "Usage:\n"
            "  docmanager [--config FILE] [--index-name NAME] [--no-cache] [--print-paths] [START_PATH...]\n"
            "  docmanager --list [--config FILE] [--group NAME] [--index-name NAME] [--no-cache]\n"
-           "                    [--columns ID,ID,...] [--format text|tsv|json|csv] [START_PATH...]\n"
+           "                    [--columns ID,ID,...] [--format text|tsv|json|csv] [--find TEXT]\n"
+           "                    [START_PATH...]\n"
            "  docmanager --export-config [--config FILE]\n"
            "  docmanager --set FIELD=VALUE [--set FIELD=VALUE ...] [--dry-run] FILE...\n"
            "\n"
            "Without --list or --export-config the document manager window opens.\n"
            "A START_PATH ending in \"/**\" includes its subdirectories; the paths are used\n"
            "when the group in force has no active directory.\n"
+           "--find lists only the rows that show TEXT in one of their columns, ignoring case.\n"
            "--no-cache reads the documents without the per-user cache (~/.cache/docmanager).\n"
            "Column ids: 1 file name, 2 size, 3 title, 4 topic, 5/6 created date/time,\n"
            "7 author, 8/9/10 modified date/time/by, 11/12/13 printed date/time/by,\n"

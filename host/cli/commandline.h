@@ -17,6 +17,8 @@ struct CommandLine {
     std::string indexName;          // --index-name; empty: the module's default
     std::vector<uint16_t> columns;  // --columns; empty: the working group's slots
     ListFormat format = ListFormat::Text;
+    std::string findText;  // --find: only the rows showing it in a listed column, ignoring case
+    bool findGiven = false;
     bool noCache = false;                 // --no-cache: read documents without the per-user cache
     bool printPaths = false;              // window: print the chosen paths instead of opening
     std::vector<std::string> startPaths;  // START_PATH arguments (FILEs of --set) in the order given

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "docmgr/config/impldocconfig.h"
+#include "docmgr/records/docfind.h"
 #include "docmgr/records/docrowlist.h"
 #include "docmgr/tools/config.h"
 #include "docmgr/tools/fsutil.h"
@@ -74,6 +75,16 @@ public:
     std::string warnings;
 };
 
+// --find: the rows that show `text` in one of the listed columns, as the find bar keeps them.
+void KeepFound(DocRowList& rows, const std::vector<uint16_t>& columns, const std::string& text)
+{
+    DocFind find;
+    find.Reset(columns);
+    for (const auto& row : rows.Rows())
+        find.AddRow(*row);
+    rows.KeepRows(find.Find(text));
+}
+
 HeadlessResult List(const CommandLine& cmd, ImplDocConfig& settings, std::string err, std::ostream& out,
                     std::ostream& errOut)
 {
@@ -98,9 +109,13 @@ HeadlessResult List(const CommandLine& cmd, ImplDocConfig& settings, std::string
     rows.CollectFiles(pathList);
     source.Flush();
 
+    const std::vector<uint16_t> columns = ListColumns(group, cmd.columns);
+    if (cmd.findGiven)
+        KeepFound(rows, columns, cmd.findText);
+
     errOut << err << source.warnings;
     ListSink sink(out, [&source](const std::string& path) { return source.Problem(path); });
-    WriteList(cmd.format, sink, rows.Rows(), ListColumns(group, cmd.columns), group);
+    WriteList(cmd.format, sink, rows.Rows(), columns, group);
     return {};
 }
 

@@ -539,6 +539,21 @@
         <translation>Dokumentverwaltung</translation>
     </message>
     <message>
+        <source>F&amp;ind:</source>
+        <comment>dialog 15700.50</comment>
+        <translation>Su&amp;chen:</translation>
+    </message>
+    <message>
+        <source>Text in any column; Esc closes</source>
+        <comment>dialog 15700.51</comment>
+        <translation>Text in einer Spalte; Esc schließt</translation>
+    </message>
+    <message>
+        <source>%1 of %2 documents</source>
+        <comment>dialog 15700.52</comment>
+        <translation>%1 von %2 Dokumenten</translation>
+    </message>
+    <message>
         <source>&amp;Delete</source>
         <comment>menu 15700.20</comment>
         <translation>&amp;Löschen</translation>

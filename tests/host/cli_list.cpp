@@ -72,6 +72,22 @@ TEST_F(CliListTest, TsvTextAndJsonShowTheSameSortedRows)
     EXPECT_EQ(array[2].toObject()["author"].toString(), QString::fromUtf8("Zoë Ünal"));
 }
 
+TEST_F(CliListTest, FindKeepsTheRowsShowingTheTextInAListedColumn)
+{
+    MakeLibrary();
+    const std::string config = WriteConfig(ConfigText({{.name = "Lib", .paths = Lib(), .sortColumn = 3, .columns = {1, 3, 7}}}));
+    // Case folded beyond ASCII, in any listed column, in every format.
+    EXPECT_EQ(List(config, {"--format", "tsv", "--find", "ZOË"}).out, "File name\tTitle\tAuthor\nc.pdf\tGamma\tZoë Ünal\n");
+    EXPECT_EQ(List(config, {"--format=tsv", "--find=A.OD"}).out, "File name\tTitle\tAuthor\na.odt\tBeta plan\tAnn Author\n");
+    EXPECT_EQ(Rows(List(config, {"--format", "json", "--find", "b"})).size(), 2);  // "b.docx", "Beta", "Bob"
+    // A column not listed is not searched; an empty text keeps every row.
+    EXPECT_EQ(List(config, {"--format", "tsv", "--columns", "1", "--find", "gamma"}).out, "File name\n");
+    EXPECT_EQ(Rows(List(config, {"--format", "json", "--find", ""})).size(), 3);
+    const RunResult outsideList = RunDocmanager({"--export-config", "--find", "x"}, ConfigHome());
+    EXPECT_EQ(outsideList.status, 2);
+    EXPECT_NE(outsideList.err.find("--find is only used with --list"), std::string::npos) << outsideList.err;
+}
+
 TEST_F(CliListTest, TheIndexIsWrittenOnceThenUsedInsteadOfTheDocuments)
 {
     WriteDoc("lib/a.odt", "Alpha", "Ann", 1);
