@@ -34,6 +34,9 @@ uint32_t ReadLE32(const char* p)
     return uint32_t(u[0]) | uint32_t(u[1]) << 8 | uint32_t(u[2]) << 16 | uint32_t(u[3]) << 24;
 }
 
+// A large directory read from its index reports this often.
+constexpr size_t PROGRESS_ROWS = 4096;
+
 // Room for records beyond one per directory entry: files made while a listing ran, and
 // the cut-name records of long names.
 constexpr uint64_t SPARE_RECORDS = 64;
@@ -59,7 +62,7 @@ void DocRowList::ReadWriteDocInfos(const std::string& dir, bool withSubdirs)
     ReadDir(dir, withSubdirs, visit);
 }
 
-std::unique_ptr<DocInfo> DocRowList::Probe(const DirPass& pass, size_t file)
+RowStore::Id DocRowList::Probe(const DirPass& pass, size_t file)
 {
     const fsutil::DirItem& item = pass.files[file];
     const std::string path = fsutil::Join(pass.dir, item.name);
@@ -74,7 +77,7 @@ std::unique_ptr<DocInfo> DocRowList::Probe(const DirPass& pass, size_t file)
         info->size = NO_DOC_INFO;
     }
     info->entry = path;
-    return info;
+    return store_.Add(*info);
 }
 
 void DocRowList::ProbeAll(DirPass& pass)
@@ -115,7 +118,7 @@ void DocRowList::MatchRecords(DirPass& pass, IndexBlocks& records)
     }
     // Only whole records count; a partial one at the end stays as it is.
     records.ForEach([&](uint64_t offset, const char* bytes) {
-        const std::string name = DocRecord::ReadName(bytes);
+        const std::string_view name = DocRecord::NameView(bytes);
         const auto found = pass.byName.find(name);
         if (found == pass.byName.end() || pass.consumed[found->second]) {
             pass.rewriteNeeded = true;  // vanished, no longer matching, or a duplicate
@@ -128,15 +131,17 @@ void DocRowList::MatchRecords(DirPass& pass, IndexBlocks& records)
             pass.rewriteNeeded = true;  // its record must go
         if (pass.isPrivate[file] || !pass.IsCurrent(item)) {
             pass.changed.push_back({pass.working.size(), offset, file});
-            pass.working.emplace_back();
+            pass.working.push_back(DirPass::NO_ROW);
             return;
         }
+        // The row goes straight from the record into the store, without a DocInfo.
         const DocRecord record = DocRecord::FromBytes(bytes);
-        auto info = std::make_unique<DocInfo>();
-        info->entry = fsutil::Join(pass.dir, name);
-        info->size = record.hasInfo != 0 ? FileSize32(item.size) : NO_DOC_INFO;
-        record.FillDocInfo(*info);
-        pass.working.push_back(std::move(info));
+        RowStore::Fields fields = record.Fields(item.name);
+        fields.folder = pass.folder;
+        fields.size = record.hasInfo != 0 ? FileSize32(item.size) : NO_DOC_INFO;
+        pass.working.push_back(store_.Add(fields));
+        if (pass.working.size() % PROGRESS_ROWS == 0)
+            observer_.CollectProgress(dirsRead_, rows_.size() + pass.working.size());
     });
 }
 
@@ -170,12 +175,13 @@ void DocRowList::ReadChanged(DirPass& pass)
         }
         info->entry = reads[k];
         info->size = FileSize32(pass.files[doc.file].size);
+        const RowStore::Id row = store_.Add(*info);
         if (pass.InPlaceUpdates())
-            pass.overwrites.emplace_back(doc.offset, info.get());
-        pass.working[doc.row] = std::move(info);
+            pass.overwrites.emplace_back(doc.offset, row);
+        pass.working[doc.row] = row;
     }
     if (!pass.changed.empty())
-        std::erase(pass.working, nullptr);
+        std::erase(pass.working, DirPass::NO_ROW);
 }
 
 void DocRowList::ProbeNew(DirPass& pass)
@@ -183,11 +189,11 @@ void DocRowList::ProbeNew(DirPass& pass)
     for (size_t i = 0; i < pass.files.size(); ++i) {
         if (pass.consumed[i] || pass.IsIndex(i))
             continue;
-        std::unique_ptr<DocInfo> info = Probe(pass, i);
+        const RowStore::Id row = Probe(pass, i);
         // Non-documents reach the index only through a full rewrite.
-        if (info->HasInfo() && !pass.isPrivate[i] && pass.InPlaceUpdates())
-            pass.appends.push_back(info.get());
-        pass.working.push_back(std::move(info));
+        if (store_.SizeOf(row) != NO_DOC_INFO && !pass.isPrivate[i] && pass.InPlaceUpdates())
+            pass.appends.push_back(row);
+        pass.working.push_back(row);
     }
 }
 
@@ -324,9 +330,9 @@ void DocRowList::ReadOneDir(const std::string& absDir)
     pass.stream.Close();
 
     // Non-documents stay in the index but never become rows.
-    for (auto& info : pass.working) {
-        if (info->HasInfo())
-            rows_.push_back(std::move(info));
+    for (const RowStore::Id row : pass.working) {
+        if (store_.SizeOf(row) != NO_DOC_INFO)
+            rows_.push_back(row);
     }
 }
 

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "docmgr/records/docrowlist.h"
+#include "docmgr/records/rowstore.h"
 #include "docmgr/tools/filestream.h"
 #include "docmgr/tools/folderaudience.h"
 #include "docmgr/tools/fsutil.h"
@@ -36,9 +37,12 @@ struct DocRowList::DirVisit {
 
 // The state of one directory's read-update-write.
 struct DocRowList::DirPass {
-    explicit DirPass(const std::string& absDir) : dir(absDir), audience(absDir) {}
+    explicit DirPass(const std::string& absDir)
+        : dir(absDir), folder(FolderPart(fsutil::Join(absDir, "-"))), audience(absDir)
+    {}
 
-    std::string dir;  // absolute
+    std::string dir;     // absolute
+    std::string folder;  // what the paths of its files start with (with the delimiter)
     FolderAudience audience;
     std::string indexName;
     std::string indexPath;
@@ -52,7 +56,10 @@ struct DocRowList::DirPass {
     // Listed name (in `files`) -> position, the index left out; made only when there are
     // records to match.
     std::unordered_map<std::string_view, size_t> byName;
-    std::vector<std::unique_ptr<DocInfo>> working;
+    // The directory's rows so far, as places in the row store (non-documents too, which
+    // the index keeps); NO_ROW holds the place of a changed document until it is read.
+    std::vector<RowStore::Id> working;
+    static constexpr RowStore::Id NO_ROW = RowStore::Id(-1);
     KxFileStream stream;
     bool rewriteNeeded = false;
     bool reprobeAll = false;
@@ -64,9 +71,9 @@ struct DocRowList::DirPass {
     int64_t indexMtimeNs = 0;
     // Records to write over (at their offsets) and to append. They reach the disk as a
     // whole new index, so that no crash can leave a record dated as current that does not
-    // describe its document. The DocInfos are those of `working`.
-    std::vector<std::pair<uint64_t, const DocInfo*>> overwrites;
-    std::vector<const DocInfo*> appends;
+    // describe its document. The rows are those of `working`.
+    std::vector<std::pair<uint64_t, RowStore::Id>> overwrites;
+    std::vector<RowStore::Id> appends;
     // Documents whose records are out of date, to be read after the walk over the index.
     struct Changed {
         size_t row;       // its place in `working`
