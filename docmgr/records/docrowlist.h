@@ -68,7 +68,8 @@ private:
     struct DirVisit;
     struct DirPass;
     void ReadDir(const std::string& dir, bool withSubdirs, DirVisit& visit);
-    void ReadOneDir(const std::string& absDir);
+    void ReadOneDir(const std::string& absDir, DirVisit& visit);
+    std::string FilePattern() const;
     void ReadSubdirs(const std::string& absDir, DirVisit& visit);
     enum class IndexOpening { Opened, Missing, Unstable, Failed };
     IndexOpening OpenIndex(DirPass& pass);

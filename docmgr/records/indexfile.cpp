@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
-#include <ctime>
+#include <optional>
 #include <string_view>
 #include <unordered_map>
 #include <utility>
@@ -45,21 +45,20 @@ constexpr uint64_t SPARE_RECORDS = 64;
 // kernel's SMB client keep them for about a second).
 constexpr int64_t CACHED_TIMES_NS = 2000000000;
 
-// The clock file times are stamped from: a file changed after this moment carries a time
-// no earlier than it.
-int64_t FileClockNowNs()
-{
-    struct timespec now {};
-    clock_gettime(CLOCK_REALTIME_COARSE, &now);
-    return int64_t(now.tv_sec) * 1000000000 + now.tv_nsec;
-}
-
 }  // namespace
 
 void DocRowList::ReadWriteDocInfos(const std::string& dir, bool withSubdirs)
 {
     DirVisit visit;
+    if (withSubdirs)
+        visit.ahead = std::make_unique<ListAhead>(FilePattern());
     ReadDir(dir, withSubdirs, visit);
+}
+
+std::string DocRowList::FilePattern() const
+{
+    const std::string filterFiles = config_ ? config_->WorkingGroup().filterFiles : std::string();
+    return filterFiles.empty() ? std::string(1, '*') : filterFiles;
 }
 
 RowStore::Id DocRowList::Probe(const DirPass& pass, size_t file)
@@ -287,25 +286,28 @@ void DocRowList::ReadDir(const std::string& dir, bool withSubdirs, DirVisit& vis
 {
     const std::string absDir = fsutil::Absolute(dir);
     fsutil::CurrentDirGuard cwd(absDir);
-    ReadOneDir(absDir);
+    ReadOneDir(absDir, visit);
     observer_.CollectProgress(++dirsRead_, rows_.size());
     if (withSubdirs)
         ReadSubdirs(absDir, visit);
 }
 
-void DocRowList::ReadOneDir(const std::string& absDir)
+void DocRowList::ReadOneDir(const std::string& absDir, DirVisit& visit)
 {
     DirPass pass(absDir);
-    const std::string filterFiles = config_ ? config_->WorkingGroup().filterFiles : std::string();
-    const std::string pattern = filterFiles.empty() ? std::string(1, '*') : filterFiles;
-
-    pass.listedAtNs = FileClockNowNs();
+    fsutil::ListStatus listed;
+    if (std::optional<ListAhead::Listing> ahead = visit.ahead ? visit.ahead->Take(absDir) : std::nullopt) {
+        pass.listedAtNs = ahead->startedNs;
+        pass.files = std::move(ahead->files);
+        listed = ahead->status;
+    } else {
+        pass.listedAtNs = ListAhead::FileClockNowNs();
+        pass.files = fsutil::List(pass.dir, FilePattern(), fsutil::Kind::Files, &listed);
+    }
     // A client that keeps file times for a while may show a document changed just before
     // the listing with its old time: the index is dated that much earlier.
     if (fsutil::CachesFileTimes(pass.dir))
         pass.listedAtNs -= CACHED_TIMES_NS;
-    fsutil::ListStatus listed;
-    pass.files = fsutil::List(pass.dir, pattern, fsutil::Kind::Files, &listed);
     pass.dirEntries = listed.entries;
     if (listed.error != 0)
         observer_.DirectoryUnreadable(pass.dir, listed.error);
@@ -343,18 +345,23 @@ void DocRowList::ReadSubdirs(const std::string& dir, DirVisit& visit)
         return;
     visit.path.emplace_back(dev, ino);
     const bool exceptions = config_ && !config_->GetExceptionPaths().empty();
+    std::vector<std::string> subdirs;
     for (const fsutil::DirItem& item : fsutil::List(dir, "*", fsutil::Kind::Dirs)) {
         // A link may lead anywhere, to the root or round to a parent: the listing keeps
         // to the real folders of the tree it was given.
         if (item.name == "." || item.name == ".." || item.isLink)
             continue;
-        const std::string subdir = fsutil::Join(dir, item.name);
+        std::string subdir = fsutil::Join(dir, item.name);
         if (exceptions && config_->IsExceptionPath(subdir))
             continue;
         uint64_t subDev = 0, subIno = 0;
         if (!fsutil::Identity(subdir, subDev, subIno) || visit.Contains(subDev, subIno))
             continue;
-        ReadDir(subdir, true, visit);
+        subdirs.push_back(std::move(subdir));
     }
+    if (visit.ahead)
+        visit.ahead->Want(subdirs);
+    for (const std::string& subdir : subdirs)
+        ReadDir(subdir, true, visit);
     visit.path.pop_back();
 }

@@ -14,6 +14,7 @@
 #include "docmgr/tools/filestream.h"
 #include "docmgr/tools/folderaudience.h"
 #include "docmgr/tools/fsutil.h"
+#include "docmgr/tools/listahead.h"
 #include "docmgr/tools/replacefile.h"
 
 // The header: "KIDX" and NUL, the version (16 bits), the character set (32 bits).
@@ -28,6 +29,8 @@ inline constexpr size_t HEADER_SIZE = 11;
 // to one of them is not followed.
 struct DocRowList::DirVisit {
     std::vector<std::pair<uint64_t, uint64_t>> path;
+    // Lists the subfolders ahead of their reading; only in a recursive listing.
+    std::unique_ptr<ListAhead> ahead;
 
     bool Contains(uint64_t dev, uint64_t ino) const
     {
