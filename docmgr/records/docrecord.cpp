@@ -149,6 +149,13 @@ std::string DocRecord::ReadString(const char* field, unsigned short width)
 std::string_view DocRecord::StringView(const char* field, size_t width)
 {
     size_t length = width;
+    // Most fields are mostly padding: it goes eight bytes at a time.
+    constexpr uint64_t BLANKS = 0x2020202020202020u;
+    for (uint64_t word = 0; length >= sizeof word; length -= sizeof word) {
+        std::memcpy(&word, field + length - sizeof word, sizeof word);
+        if (word != BLANKS)
+            break;
+    }
     while (length > 0 && field[length - 1] == BLANK)
         --length;
     return {field, length};

@@ -68,9 +68,10 @@ private:
     struct DirVisit;
     struct DirPass;
     void ReadDir(const std::string& dir, bool withSubdirs, DirVisit& visit);
-    void ReadOneDir(const std::string& absDir, DirVisit& visit);
+    // `subdirs`, when given, gets the folder's subfolders, from the same listing.
+    void ReadOneDir(const std::string& absDir, DirVisit& visit, std::vector<fsutil::DirItem>* subdirs);
     std::string FilePattern() const;
-    void ReadSubdirs(const std::string& absDir, DirVisit& visit);
+    void ReadSubdirs(const std::string& absDir, const std::vector<fsutil::DirItem>& subdirs, DirVisit& visit);
     enum class IndexOpening { Opened, Missing, Unstable, Failed };
     IndexOpening OpenIndex(DirPass& pass);
     void ReadIndex(DirPass& pass);

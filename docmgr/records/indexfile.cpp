@@ -286,13 +286,14 @@ void DocRowList::ReadDir(const std::string& dir, bool withSubdirs, DirVisit& vis
 {
     const std::string absDir = fsutil::Absolute(dir);
     fsutil::CurrentDirGuard cwd(absDir);
-    ReadOneDir(absDir, visit);
+    std::vector<fsutil::DirItem> subdirs;
+    ReadOneDir(absDir, visit, withSubdirs ? &subdirs : nullptr);
     observer_.CollectProgress(++dirsRead_, rows_.size());
     if (withSubdirs)
-        ReadSubdirs(absDir, visit);
+        ReadSubdirs(absDir, subdirs, visit);
 }
 
-void DocRowList::ReadOneDir(const std::string& absDir, DirVisit& visit)
+void DocRowList::ReadOneDir(const std::string& absDir, DirVisit& visit, std::vector<fsutil::DirItem>* subdirs)
 {
     DirPass pass(absDir);
     fsutil::ListStatus listed;
@@ -300,9 +301,11 @@ void DocRowList::ReadOneDir(const std::string& absDir, DirVisit& visit)
         pass.listedAtNs = ahead->startedNs;
         pass.files = std::move(ahead->files);
         listed = ahead->status;
+        if (subdirs)
+            *subdirs = std::move(ahead->subdirs);
     } else {
         pass.listedAtNs = ListAhead::FileClockNowNs();
-        pass.files = fsutil::List(pass.dir, FilePattern(), fsutil::Kind::Files, &listed);
+        pass.files = fsutil::List(pass.dir, FilePattern(), fsutil::Kind::Files, &listed, subdirs);
     }
     // A client that keeps file times for a while may show a document changed just before
     // the listing with its old time: the index is dated that much earlier.
@@ -338,7 +341,7 @@ void DocRowList::ReadOneDir(const std::string& absDir, DirVisit& visit)
     }
 }
 
-void DocRowList::ReadSubdirs(const std::string& dir, DirVisit& visit)
+void DocRowList::ReadSubdirs(const std::string& dir, const std::vector<fsutil::DirItem>& found, DirVisit& visit)
 {
     uint64_t dev = 0, ino = 0;
     if (!fsutil::Identity(dir, dev, ino))
@@ -346,7 +349,7 @@ void DocRowList::ReadSubdirs(const std::string& dir, DirVisit& visit)
     visit.path.emplace_back(dev, ino);
     const bool exceptions = config_ && !config_->GetExceptionPaths().empty();
     std::vector<std::string> subdirs;
-    for (const fsutil::DirItem& item : fsutil::List(dir, "*", fsutil::Kind::Dirs)) {
+    for (const fsutil::DirItem& item : found) {
         // A link may lead anywhere, to the root or round to a parent: the listing keeps
         // to the real folders of the tree it was given.
         if (item.name == "." || item.name == ".." || item.isLink)

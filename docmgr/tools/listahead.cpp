@@ -74,7 +74,7 @@ void ListAhead::Run()
         lock.unlock();
         Listing listing;
         listing.startedNs = FileClockNowNs();
-        listing.files = fsutil::List(dir, pattern_, fsutil::Kind::Files, &listing.status);
+        listing.files = fsutil::List(dir, pattern_, fsutil::Kind::Files, &listing.status, &listing.subdirs);
         lock.lock();
         done_[dir] = std::move(listing);
         busy_.clear();

@@ -17,9 +17,11 @@
 
 class ListAhead {
 public:
-    // A listing of files as fsutil::List gives it, with the clock read just before.
+    // A listing of files as fsutil::List gives it, the subfolders from the same pass,
+    // and the clock read just before.
     struct Listing {
         std::vector<fsutil::DirItem> files;
+        std::vector<fsutil::DirItem> subdirs;
         fsutil::ListStatus status;
         int64_t startedNs = 0;
     };
