@@ -110,20 +110,33 @@ void DocRowList::ReadRecords(DirPass& pass, IndexBlocks& records)
 
 void DocRowList::MatchRecords(DirPass& pass, IndexBlocks& records)
 {
-    pass.byName.reserve(pass.files.size());
-    for (size_t i = 0; i < pass.files.size(); ++i) {
-        if (!pass.IsIndex(i))
-            pass.byName.emplace(pass.files[i].name, i);
-    }
+    // An index written by a listing holds its records in the order the folder lists its
+    // files: the file after the last one matched is tried first, and the names are hashed
+    // only when that fails.
+    size_t next = 0;
+    const auto fileNamed = [&pass, &next](std::string_view name) -> std::optional<size_t> {
+        if (next < pass.files.size() && pass.files[next].name == name && !pass.IsIndex(next))
+            return next;
+        if (pass.byName.empty()) {
+            pass.byName.reserve(pass.files.size());
+            for (size_t i = 0; i < pass.files.size(); ++i) {
+                if (!pass.IsIndex(i))
+                    pass.byName.emplace(pass.files[i].name, i);
+            }
+        }
+        const auto found = pass.byName.find(name);
+        return found == pass.byName.end() ? std::nullopt : std::optional<size_t>(found->second);
+    };
     // Only whole records count; a partial one at the end stays as it is.
     records.ForEach([&](uint64_t offset, const char* bytes) {
         const std::string_view name = DocRecord::NameView(bytes);
-        const auto found = pass.byName.find(name);
-        if (found == pass.byName.end() || pass.consumed[found->second]) {
+        const std::optional<size_t> found = fileNamed(name);
+        if (!found || pass.consumed[*found]) {
             pass.rewriteNeeded = true;  // vanished, no longer matching, or a duplicate
             return;
         }
-        const size_t file = found->second;
+        const size_t file = *found;
+        next = file + 1;
         const fsutil::DirItem& item = pass.files[file];
         pass.consumed[file] = true;
         if (pass.isPrivate[file])

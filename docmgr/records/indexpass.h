@@ -56,8 +56,8 @@ struct DocRowList::DirPass {
     // Files that some reader of the folder may not read: they never get a record, which
     // would tell those readers what the file does not.
     std::vector<bool> isPrivate;
-    // Listed name (in `files`) -> position, the index left out; made only when there are
-    // records to match.
+    // Listed name (in `files`) -> position, the index left out; made only when a record
+    // is not where the listing order puts it.
     std::unordered_map<std::string_view, size_t> byName;
     // The directory's rows so far, as places in the row store (non-documents too, which
     // the index keeps); NO_ROW holds the place of a changed document until it is read.

@@ -46,6 +46,7 @@ TEST(ListAhead, ListingsAreThoseOfTheFolderAndAFolderNotBegunIsLeftToTheAsker)
             continue;
         }
         EXPECT_EQ(Names(listing->files), std::vector<std::string>{folder + "1.odt"}) << folder;
+        EXPECT_EQ(Names(listing->subdirs), std::vector<std::string>{"sub"}) << "whatever the pattern";
         EXPECT_EQ(listing->status.entries, 3u) << "every entry counts, whatever its name or kind";
         EXPECT_EQ(listing->status.error, 0);
         EXPECT_GE(listing->startedNs, before);
