@@ -50,7 +50,20 @@ std::optional<ListAhead::Listing> ListAhead::Take(const std::string& dir)
         waiting_.erase(queued);  // not begun: quicker done here than waited for
         return std::nullopt;
     }
-    changed_.wait(lock, [&] { return busy_ != dir; });
+    // While the thread lists this folder, the asker lists the next one rather than wait:
+    // the stats are shared out between both cores.
+    while (busy_ == dir) {
+        if (waiting_.empty() || done_.size() >= MAX_DONE) {
+            changed_.wait(lock);
+            continue;
+        }
+        const std::string next = waiting_.front();
+        waiting_.pop_front();
+        lock.unlock();
+        Listing listing = ListNow(next, pattern_);
+        lock.lock();
+        done_[next] = std::move(listing);
+    }
     const auto found = done_.find(dir);
     if (found == done_.end())
         return std::nullopt;
@@ -58,6 +71,14 @@ std::optional<ListAhead::Listing> ListAhead::Take(const std::string& dir)
     done_.erase(found);
     lock.unlock();
     changed_.notify_all();  // room for the next
+    return listing;
+}
+
+ListAhead::Listing ListAhead::ListNow(const std::string& dir, const std::string& pattern)
+{
+    Listing listing;
+    listing.startedNs = FileClockNowNs();
+    listing.files = fsutil::List(dir, pattern, fsutil::Kind::Files, &listing.status, &listing.subdirs);
     return listing;
 }
 
@@ -72,9 +93,7 @@ void ListAhead::Run()
         busy_ = dir;
         waiting_.pop_front();
         lock.unlock();
-        Listing listing;
-        listing.startedNs = FileClockNowNs();
-        listing.files = fsutil::List(dir, pattern_, fsutil::Kind::Files, &listing.status, &listing.subdirs);
+        Listing listing = ListNow(dir, pattern_);
         lock.lock();
         done_[dir] = std::move(listing);
         busy_.clear();

@@ -34,8 +34,8 @@ public:
 
     // `dirs` are read next, in this order, before anything asked for earlier.
     void Want(const std::vector<std::string>& dirs);
-    // The listing of `dir` when it was made or is being made (waits for it then); none
-    // when it was not begun, and the caller lists the folder itself.
+    // The listing of `dir` when it was made or is being made (lists the next folder
+    // meanwhile, or waits); none when it was not begun, and the caller lists it itself.
     std::optional<Listing> Take(const std::string& dir);
 
     // The clock file times are stamped from: a file changed after this moment carries a
@@ -43,6 +43,7 @@ public:
     static int64_t FileClockNowNs();
 
 private:
+    static Listing ListNow(const std::string& dir, const std::string& pattern);
     void Run();
 
     const std::string pattern_;
