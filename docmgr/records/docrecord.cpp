@@ -17,10 +17,10 @@ bool IsContinuationByte(char c)
 // Bytes 1..31 of a comment (line breaks, tabs...) would break the one-line views.
 void BlankControlBytes(char* field, size_t width)
 {
+    // Every byte is written back, so that the loop runs many bytes a step.
     for (size_t i = 0; i < width; ++i) {
         const auto c = static_cast<unsigned char>(field[i]);
-        if (c >= 1 && c <= 31)
-            field[i] = BLANK;
+        field[i] = c >= 1 && c <= 31 ? BLANK : field[i];
     }
 }
 
