@@ -1,7 +1,8 @@
 // How long the window takes to show a folder of documents from a warm index: from the
 // dialog's first run (reading the settings, collecting, building the columns) until the
 // list has been painted once; and how long closing it takes, from the close until the
-// dialog and its rows are gone. Runs offscreen.
+// dialog and its rows are gone. Runs offscreen unless QT_QPA_PLATFORM says otherwise
+// (QT_QPA_PLATFORM=xcb under xvfb-run, say).
 //
 //   bench_window CONFIG DIR     prints "window: N rows shown in M ms, closed in K ms"
 #include <QApplication>
@@ -33,7 +34,8 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "usage: bench_window CONFIG DIR\n");
         return 2;
     }
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     DocManagerDll module;
     Config config(argv[1]);
