@@ -19,18 +19,17 @@ namespace {
 // The selected rows' information as the list shows it, in list order.
 std::vector<DocInfo> SelectedInfos(DocBrowser& browser)
 {
-    std::unordered_map<std::string, const DocInfo*> byPath;
-    for (const auto& row : browser.GetRowList().Rows())
-        byPath.emplace(row->entry, row.get());
     std::vector<DocInfo> docs;
+    std::unordered_map<std::string, size_t> byPath;
     for (const std::string* doc = browser.GetFirstDoc(); doc; doc = browser.GetNextDoc()) {
-        if (const auto found = byPath.find(*doc); found != byPath.end()) {
-            docs.push_back(*found->second);
-        } else {
-            docs.emplace_back();
-            docs.back().entry = *doc;
-        }
+        byPath.emplace(*doc, docs.size());
+        docs.emplace_back();
+        docs.back().entry = *doc;
     }
+    // One walk over the rows: each is made only for as long as it is looked at.
+    for (const DocInfo* row : browser.GetRowList().Rows())
+        if (const auto found = byPath.find(row->entry); found != byPath.end())
+            docs[found->second] = *row;
     return docs;
 }
 

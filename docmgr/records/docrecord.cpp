@@ -17,10 +17,10 @@ bool IsContinuationByte(char c)
 // Bytes 1..31 of a comment (line breaks, tabs...) would break the one-line views.
 void BlankControlBytes(char* field, size_t width)
 {
+    // Every byte is written back, so that the loop runs many bytes a step.
     for (size_t i = 0; i < width; ++i) {
         const auto c = static_cast<unsigned char>(field[i]);
-        if (c >= 1 && c <= 31)
-            field[i] = BLANK;
+        field[i] = c >= 1 && c <= 31 ? BLANK : field[i];
     }
 }
 
@@ -81,6 +81,31 @@ void DocRecord::FillDocInfo(DocInfo& out) const
         out.info[i] = ReadString(info[i], sizeof info[i]);
 }
 
+RowStore::Fields DocRecord::Fields(std::string_view rowName) const
+{
+    RowStore::Fields out;
+    const std::string_view texts[RowStore::TEXT_COUNT] = {rowName,
+                                                          StringView(title, sizeof title),
+                                                          StringView(topic, sizeof topic),
+                                                          StringView(author, sizeof author),
+                                                          StringView(modifiedBy, sizeof modifiedBy),
+                                                          StringView(printedBy, sizeof printedBy),
+                                                          StringView(comment, sizeof comment),
+                                                          StringView(keywords, sizeof keywords),
+                                                          StringView(info[0], sizeof info[0]),
+                                                          StringView(info[1], sizeof info[1]),
+                                                          StringView(info[2], sizeof info[2]),
+                                                          StringView(info[3], sizeof info[3])};
+    std::copy(std::begin(texts), std::end(texts), out.texts);
+    const DocDate* dates[3] = {&createdDate, &modifiedDate, &printedDate};
+    const DocTime* times[3] = {&createdTime, &modifiedTime, &printedTime};
+    for (int i = 0; i < 3; ++i) {
+        out.dates[i] = ReadDate(*dates[i]).GetDate();
+        out.times[i] = ReadTime(*times[i]).GetTime();
+    }
+    return out;
+}
+
 void DocRecord::WriteString(char* field, unsigned long width, const std::string& s)
 {
     uint16_t count = static_cast<uint16_t>(std::min<unsigned long>(s.size(), width));
@@ -118,10 +143,22 @@ void DocRecord::WriteTime(DocTime& out, const Time& time)
 
 std::string DocRecord::ReadString(const char* field, unsigned short width)
 {
+    return std::string(StringView(field, width));
+}
+
+std::string_view DocRecord::StringView(const char* field, size_t width)
+{
     size_t length = width;
+    // Most fields are mostly padding: it goes eight bytes at a time.
+    constexpr uint64_t BLANKS = 0x2020202020202020u;
+    for (uint64_t word = 0; length >= sizeof word; length -= sizeof word) {
+        std::memcpy(&word, field + length - sizeof word, sizeof word);
+        if (word != BLANKS)
+            break;
+    }
     while (length > 0 && field[length - 1] == BLANK)
         --length;
-    return std::string(field, length);
+    return {field, length};
 }
 
 Date DocRecord::ReadDate(const DocDate& date) const

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "docmgr/records/docinfo.h"
+#include "docmgr/records/rowstore.h"
 
 // Day, month, year - 1900 (modulo 256).
 struct DocDate {
@@ -34,6 +35,9 @@ struct DocRecord {
 
     // Fields 3..19 of `info` from this record (entry and size are the reader's).
     void FillDocInfo(DocInfo& info) const;
+    // The same as views into this record, with `name` as the row's name (folder and size
+    // are the reader's).
+    RowStore::Fields Fields(std::string_view name) const;
 
     // Copies up to `width` bytes of s (never cutting a UTF-8 sequence) and pads with blanks.
     static void WriteString(char* field, unsigned long width, const std::string& s);
@@ -41,8 +45,10 @@ struct DocRecord {
     static void WriteTime(DocTime& out, const Time& time);
     // The field's bytes with trailing blanks removed.
     static std::string ReadString(const char* field, unsigned short width);
+    static std::string_view StringView(const char* field, size_t width);
     // The name field of the record whose 728 bytes start at `in`.
     static std::string ReadName(const char* in) { return ReadString(in, NAME_LEN); }
+    static std::string_view NameView(const char* in) { return StringView(in, NAME_LEN); }
     Date ReadDate(const DocDate& date) const;
     Time ReadTime(const DocTime& time) const;
 

@@ -46,7 +46,11 @@ void DocRowList::ApplyFilter()
 {
     if (!config_)
         return;
-    std::erase_if(rows_, [this](const std::unique_ptr<DocInfo>& row) { return !Matches(*row, *config_); });
+    DocInfo row;  // one DocInfo for every test
+    std::erase_if(rows_, [this, &row](RowStore::Id id) {
+        store_.Fill(id, row);
+        return !Matches(row, *config_);
+    });
 }
 
 void DocRowList::KeepRows(const std::vector<size_t>& positions)
@@ -67,15 +71,17 @@ void DocRowList::SortFiles()
     const DocGroupConfig& group = config_->WorkingGroup();
     if (group.sortColumnId == NO_COLUMN)
         return;
-    SortRows(rows_, group.sortColumnId, group.sortAscending);
+    SortRows(store_, rows_, group.sortColumnId, group.sortAscending);
 }
 
 std::vector<long> DocRowList::RowRemoved(const std::string& path)
 {
     const std::string full = fsutil::Absolute(path);
+    const std::string_view folder = FolderPart(full);
+    const std::string_view name = std::string_view(full).substr(folder.size());
     std::vector<long> removed;
     for (size_t row = rows_.size(); row-- > 0;) {
-        if (rows_[row]->entry == full) {
+        if (store_.TextOf(rows_[row], RowStore::NAME) == name && store_.FolderOf(rows_[row]) == folder) {
             rows_.erase(rows_.begin() + long(row));
             removed.push_back(long(row));
         }
@@ -83,15 +89,24 @@ std::vector<long> DocRowList::RowRemoved(const std::string& path)
     return removed;
 }
 
+DocInfo DocRowList::Row(long row) const
+{
+    DocInfo info;
+    store_.Fill(rows_[size_t(row)], info);
+    return info;
+}
+
+// The old row stays in the store, unseen, until the next collection empties it.
 void DocRowList::ReplaceRow(long row, std::unique_ptr<DocInfo> info)
 {
     if (row >= 0 && row < GetRowCount() && info)
-        rows_[size_t(row)] = std::move(info);
+        rows_[size_t(row)] = store_.Add(*info);
 }
 
 void DocRowList::Clear()
 {
-    rows_.clear();
+    std::vector<RowStore::Id>().swap(rows_);
+    store_.Clear();
     currentRow_ = -1;
 }
 
@@ -114,6 +129,6 @@ const std::string* DocRowList::WalkTo(long row)
         return nullptr;
     }
     currentRow_ = row;
-    currentDoc_ = fsutil::Absolute(Row(row).entry);
+    currentDoc_ = fsutil::Absolute(store_.EntryOf(rows_[size_t(row)]));
     return &currentDoc_;
 }

@@ -7,7 +7,9 @@
 #include <vector>
 
 #include "docmgr/records/docinfo.h"
+#include "docmgr/records/docrows.h"
 #include "docmgr/records/docsource.h"
+#include "docmgr/records/rowstore.h"
 #include "docmgr/tools/replacefile.h"
 
 class ImplDocConfig;
@@ -48,8 +50,14 @@ public:
 
     bool NeedsCollect() const { return needsCollect_; }
     long GetRowCount() const { return long(rows_.size()); }
-    const DocInfo& Row(long row) const { return *rows_[size_t(row)]; }
-    const std::vector<std::unique_ptr<DocInfo>>& Rows() const { return rows_; }
+    // A copy of the row's information.
+    DocInfo Row(long row) const;
+    // The rows in order, made into DocInfos one at a time.
+    DocRows Rows() const { return DocRows(store_, rows_); }
+    // The packed rows and, by row, where each lies in them (the same place as long as the
+    // row's document is not replaced).
+    const RowStore& Store() const { return store_; }
+    RowStore::Id StoreId(long row) const { return rows_[size_t(row)]; }
     // Replaces the DocInfo of `row` (after its document was edited).
     void ReplaceRow(long row, std::unique_ptr<DocInfo> info);
     void Clear();
@@ -62,8 +70,10 @@ private:
     struct DirVisit;
     struct DirPass;
     void ReadDir(const std::string& dir, bool withSubdirs, DirVisit& visit);
-    void ReadOneDir(const std::string& absDir);
-    void ReadSubdirs(const std::string& absDir, DirVisit& visit);
+    // `subdirs`, when given, gets the folder's subfolders, from the same listing.
+    void ReadOneDir(const std::string& absDir, DirVisit& visit, std::vector<fsutil::DirItem>* subdirs);
+    std::string FilePattern() const;
+    void ReadSubdirs(const std::string& absDir, const std::vector<fsutil::DirItem>& subdirs, DirVisit& visit);
     enum class IndexOpening { Opened, Missing, Unstable, Failed };
     IndexOpening OpenIndex(DirPass& pass);
     void ReadIndex(DirPass& pass);
@@ -75,14 +85,15 @@ private:
     void WriteUpdates(DirPass& pass);
     void ReplaceIndex(DirPass& pass, const replacefile::Fill& fill);
     void ProbeAll(DirPass& pass);
-    std::unique_ptr<DocInfo> Probe(const DirPass& pass, size_t file);
+    RowStore::Id Probe(const DirPass& pass, size_t file);
     const std::string* WalkTo(long row);
 
     DocSource& source_;
     CollectObserver& observer_;
     const ImplDocConfig* config_ = nullptr;
     std::string dirFileName_ = ".docindex";
-    std::vector<std::unique_ptr<DocInfo>> rows_;
+    RowStore store_;
+    std::vector<RowStore::Id> rows_;  // in list order
     bool needsCollect_ = true;
     std::string currentDoc_;
     long currentRow_ = -1;

@@ -24,27 +24,41 @@ int CompareText(std::string_view a, std::string_view b)
     return Sign(a.compare(b) <=> 0);
 }
 
-std::string_view NameOf(const std::string& entry)
-{
-    const size_t slash = entry.rfind('/');
-    return slash == std::string::npos ? std::string_view(entry) : std::string_view(entry).substr(slash + 1);
-}
-
 // The key of one row for the running sort: a number or a view of the row's own text
-// (the DocInfos are not moved while the sort runs, so the views stay valid).
+// (the store does not move while the sort runs, so the views stay valid).
 struct SortKey {
     int64_t number = 0;
     std::string_view text;
-    size_t row = 0;
+    RowStore::Id row = 0;
 };
 
-int64_t NumberKey(const DocInfo& info, uint16_t columnId)
+// Which of the stamps (created, modified, printed) a date or time column shows.
+int StampOf(uint16_t columnId)
+{
+    return columnId <= COL_CREATED_TIME ? 0 : columnId <= COL_MODIFIED_TIME ? 1 : 2;
+}
+
+int64_t NumberKey(const RowStore& store, RowStore::Id row, uint16_t columnId)
 {
     switch (KindOfColumn(columnId)) {
-    case FieldKind::Size: return info.size;
-    case FieldKind::Date: return DateField(info, columnId).GetDate();
-    case FieldKind::Time: return TimeField(info, columnId).GetTime();
+    case FieldKind::Size: return store.SizeOf(row);
+    case FieldKind::Date: return store.DateOf(row, StampOf(columnId));
+    case FieldKind::Time: return store.TimeOf(row, StampOf(columnId));
     default: return 0;
+    }
+}
+
+RowStore::Text StoredText(uint16_t columnId)
+{
+    switch (columnId) {
+    case COL_TITLE: return RowStore::TITLE;
+    case COL_TOPIC: return RowStore::TOPIC;
+    case COL_AUTHOR: return RowStore::AUTHOR;
+    case COL_MODIFIED_BY: return RowStore::MODIFIED_BY;
+    case COL_PRINTED_BY: return RowStore::PRINTED_BY;
+    case COL_COMMENT: return RowStore::COMMENT;
+    case COL_KEYWORDS: return RowStore::KEYWORDS;
+    default: return RowStore::Text(RowStore::INFO0 + (columnId - COL_INFO0) % 4);
     }
 }
 
@@ -52,21 +66,23 @@ int64_t NumberKey(const DocInfo& info, uint16_t columnId)
 // for every row, so views into it stay valid. Entries of the list are absolute, so the
 // directory is the text before the last delimiter; that orders like the full directory
 // path ("/" for the root sorts first either way).
-std::string_view TextKey(const DocInfo& info, uint16_t columnId, std::vector<std::string>& owned)
+std::string_view TextKey(const RowStore& store, RowStore::Id row, uint16_t columnId, std::vector<std::string>& owned)
 {
     switch (KindOfColumn(columnId)) {
-    case FieldKind::Name: return NameOf(info.entry);
-    case FieldKind::Directory:
-        if (!info.entry.empty() && info.entry.front() == '/')
-            return std::string_view(info.entry).substr(0, info.entry.rfind('/'));
-        return owned.emplace_back(fsutil::DirName(info.entry));
-    default: return TextField(info, columnId);
+    case FieldKind::Name: return store.TextOf(row, RowStore::NAME);
+    case FieldKind::Directory: {
+        const std::string_view folder = store.FolderOf(row);
+        if (!folder.empty() && folder.front() == '/')
+            return folder.substr(0, folder.size() - 1);
+        return owned.emplace_back(fsutil::DirName(store.EntryOf(row)));
+    }
+    default: return store.TextOf(row, StoredText(columnId));
     }
 }
 
 }  // namespace
 
-void SortRows(std::vector<std::unique_ptr<DocInfo>>& rows, uint16_t columnId, bool ascending)
+void SortRows(const RowStore& store, std::vector<RowStore::Id>& rows, uint16_t columnId, bool ascending)
 {
     sortAscending = ascending;
     const FieldKind kind = KindOfColumn(columnId);
@@ -78,11 +94,11 @@ void SortRows(std::vector<std::unique_ptr<DocInfo>>& rows, uint16_t columnId, bo
     owned.reserve(kind == FieldKind::Directory ? rows.size() : 0);
     std::vector<SortKey> keys(rows.size());
     for (size_t i = 0; i < rows.size(); ++i) {
-        keys[i].row = i;
+        keys[i].row = rows[i];
         if (text)
-            keys[i].text = TextKey(*rows[i], columnId, owned);
+            keys[i].text = TextKey(store, rows[i], columnId, owned);
         else
-            keys[i].number = NumberKey(*rows[i], columnId);
+            keys[i].number = NumberKey(store, rows[i], columnId);
     }
     // Unstable on purpose: rows with equal keys keep no defined order. Text compares
     // byte-wise, as unsigned bytes, over the whole length.
@@ -91,9 +107,6 @@ void SortRows(std::vector<std::unique_ptr<DocInfo>>& rows, uint16_t columnId, bo
         return sortAscending ? c < 0 : c > 0;
     };
     std::sort(keys.begin(), keys.end(), less);
-    std::vector<std::unique_ptr<DocInfo>> sorted;
-    sorted.reserve(rows.size());
-    for (const SortKey& key : keys)
-        sorted.push_back(std::move(rows[key.row]));
-    rows = std::move(sorted);
+    for (size_t i = 0; i < keys.size(); ++i)
+        rows[i] = keys[i].row;
 }

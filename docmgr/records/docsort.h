@@ -2,10 +2,10 @@
 // Ordering of rows by one column; the column and direction are process-wide while a
 // sort runs, as the comparison sees only the two rows.
 #include <cstdint>
-#include <memory>
 #include <vector>
 
-#include "docmgr/records/docinfo.h"
+#include "docmgr/records/rowstore.h"
 
-// Sorts with an unstable sort; equal keys end up in no defined order.
-void SortRows(std::vector<std::unique_ptr<DocInfo>>& rows, uint16_t columnId, bool ascending);
+// Sorts the rows (places in `store`) with an unstable sort; equal keys end up in no
+// defined order.
+void SortRows(const RowStore& store, std::vector<RowStore::Id>& rows, uint16_t columnId, bool ascending);

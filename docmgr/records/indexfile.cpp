@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
-#include <ctime>
+#include <optional>
 #include <string_view>
 #include <unordered_map>
 #include <utility>
@@ -34,6 +34,9 @@ uint32_t ReadLE32(const char* p)
     return uint32_t(u[0]) | uint32_t(u[1]) << 8 | uint32_t(u[2]) << 16 | uint32_t(u[3]) << 24;
 }
 
+// A large directory read from its index reports this often.
+constexpr size_t PROGRESS_ROWS = 4096;
+
 // Room for records beyond one per directory entry: files made while a listing ran, and
 // the cut-name records of long names.
 constexpr uint64_t SPARE_RECORDS = 64;
@@ -42,24 +45,23 @@ constexpr uint64_t SPARE_RECORDS = 64;
 // kernel's SMB client keep them for about a second).
 constexpr int64_t CACHED_TIMES_NS = 2000000000;
 
-// The clock file times are stamped from: a file changed after this moment carries a time
-// no earlier than it.
-int64_t FileClockNowNs()
-{
-    struct timespec now {};
-    clock_gettime(CLOCK_REALTIME_COARSE, &now);
-    return int64_t(now.tv_sec) * 1000000000 + now.tv_nsec;
-}
-
 }  // namespace
 
 void DocRowList::ReadWriteDocInfos(const std::string& dir, bool withSubdirs)
 {
     DirVisit visit;
+    if (withSubdirs)
+        visit.ahead = std::make_unique<ListAhead>(FilePattern());
     ReadDir(dir, withSubdirs, visit);
 }
 
-std::unique_ptr<DocInfo> DocRowList::Probe(const DirPass& pass, size_t file)
+std::string DocRowList::FilePattern() const
+{
+    const std::string filterFiles = config_ ? config_->WorkingGroup().filterFiles : std::string();
+    return filterFiles.empty() ? std::string(1, '*') : filterFiles;
+}
+
+RowStore::Id DocRowList::Probe(const DirPass& pass, size_t file)
 {
     const fsutil::DirItem& item = pass.files[file];
     const std::string path = fsutil::Join(pass.dir, item.name);
@@ -74,7 +76,7 @@ std::unique_ptr<DocInfo> DocRowList::Probe(const DirPass& pass, size_t file)
         info->size = NO_DOC_INFO;
     }
     info->entry = path;
-    return info;
+    return store_.Add(*info);
 }
 
 void DocRowList::ProbeAll(DirPass& pass)
@@ -108,35 +110,50 @@ void DocRowList::ReadRecords(DirPass& pass, IndexBlocks& records)
 
 void DocRowList::MatchRecords(DirPass& pass, IndexBlocks& records)
 {
-    pass.byName.reserve(pass.files.size());
-    for (size_t i = 0; i < pass.files.size(); ++i) {
-        if (!pass.IsIndex(i))
-            pass.byName.emplace(pass.files[i].name, i);
-    }
+    // An index written by a listing holds its records in the order the folder lists its
+    // files: the file after the last one matched is tried first, and the names are hashed
+    // only when that fails.
+    size_t next = 0;
+    const auto fileNamed = [&pass, &next](std::string_view name) -> std::optional<size_t> {
+        if (next < pass.files.size() && pass.files[next].name == name && !pass.IsIndex(next))
+            return next;
+        if (pass.byName.empty()) {
+            pass.byName.reserve(pass.files.size());
+            for (size_t i = 0; i < pass.files.size(); ++i) {
+                if (!pass.IsIndex(i))
+                    pass.byName.emplace(pass.files[i].name, i);
+            }
+        }
+        const auto found = pass.byName.find(name);
+        return found == pass.byName.end() ? std::nullopt : std::optional<size_t>(found->second);
+    };
     // Only whole records count; a partial one at the end stays as it is.
     records.ForEach([&](uint64_t offset, const char* bytes) {
-        const std::string name = DocRecord::ReadName(bytes);
-        const auto found = pass.byName.find(name);
-        if (found == pass.byName.end() || pass.consumed[found->second]) {
+        const std::string_view name = DocRecord::NameView(bytes);
+        const std::optional<size_t> found = fileNamed(name);
+        if (!found || pass.consumed[*found]) {
             pass.rewriteNeeded = true;  // vanished, no longer matching, or a duplicate
             return;
         }
-        const size_t file = found->second;
+        const size_t file = *found;
+        next = file + 1;
         const fsutil::DirItem& item = pass.files[file];
         pass.consumed[file] = true;
         if (pass.isPrivate[file])
             pass.rewriteNeeded = true;  // its record must go
         if (pass.isPrivate[file] || !pass.IsCurrent(item)) {
             pass.changed.push_back({pass.working.size(), offset, file});
-            pass.working.emplace_back();
+            pass.working.push_back(DirPass::NO_ROW);
             return;
         }
+        // The row goes straight from the record into the store, without a DocInfo.
         const DocRecord record = DocRecord::FromBytes(bytes);
-        auto info = std::make_unique<DocInfo>();
-        info->entry = fsutil::Join(pass.dir, name);
-        info->size = record.hasInfo != 0 ? FileSize32(item.size) : NO_DOC_INFO;
-        record.FillDocInfo(*info);
-        pass.working.push_back(std::move(info));
+        RowStore::Fields fields = record.Fields(item.name);
+        fields.folder = pass.folder;
+        fields.size = record.hasInfo != 0 ? FileSize32(item.size) : NO_DOC_INFO;
+        pass.working.push_back(store_.Add(fields));
+        if (pass.working.size() % PROGRESS_ROWS == 0)
+            observer_.CollectProgress(dirsRead_, rows_.size() + pass.working.size());
     });
 }
 
@@ -170,12 +187,13 @@ void DocRowList::ReadChanged(DirPass& pass)
         }
         info->entry = reads[k];
         info->size = FileSize32(pass.files[doc.file].size);
+        const RowStore::Id row = store_.Add(*info);
         if (pass.InPlaceUpdates())
-            pass.overwrites.emplace_back(doc.offset, info.get());
-        pass.working[doc.row] = std::move(info);
+            pass.overwrites.emplace_back(doc.offset, row);
+        pass.working[doc.row] = row;
     }
     if (!pass.changed.empty())
-        std::erase(pass.working, nullptr);
+        std::erase(pass.working, DirPass::NO_ROW);
 }
 
 void DocRowList::ProbeNew(DirPass& pass)
@@ -183,11 +201,11 @@ void DocRowList::ProbeNew(DirPass& pass)
     for (size_t i = 0; i < pass.files.size(); ++i) {
         if (pass.consumed[i] || pass.IsIndex(i))
             continue;
-        std::unique_ptr<DocInfo> info = Probe(pass, i);
+        const RowStore::Id row = Probe(pass, i);
         // Non-documents reach the index only through a full rewrite.
-        if (info->HasInfo() && !pass.isPrivate[i] && pass.InPlaceUpdates())
-            pass.appends.push_back(info.get());
-        pass.working.push_back(std::move(info));
+        if (store_.SizeOf(row) != NO_DOC_INFO && !pass.isPrivate[i] && pass.InPlaceUpdates())
+            pass.appends.push_back(row);
+        pass.working.push_back(row);
     }
 }
 
@@ -281,25 +299,31 @@ void DocRowList::ReadDir(const std::string& dir, bool withSubdirs, DirVisit& vis
 {
     const std::string absDir = fsutil::Absolute(dir);
     fsutil::CurrentDirGuard cwd(absDir);
-    ReadOneDir(absDir);
+    std::vector<fsutil::DirItem> subdirs;
+    ReadOneDir(absDir, visit, withSubdirs ? &subdirs : nullptr);
     observer_.CollectProgress(++dirsRead_, rows_.size());
     if (withSubdirs)
-        ReadSubdirs(absDir, visit);
+        ReadSubdirs(absDir, subdirs, visit);
 }
 
-void DocRowList::ReadOneDir(const std::string& absDir)
+void DocRowList::ReadOneDir(const std::string& absDir, DirVisit& visit, std::vector<fsutil::DirItem>* subdirs)
 {
     DirPass pass(absDir);
-    const std::string filterFiles = config_ ? config_->WorkingGroup().filterFiles : std::string();
-    const std::string pattern = filterFiles.empty() ? std::string(1, '*') : filterFiles;
-
-    pass.listedAtNs = FileClockNowNs();
+    fsutil::ListStatus listed;
+    if (std::optional<ListAhead::Listing> ahead = visit.ahead ? visit.ahead->Take(absDir) : std::nullopt) {
+        pass.listedAtNs = ahead->startedNs;
+        pass.files = std::move(ahead->files);
+        listed = ahead->status;
+        if (subdirs)
+            *subdirs = std::move(ahead->subdirs);
+    } else {
+        pass.listedAtNs = ListAhead::FileClockNowNs();
+        pass.files = fsutil::List(pass.dir, FilePattern(), fsutil::Kind::Files, &listed, subdirs);
+    }
     // A client that keeps file times for a while may show a document changed just before
     // the listing with its old time: the index is dated that much earlier.
     if (fsutil::CachesFileTimes(pass.dir))
         pass.listedAtNs -= CACHED_TIMES_NS;
-    fsutil::ListStatus listed;
-    pass.files = fsutil::List(pass.dir, pattern, fsutil::Kind::Files, &listed);
     pass.dirEntries = listed.entries;
     if (listed.error != 0)
         observer_.DirectoryUnreadable(pass.dir, listed.error);
@@ -325,31 +349,36 @@ void DocRowList::ReadOneDir(const std::string& absDir)
     pass.stream.Close();
 
     // Non-documents stay in the index but never become rows.
-    for (auto& info : pass.working) {
-        if (info->HasInfo())
-            rows_.push_back(std::move(info));
+    for (const RowStore::Id row : pass.working) {
+        if (store_.SizeOf(row) != NO_DOC_INFO)
+            rows_.push_back(row);
     }
 }
 
-void DocRowList::ReadSubdirs(const std::string& dir, DirVisit& visit)
+void DocRowList::ReadSubdirs(const std::string& dir, const std::vector<fsutil::DirItem>& found, DirVisit& visit)
 {
     uint64_t dev = 0, ino = 0;
     if (!fsutil::Identity(dir, dev, ino))
         return;
     visit.path.emplace_back(dev, ino);
     const bool exceptions = config_ && !config_->GetExceptionPaths().empty();
-    for (const fsutil::DirItem& item : fsutil::List(dir, "*", fsutil::Kind::Dirs)) {
+    std::vector<std::string> subdirs;
+    for (const fsutil::DirItem& item : found) {
         // A link may lead anywhere, to the root or round to a parent: the listing keeps
         // to the real folders of the tree it was given.
         if (item.name == "." || item.name == ".." || item.isLink)
             continue;
-        const std::string subdir = fsutil::Join(dir, item.name);
+        std::string subdir = fsutil::Join(dir, item.name);
         if (exceptions && config_->IsExceptionPath(subdir))
             continue;
         uint64_t subDev = 0, subIno = 0;
         if (!fsutil::Identity(subdir, subDev, subIno) || visit.Contains(subDev, subIno))
             continue;
-        ReadDir(subdir, true, visit);
+        subdirs.push_back(std::move(subdir));
     }
+    if (visit.ahead)
+        visit.ahead->Want(subdirs);
+    for (const std::string& subdir : subdirs)
+        ReadDir(subdir, true, visit);
     visit.path.pop_back();
 }

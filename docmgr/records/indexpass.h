@@ -10,9 +10,11 @@
 #include <vector>
 
 #include "docmgr/records/docrowlist.h"
+#include "docmgr/records/rowstore.h"
 #include "docmgr/tools/filestream.h"
 #include "docmgr/tools/folderaudience.h"
 #include "docmgr/tools/fsutil.h"
+#include "docmgr/tools/listahead.h"
 #include "docmgr/tools/replacefile.h"
 
 // The header: "KIDX" and NUL, the version (16 bits), the character set (32 bits).
@@ -27,6 +29,8 @@ inline constexpr size_t HEADER_SIZE = 11;
 // to one of them is not followed.
 struct DocRowList::DirVisit {
     std::vector<std::pair<uint64_t, uint64_t>> path;
+    // Lists the subfolders ahead of their reading; only in a recursive listing.
+    std::unique_ptr<ListAhead> ahead;
 
     bool Contains(uint64_t dev, uint64_t ino) const
     {
@@ -36,9 +40,12 @@ struct DocRowList::DirVisit {
 
 // The state of one directory's read-update-write.
 struct DocRowList::DirPass {
-    explicit DirPass(const std::string& absDir) : dir(absDir), audience(absDir) {}
+    explicit DirPass(const std::string& absDir)
+        : dir(absDir), folder(FolderPart(fsutil::Join(absDir, "-"))), audience(absDir)
+    {}
 
-    std::string dir;  // absolute
+    std::string dir;     // absolute
+    std::string folder;  // what the paths of its files start with (with the delimiter)
     FolderAudience audience;
     std::string indexName;
     std::string indexPath;
@@ -49,10 +56,13 @@ struct DocRowList::DirPass {
     // Files that some reader of the folder may not read: they never get a record, which
     // would tell those readers what the file does not.
     std::vector<bool> isPrivate;
-    // Listed name (in `files`) -> position, the index left out; made only when there are
-    // records to match.
+    // Listed name (in `files`) -> position, the index left out; made only when a record
+    // is not where the listing order puts it.
     std::unordered_map<std::string_view, size_t> byName;
-    std::vector<std::unique_ptr<DocInfo>> working;
+    // The directory's rows so far, as places in the row store (non-documents too, which
+    // the index keeps); NO_ROW holds the place of a changed document until it is read.
+    std::vector<RowStore::Id> working;
+    static constexpr RowStore::Id NO_ROW = RowStore::Id(-1);
     KxFileStream stream;
     bool rewriteNeeded = false;
     bool reprobeAll = false;
@@ -64,9 +74,9 @@ struct DocRowList::DirPass {
     int64_t indexMtimeNs = 0;
     // Records to write over (at their offsets) and to append. They reach the disk as a
     // whole new index, so that no crash can leave a record dated as current that does not
-    // describe its document. The DocInfos are those of `working`.
-    std::vector<std::pair<uint64_t, const DocInfo*>> overwrites;
-    std::vector<const DocInfo*> appends;
+    // describe its document. The rows are those of `working`.
+    std::vector<std::pair<uint64_t, RowStore::Id>> overwrites;
+    std::vector<RowStore::Id> appends;
     // Documents whose records are out of date, to be read after the walk over the index.
     struct Changed {
         size_t row;       // its place in `working`

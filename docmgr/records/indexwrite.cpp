@@ -70,20 +70,21 @@ void DocRowList::RewriteIndex(DirPass& pass)
         std::unordered_map<std::string_view, bool> byName;
         for (size_t i = 0; i < pass.files.size(); ++i)
             byName.emplace(pass.files[i].name, pass.isPrivate[i]);
-        for (const auto& info : pass.working) {
-            const auto found = byName.find(fsutil::FileName(info->entry));
+        for (const RowStore::Id row : pass.working) {
+            const auto found = byName.find(store_.TextOf(row, RowStore::NAME));
             privateEntry.push_back(found != byName.end() && found->second);
         }
     }
-    const auto fill = [&pass, &privateEntry](const replacefile::PutPiece& put) {
+    const auto fill = [this, &pass, &privateEntry](const replacefile::PutPiece& put) {
         IndexBuffer out(put);
         out.Append(IndexHeader());
+        DocInfo info;
         for (size_t row = 0; row < pass.working.size(); ++row) {
-            const DocInfo& info = *pass.working[row];
             // A longer name could not be matched with its file again.
-            if (fsutil::FileName(info.entry).size() > DocRecord::NAME_LEN ||
+            if (store_.TextOf(pass.working[row], RowStore::NAME).size() > DocRecord::NAME_LEN ||
                 (!privateEntry.empty() && privateEntry[row]))
                 continue;
+            store_.Fill(pass.working[row], info);
             out.Append(info);
         }
         out.Flush();
@@ -99,8 +100,9 @@ void DocRowList::WriteUpdates(DirPass& pass)
 {
     if (pass.overwrites.empty() && pass.appends.empty())
         return;
-    const auto fill = [&pass](const replacefile::PutPiece& put) {
+    const auto fill = [this, &pass](const replacefile::PutPiece& put) {
         IndexBuffer out(put);
+        DocInfo info;
         uint64_t copied = 0;
         // The old file's bytes, from the file that was read (not whatever its name holds).
         const auto copyUpTo = [&](uint64_t end) {
@@ -114,16 +116,19 @@ void DocRowList::WriteUpdates(DirPass& pass)
             }
             return true;
         };
-        for (const auto& [offset, info] : pass.overwrites) {
+        for (const auto& [offset, row] : pass.overwrites) {
             if (!copyUpTo(offset))
                 return false;
-            out.Append(*info);
+            store_.Fill(row, info);
+            out.Append(info);
             copied = offset + DocRecord::SIZE;
         }
         if (!copyUpTo(pass.indexSize))
             return false;
-        for (const DocInfo* info : pass.appends)
-            out.Append(*info);
+        for (const RowStore::Id row : pass.appends) {
+            store_.Fill(row, info);
+            out.Append(info);
+        }
         out.Flush();
         return true;
     };

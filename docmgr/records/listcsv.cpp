@@ -24,8 +24,7 @@ void AppendCsvRecord(std::string& out, const std::vector<std::string>& fields)
     out += "\r\n";
 }
 
-void ForEachCsvRecord(const std::vector<std::unique_ptr<DocInfo>>& rows, const std::vector<uint16_t>& columns,
-                      const DocGroupConfig& group,
+void ForEachCsvRecord(const DocRows& rows, const std::vector<uint16_t>& columns, const DocGroupConfig& group,
                       const std::function<void(const std::vector<std::string>& fields)>& record)
 {
     std::vector<std::string> fields(columns.size());
@@ -39,8 +38,7 @@ void ForEachCsvRecord(const std::vector<std::unique_ptr<DocInfo>>& rows, const s
     }
 }
 
-std::string FormatCsvList(const std::vector<std::unique_ptr<DocInfo>>& rows, const std::vector<uint16_t>& columns,
-                          const DocGroupConfig& group)
+std::string FormatCsvList(const DocRows& rows, const std::vector<uint16_t>& columns, const DocGroupConfig& group)
 {
     std::string out;
     ForEachCsvRecord(rows, columns, group,

@@ -3,11 +3,10 @@
 // window exports the list and `docmanager --list --format csv` prints it.
 #include <cstdint>
 #include <functional>
-#include <memory>
 #include <string>
 #include <vector>
 
-#include "docmgr/records/docinfo.h"
+#include "docmgr/records/docrows.h"
 
 class DocGroupConfig;
 
@@ -17,10 +16,8 @@ void AppendCsvRecord(std::string& out, const std::vector<std::string>& fields);
 
 // Hands `record` the fields of the header (the columns' titles), then of each row (the
 // texts the list shows), the columns in the order given.
-void ForEachCsvRecord(const std::vector<std::unique_ptr<DocInfo>>& rows, const std::vector<uint16_t>& columns,
-                      const DocGroupConfig& group,
+void ForEachCsvRecord(const DocRows& rows, const std::vector<uint16_t>& columns, const DocGroupConfig& group,
                       const std::function<void(const std::vector<std::string>& fields)>& record);
 
 // The header record and one record per row, as ForEachCsvRecord gives them.
-std::string FormatCsvList(const std::vector<std::unique_ptr<DocInfo>>& rows, const std::vector<uint16_t>& columns,
-                          const DocGroupConfig& group);
+std::string FormatCsvList(const DocRows& rows, const std::vector<uint16_t>& columns, const DocGroupConfig& group);

@@ -36,7 +36,8 @@ bool IsLinkEntry(int dirFd, const dirent& entry)
 
 }  // namespace
 
-std::vector<DirItem> List(const std::string& dir, std::string_view pattern, Kind kind, ListStatus* status)
+std::vector<DirItem> List(const std::string& dir, std::string_view pattern, Kind kind, ListStatus* status,
+                          std::vector<DirItem>* subdirs)
 {
     std::vector<DirItem> items;
     ListStatus seen;
@@ -55,17 +56,32 @@ std::vector<DirItem> List(const std::string& dir, std::string_view pattern, Kind
         if (name == "." || name == "..")
             continue;
         ++seen.entries;
-        if (!matchAll && !patterns.Matches(name))
+        bool wanted = matchAll || patterns.Matches(name);
+        bool wantedDir = subdirs != nullptr;
+        // What the directory tells of an entry's kind spares the stat of every file when
+        // only the folders are wanted (a link is followed, so it is always stated).
+        if (entry->d_type != DT_UNKNOWN && entry->d_type != DT_LNK) {
+            const bool dirType = entry->d_type == DT_DIR;
+            wanted = wanted && (kind == Kind::Dirs) == dirType;
+            wantedDir = wantedDir && dirType;
+        }
+        if (!wanted && !wantedDir)
             continue;
         struct stat st {};
         if (fstatat(dirFd, entry->d_name, &st, 0) != 0)
             continue;  // vanished meanwhile, or a dangling link
         const bool isDir = S_ISDIR(st.st_mode);
-        if (kind == Kind::Dirs ? !isDir : !S_ISREG(st.st_mode))
+        wanted = wanted && (kind == Kind::Dirs ? isDir : S_ISREG(st.st_mode));
+        wantedDir = wantedDir && isDir;
+        if (!wanted && !wantedDir)
             continue;
-        items.push_back({std::string(name), uint64_t(st.st_size), MtimeNs(st), CtimeNs(st), uint32_t(st.st_mode),
-                         uint32_t(st.st_uid), uint32_t(st.st_gid), IsLinkEntry(dirFd, *entry), uint64_t(st.st_dev),
-                         uint64_t(st.st_ino)});
+        DirItem item{std::string(name),    uint64_t(st.st_size), MtimeNs(st),         CtimeNs(st),
+                     uint32_t(st.st_mode), uint32_t(st.st_uid),  uint32_t(st.st_gid), IsLinkEntry(dirFd, *entry),
+                     uint64_t(st.st_dev),  uint64_t(st.st_ino)};
+        if (wantedDir)
+            subdirs->push_back(item);
+        if (wanted)
+            items.push_back(std::move(item));
     }
     closedir(handle);
     if (status)

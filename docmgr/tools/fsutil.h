@@ -33,7 +33,9 @@ struct ListStatus {
 // Entries of `dir` of the given kind whose names match `pattern` (";"-separated
 // alternatives, case-insensitive), in the order the file system gives them.
 // An unreadable or missing directory yields an empty list (and `status->error`).
-std::vector<DirItem> List(const std::string& dir, std::string_view pattern, Kind kind, ListStatus* status = nullptr);
+// `subdirs`, when given, gets every subdirectory in the same pass, whatever its name.
+std::vector<DirItem> List(const std::string& dir, std::string_view pattern, Kind kind, ListStatus* status = nullptr,
+                          std::vector<DirItem>* subdirs = nullptr);
 
 bool IsDirectory(const std::string& path);
 bool IsFile(const std::string& path);

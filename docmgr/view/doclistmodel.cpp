@@ -22,7 +22,7 @@ QVariant DocListModel::data(const QModelIndex& index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
         return {};
-    const DocInfo* info = rows_[size_t(index.row())];
+    const DocInfo* info = Info(rows_[size_t(index.row())]);
     const uint16_t id = ids_[size_t(index.column())];
     switch (role) {
     case Qt::DisplayRole:
@@ -32,6 +32,17 @@ QVariant DocListModel::data(const QModelIndex& index, int role) const
                               : QVariant(int(Qt::AlignLeft | Qt::AlignVCenter));
     default: return {};
     }
+}
+
+const DocInfo* DocListModel::Info(RowStore::Id row) const
+{
+    if (row == NO_ROW || !list_)
+        return nullptr;
+    if (row != scratchRow_) {
+        list_->Store().Fill(row, scratch_);
+        scratchRow_ = row;
+    }
+    return &scratch_;
 }
 
 QVariant DocListModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -60,14 +71,6 @@ uint16_t DocListModel::ColumnId(int column) const
     return column >= 0 && size_t(column) < ids_.size() ? ids_[size_t(column)] : 0;
 }
 
-namespace {
-// The document of a row as the model keeps it.
-const DocInfo* Info(const DocInfo* row)
-{
-    return row;
-}
-}  // namespace
-
 const DocInfo* DocListModel::RowInfo(int row) const
 {
     return row >= 0 && size_t(row) < rows_.size() ? Info(rows_[size_t(row)]) : nullptr;
@@ -81,50 +84,55 @@ int DocListModel::ColumnOf(uint16_t id) const
 
 void DocListModel::HideRows()
 {
+    scratchRow_ = NO_ROW;  // the store is about to be emptied
     if (rows_.empty())
         return;
     beginResetModel();
-    rows_.clear();
+    std::vector<RowStore::Id>().swap(rows_);
     endResetModel();
 }
 
 void DocListModel::ShowRows(const DocRowList& list)
 {
     beginResetModel();
-    rows_.clear();
-    rows_.reserve(size_t(list.GetRowCount()));
-    for (const auto& row : list.Rows())
-        rows_.push_back(row.get());
+    list_ = &list;
+    scratchRow_ = NO_ROW;
+    rows_.resize(size_t(list.GetRowCount()));
+    for (long r = 0; r < list.GetRowCount(); ++r)
+        rows_[size_t(r)] = list.StoreId(r);
     endResetModel();
 }
 
 void DocListModel::RowsReordered(const DocRowList& list)
 {
     emit layoutAboutToBeChanged({}, QAbstractItemModel::VerticalSortHint);
-    std::unordered_map<const DocInfo*, int> newRow;
-    newRow.reserve(size_t(list.GetRowCount()));
-    for (long r = 0; r < list.GetRowCount(); ++r)
-        newRow.emplace(&list.Row(r), int(r));
     const QModelIndexList before = persistentIndexList();
     QModelIndexList after;
-    after.reserve(before.size());
-    for (const QModelIndex& index : before) {
-        auto it = newRow.find(rows_[size_t(index.row())]);
-        after.append(it == newRow.end() ? QModelIndex() : createIndex(it->second, index.column()));
+    if (!before.isEmpty()) {
+        std::unordered_map<RowStore::Id, int> newRow;
+        newRow.reserve(size_t(list.GetRowCount()));
+        for (long r = 0; r < list.GetRowCount(); ++r)
+            newRow.emplace(list.StoreId(r), int(r));
+        after.reserve(before.size());
+        for (const QModelIndex& index : before) {
+            auto it = newRow.find(rows_[size_t(index.row())]);
+            after.append(it == newRow.end() ? QModelIndex() : createIndex(it->second, index.column()));
+        }
     }
-    rows_.clear();
-    for (const auto& row : list.Rows())
-        rows_.push_back(row.get());
+    list_ = &list;
+    rows_.resize(size_t(list.GetRowCount()));
+    for (long r = 0; r < list.GetRowCount(); ++r)
+        rows_[size_t(r)] = list.StoreId(r);
     changePersistentIndexList(before, after);
     emit layoutChanged({}, QAbstractItemModel::VerticalSortHint);
 }
 
 void DocListModel::RowsRemoved(const std::vector<long>& rows, const DocRowList& list)
 {
-    // The list has deleted these DocInfos already; forget them before anyone can look.
+    // The list has dropped these rows already; forget them before anyone can look.
     for (long row : rows)
         if (row >= 0 && size_t(row) < rows_.size())
-            rows_[size_t(row)] = nullptr;
+            rows_[size_t(row)] = NO_ROW;
     for (long row : rows) {
         if (row < 0 || size_t(row) >= rows_.size())
             continue;
@@ -140,7 +148,7 @@ void DocListModel::RowReplaced(long row, const DocRowList& list)
 {
     if (row < 0 || size_t(row) >= rows_.size() || row >= list.GetRowCount())
         return;
-    rows_[size_t(row)] = &list.Row(row);
+    rows_[size_t(row)] = list.StoreId(row);
     if (!ids_.empty())
         emit dataChanged(index(int(row), 0), index(int(row), columnCount() - 1));
 }

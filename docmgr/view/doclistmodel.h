@@ -1,10 +1,10 @@
 #pragma once
-// The table model of the document list: one row per DocInfo of the row list, one
-// column per configured column id, the cell texts of GetFieldString.
+// The table model of the document list: one row per row of the row list, one column
+// per configured column id, the cell texts of GetFieldString.
 //
-// The model keeps its own pointers to the rows it has announced, so that the view
-// never sees a row the list has already dropped or not yet finished: while a
-// collection runs the model shows no rows at all.
+// The model keeps its own list of the rows it has announced (their places in the row
+// store), so that the view never sees a row the list has already dropped or not yet
+// finished: while a collection runs the model shows no rows at all.
 #include <QAbstractTableModel>
 #include <cstdint>
 #include <vector>
@@ -42,7 +42,15 @@ public:
     void RowReplaced(long row, const DocRowList& list);
 
 private:
-    std::vector<const DocInfo*> rows_;
+    static constexpr RowStore::Id NO_ROW = RowStore::Id(-1);
+    // The row's information, made once for all the cells of that row that are painted
+    // one after the other.
+    const DocInfo* Info(RowStore::Id row) const;
+
+    const DocRowList* list_ = nullptr;
+    std::vector<RowStore::Id> rows_;
+    mutable DocInfo scratch_;
+    mutable RowStore::Id scratchRow_ = NO_ROW;
     std::vector<uint16_t> ids_;
     std::vector<QString> titles_;
 };

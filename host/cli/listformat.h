@@ -8,13 +8,11 @@
 #include <string>
 #include <vector>
 
-#include "docmgr/records/docinfo.h"
+#include "docmgr/records/docrows.h"
 #include "host/cli/commandline.h"
 #include "host/readers/readproblem.h"
 
 class DocGroupConfig;
-
-using DocRows = std::vector<std::unique_ptr<DocInfo>>;
 
 // The columns to show: `chosen` when given, else the group's slots in slot order without
 // the slots that hold no column id (all 20 ids when no slot holds one).

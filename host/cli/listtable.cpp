@@ -76,7 +76,7 @@ void WriteTextList(ListSink& sink, const DocRows& rows, const std::vector<uint16
     };
     ForEachCell(nullptr, columns, group, measure);
     for (const auto& row : rows)
-        ForEachCell(row.get(), columns, group, measure);
+        ForEachCell(row, columns, group, measure);
 
     std::string& out = sink.Text();
     const auto append = [&](size_t c, std::string_view text) {
@@ -95,7 +95,7 @@ void WriteTextList(ListSink& sink, const DocRows& rows, const std::vector<uint16
     };
     line(nullptr);
     for (const auto& row : rows)
-        line(row.get());
+        line(row);
 }
 
 void WriteTsvList(ListSink& sink, const DocRows& rows, const std::vector<uint16_t>& columns,
@@ -110,7 +110,7 @@ void WriteTsvList(ListSink& sink, const DocRows& rows, const std::vector<uint16_
     ForEachCell(nullptr, columns, group, append);
     out += '\n';
     for (const auto& row : rows) {
-        ForEachCell(row.get(), columns, group, append);
+        ForEachCell(row, columns, group, append);
         out += '\n';
         sink.RowDone();
     }

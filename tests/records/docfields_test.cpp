@@ -94,17 +94,19 @@ using Entries = std::vector<std::string>;
 // Rows with these entries, each changed by `fill` (given its index), sorted; their entries.
 static Entries Sorted(const Entries& entries, uint16_t column, bool ascending, const std::function<void(DocInfo&, size_t)>& fill = {})
 {
-    std::vector<std::unique_ptr<DocInfo>> rows;
+    RowStore store;
+    std::vector<RowStore::Id> rows;
     for (const std::string& entry : entries) {
-        rows.push_back(std::make_unique<DocInfo>());
-        rows.back()->entry = entry;
+        DocInfo row;
+        row.entry = entry;
         if (fill)
-            fill(*rows.back(), rows.size() - 1);
+            fill(row, rows.size());
+        rows.push_back(store.Add(row));
     }
-    SortRows(rows, column, ascending);
+    SortRows(store, rows, column, ascending);
     Entries sorted;
-    for (const auto& row : rows)
-        sorted.push_back(row->entry);
+    for (const RowStore::Id row : rows)
+        sorted.push_back(store.EntryOf(row));
     return sorted;
 }
 

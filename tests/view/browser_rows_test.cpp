@@ -57,7 +57,7 @@ TEST_F(ManagerTest, ALongCollectionShowsHowFarItHasGotADoubleClickOnARowOpensIt)
     MakeDocs({"one/a.odt", "two/b.odt", "two/deeper/c.odt"});
     CollectProgress::SetDelay(0);  // every collection counts as long
     Start();
-    CollectProgress::SetDelay(500);
+    CollectProgress::SetDelay(100);
     EXPECT_EQ(Browser().GetRowCount(), 3);
     EXPECT_TRUE(Browser().GetCollectProgress().WasShown());
     EXPECT_TRUE(Browser().GetCollectProgress().LastText().contains("folders"));
