@@ -13,6 +13,13 @@ constexpr size_t kFlushAt = 5000;
 
 }  // namespace
 
+// A reading that failed for want of a reader says nothing of the file: kept, it would
+// outlive the missing module.
+bool CachedReader::Worth(const DocReading& reading)
+{
+    return reading.problem != ReadProblem::NoReader;
+}
+
 bool CachedReader::Settled(const std::string& path, const FileIdentity& id)
 {
     const std::string dir = fsutil::DirName(path);
@@ -150,7 +157,7 @@ std::unique_ptr<DocInfo> CachedReader::Take(const std::string& path)
     FileIdentity id;
     bool known = false;
     DocReading reading = readAhead_.TakeReading(path, &id, &known);
-    if (known && Settled(path, id)) {
+    if (known && Worth(reading) && Settled(path, id)) {
         cache_->Store(path, id, PackReading(reading));
         Written();
     }
@@ -165,7 +172,7 @@ ReadProblem CachedReader::Problem(const std::string& path)
     if (known && Lookup(path, id, reading))
         return reading.problem;
     reading = ReadDocument(path);
-    if (known && Settled(path, id))
+    if (known && Worth(reading) && Settled(path, id))
         cache_->Store(path, id, PackReading(reading));
     return reading.problem;
 }

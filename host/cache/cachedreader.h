@@ -34,6 +34,7 @@ private:
     // Stored only when the file's times are older than the clock's resolution on its file
     // system: a change within the same tick would otherwise keep its identity.
     bool Settled(const std::string& path, const FileIdentity& id);
+    static bool Worth(const DocReading& reading);
     bool Lookup(const std::string& path, const FileIdentity& id, DocReading& reading);
     void TakeFolderHits(const std::string& dir, const std::vector<std::string>& paths,
                         const std::vector<FileIdentity>* known, size_t first, size_t end, std::vector<bool>& hit);
