@@ -16,43 +16,21 @@
 
 #include "docmgr/records/docfields.h"
 #include "docmgr/records/docfind.h"
+#include "bench/samplerows.h"
 
 namespace {
 
-const char* const WORDS[] = {"Annual",    "report",  "Budget",   "minutes", "Quarterly", "review",
-                             "Project",   "plan",    "Meeting",  "notes",   "Invoice",   "draft",
-                             "Übersicht", "Angebot", "contract", "Summary", "letter",    "memo"};
 // The columns a group shows by default, less the empty information fields.
 const std::vector<uint16_t> COLUMNS = {COL_NAME,   COL_SIZE,          COL_TITLE,         COL_TOPIC,    COL_CREATED_DATE,
                                        COL_AUTHOR, COL_MODIFIED_DATE, COL_MODIFIED_TIME, COL_KEYWORDS, COL_DIRECTORY};
 const std::string WORD = "quarterly";
 
-std::string Words(std::mt19937& rng, int count)
-{
-    std::uniform_int_distribution<size_t> pick(0, std::size(WORDS) - 1);
-    std::string text;
-    for (int i = 0; i < count; ++i)
-        text += (i ? " " : "") + std::string(WORDS[pick(rng)]);
-    return text;
-}
-
 std::vector<std::unique_ptr<DocInfo>> MakeRows(size_t count)
 {
     std::mt19937 rng(7);
-    std::uniform_int_distribution<unsigned> year(1995, 2024), month(1, 12), day(1, 28), number(1, 9999);
     std::vector<std::unique_ptr<DocInfo>> rows;
-    for (size_t i = 0; i < count; ++i) {
-        auto info = std::make_unique<DocInfo>();
-        info->entry = "/home/user/Documents/library/doc" + std::to_string(i) + ".odt";
-        info->size = number(rng) * 37;
-        info->title = Words(rng, 3) + ' ' + std::to_string(number(rng));
-        info->topic = Words(rng, 2);
-        info->author = i % 3 ? "Erika Mustermann" : "Zoë Ünal";
-        info->keywords = Words(rng, 2);
-        info->createdDate = Date(day(rng), month(rng), year(rng));
-        info->modifiedDate = Date(day(rng), month(rng), year(rng));
-        rows.push_back(std::move(info));
-    }
+    for (size_t i = 0; i < count; ++i)
+        rows.push_back(SampleRow(i, rng));
     return rows;
 }
 
