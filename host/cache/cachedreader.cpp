@@ -22,11 +22,12 @@ bool CachedReader::Worth(const DocReading& reading)
 
 bool CachedReader::Settled(const std::string& path, const FileIdentity& id)
 {
-    const std::string dir = fsutil::DirName(path);
+    // The paths are absolute: the folder is what stands before the last slash.
+    const std::string_view dir = std::string_view(path).substr(0, path.rfind('/'));
     if (dir != slackDir_) {
         slackDir_ = dir;
         // Network and FUSE mounts show the server's times, late and coarse.
-        slackNs_ = fsutil::CachesFileTimes(dir) ? 3000000000 : 100000000;
+        slackNs_ = fsutil::CachesFileTimes(slackDir_) ? 3000000000 : 100000000;
     }
     const int64_t limit = id.takenNs - slackNs_;
     return id.mtimeNs < limit && id.ctimeNs < limit;
